@@ -1,0 +1,7 @@
+#include "Core/Exception.h"
+
+namespace qev {
+
+exception::~exception() = default;
+
+} // namespace qev
