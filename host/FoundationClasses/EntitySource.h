@@ -1,0 +1,33 @@
+#pragma once
+
+#include "FoundationClasses/EntityIndex.h"
+#include "HostFoundationClassesExport.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+
+namespace qev::fc {
+
+class Data;
+class FcBase;
+
+/// Where the entities of a model come from: a file that was indexed and whose records become
+/// objects when something first asks for them. Indices count its records from 0.
+class HOSTFOUNDATIONCLASSES_EXPORT EntitySource
+{
+public:
+    virtual ~EntitySource();
+
+    [[nodiscard]] virtual std::size_t count() const = 0;
+    /// The type number of a record; 0 for an entity that the model has no class for.
+    [[nodiscard]] virtual std::uint16_t classNumber(EntityIndex index) const = 0;
+    /// Fills a new object of the record's class with the record's values.
+    virtual void read(EntityIndex index, Data& data, FcBase& entity) = 0;
+    /// Calls \p visit for each entity that an attribute of the record refers to, without making objects.
+    /// \p slot is a slot of the class in this model, not of the file's own version.
+    virtual void forEachReference(EntityIndex index, unsigned int slot,
+                                  std::function<void(EntityIndex)> const& visit) const = 0;
+};
+
+} // namespace qev::fc
