@@ -15,7 +15,8 @@ using InstanceId = std::uint64_t;
 class StepValue
 {
 public:
-    enum class Kind : std::uint8_t {
+    enum class Kind : std::uint8_t
+    {
         Unset,       ///< `$`
         Derived,     ///< `*`
         Integer,     ///< `7`
@@ -33,7 +34,10 @@ public:
     [[nodiscard]] static StepValue integer(std::int64_t number);
     [[nodiscard]] static StepValue real(double number);
     [[nodiscard]] static StepValue text(std::string text) { return {Kind::Text, std::move(text)}; }
-    [[nodiscard]] static StepValue enumeration(std::string item) { return {Kind::Enumeration, std::move(item)}; }
+    [[nodiscard]] static StepValue enumeration(std::string item)
+    {
+        return {Kind::Enumeration, std::move(item)};
+    }
     [[nodiscard]] static StepValue binary(std::string digits) { return {Kind::Binary, std::move(digits)}; }
     [[nodiscard]] static StepValue reference(InstanceId id);
     [[nodiscard]] static StepValue typed(std::string keyword, StepValue item);
@@ -57,8 +61,15 @@ public:
     friend bool operator==(StepValue const& a, StepValue const& b) = default;
 
 private:
-    explicit StepValue(Kind kind) : m_kind(kind) {}
-    StepValue(Kind kind, std::string text) : m_kind(kind), m_text(std::move(text)) {}
+    explicit StepValue(Kind kind)
+        : m_kind(kind)
+    {
+    }
+    StepValue(Kind kind, std::string text)
+        : m_kind(kind)
+        , m_text(std::move(text))
+    {
+    }
 
     Kind m_kind = Kind::Unset;
     std::int64_t m_integer = 0;
