@@ -1,0 +1,32 @@
+#pragma once
+
+#include "HostCoreExport.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qev::str {
+
+/// The shortest decimal text that reads back as exactly \p value, with "." for the decimal sign,
+/// whatever the locale. Very large and very small numbers have an exponent.
+HOSTCORE_EXPORT std::string shortestText(double value);
+
+/// The same as a real number of a STEP file, which always has a decimal point: "2.", "1.E-05".
+///
+/// Such a file has no text for a number that is not finite; "$", no value, stands for it.
+HOSTCORE_EXPORT std::string stepRealText(double value);
+
+/// \p value rounded to \p decimals digits behind the ".", without an exponent.
+HOSTCORE_EXPORT std::string fixedText(double value, int decimals);
+
+/// \p value rounded to \p digits significant digits, without zeros at the end.
+HOSTCORE_EXPORT std::string significantText(double value, int digits);
+
+/// Reads the whole of \p text as a number with "." for the decimal sign, whatever the locale.
+///
+/// A sign, an exponent, and a point without digits on one of its sides are fine; blanks, hexadecimal
+/// digits, infinity and numbers outside of the range of `double` are not.
+HOSTCORE_EXPORT std::optional<double> parseDouble(std::string_view text);
+
+} // namespace qev::str

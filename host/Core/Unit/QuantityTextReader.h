@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Core/Unit/QuantityBase.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qev::unit {
+
+/// Reads what a user typed for a value of a quantity; the rules stand at `QppSettings::parse`.
+class QuantityTextReader
+{
+public:
+    /// \p displayUnit is the unit of a number without one; the result is of \p target.
+    QuantityTextReader(std::string_view text, UnitBase const& displayUnit, UnitBase const& target);
+
+    [[nodiscard]] std::optional<double> read();
+
+private:
+    struct Term
+    {
+        double number = 0;
+        UnitBase const* unit = nullptr;
+    };
+
+    bool readSign();
+    std::optional<Term> readTerm();
+    std::optional<double> readNumberWithFraction();
+    std::optional<double> readFraction();
+    std::string_view readDigits();
+    UnitBase const* readUnit();
+    UnitBase const* matchUnit(bool ignoreCase, std::size_t& length) const;
+    bool endsUnit(std::size_t length) const;
+    void skipBlanks();
+    [[nodiscard]] bool atEnd() const { return m_position == m_text.size(); }
+    [[nodiscard]] std::string_view rest() const { return std::string_view(m_text).substr(m_position); }
+
+    std::string m_text;
+    UnitBase const& m_displayUnit;
+    UnitBase const& m_target;
+    std::size_t m_position = 0;
+};
+
+/// Reads a number whose decimal sign is a point or a comma; thousands may be grouped by the other one.
+std::optional<double> readUserNumber(std::string_view text);
+
+} // namespace qev::unit
