@@ -1,0 +1,228 @@
+#include "Ui/PropertyGrid/PropertyGridEditing.h"
+
+#include "Ui/PropertyGrid/PropertyGridModel.h"
+#include "Ui/PropertyGrid/PropertyGridNumber.h"
+#include "Ui/Window/Controls/PropertyGridControl/PropertyGridCheckBoxProperty.h"
+#include "Ui/Window/Controls/PropertyGridControl/PropertyGridCustomButtonProperty.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+using Kind = PropertyGridRowState::Kind;
+using ValueKind = PropertyGridRowState::ValueKind;
+
+PropertyGridEditResult accepted() { return {true, {}}; }
+
+PropertyGridEditResult refused(std::string message) { return {false, std::move(message)}; }
+
+PropertyGridEditResult refusedAsReadOnly() { return refused("This property cannot be changed."); }
+
+std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+
+bool hasShownValue(PropertyGridRowState const& state)
+{
+    if (state.valueKind == ValueKind::None)
+        return false;
+    return state.kind != Kind::CheckBox || state.valueDisplayMode == ValueDisplayMode::BesideCheckBox;
+}
+
+PropertyGridOption const* findOption(PropertyGridRowState const& state, std::string_view text)
+{
+    auto const found = std::find_if(state.options.begin(), state.options.end(),
+                                    [&](PropertyGridOption const& option) { return option.text == text; });
+    return found == state.options.end() ? nullptr : &*found;
+}
+
+bool isChoosable(PropertyGridRowState const& state, std::string_view text)
+{
+    auto const* const option = findOption(state, text);
+    return option && option->enabled;
+}
+
+void tellEdited(PropertyGridRow& row)
+{
+    if (auto* const model = row.getModel())
+        model->notifyRowEdited(row);
+}
+
+PropertyGridEditResult storeText(PropertyGridRow& row, std::string_view text)
+{
+    if (row.getState().text != text) {
+        row.setText(std::string(text));
+        tellEdited(row);
+    }
+    return accepted();
+}
+
+PropertyGridEditResult storeNumber(PropertyGridRow& row, std::optional<double> number)
+{
+    if (row.getState().number != number) {
+        row.setNumber(number);
+        tellEdited(row);
+    }
+    return accepted();
+}
+
+/// Stores what \p text says in the terms of the row's value.
+PropertyGridEditResult store(PropertyGridRow& row, std::string_view text)
+{
+    if (row.getState().valueKind == ValueKind::Text)
+        return storeText(row, text);
+    if (text.empty())
+        return storeNumber(row, std::nullopt);
+    // An unchanged text stands for the very number, whatever a round trip through units would make of it.
+    if (text == PropertyGridEditing::getEditorText(row))
+        return accepted();
+    auto const number = PropertyGridNumber::read(text, row.getQuantityPresentation());
+    if (!number)
+        return refused(quoted(text) + " is not a number that this property can take.");
+    return storeNumber(row, number);
+}
+
+} // namespace
+
+PropertyGridEditor PropertyGridEditing::getEditor(PropertyGridRow const& row)
+{
+    auto const valueEditor = getValueEditor(row);
+    if (!canClickCheckBox(row))
+        return valueEditor;
+    return valueEditor == PropertyGridEditor::None ? PropertyGridEditor::CheckBox
+                                                   : PropertyGridEditor::CheckBoxWithValue;
+}
+
+PropertyGridEditor PropertyGridEditing::getValueEditor(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    if (!state.enabled || !hasShownValue(state))
+        return PropertyGridEditor::None;
+    if (!state.options.empty())
+        return state.allowEdit || !state.optionsOnly ? PropertyGridEditor::Choice : PropertyGridEditor::None;
+    if (!state.allowEdit)
+        return PropertyGridEditor::None;
+    return state.valueKind == ValueKind::Number ? PropertyGridEditor::Number : PropertyGridEditor::Text;
+}
+
+char const* PropertyGridEditing::getEditorName(PropertyGridEditor editor)
+{
+    switch (editor) {
+    case PropertyGridEditor::None:
+        return "none";
+    case PropertyGridEditor::Text:
+        return "text";
+    case PropertyGridEditor::Number:
+        return "number";
+    case PropertyGridEditor::Choice:
+        return "choice";
+    case PropertyGridEditor::CheckBox:
+        return "check box";
+    case PropertyGridEditor::CheckBoxWithValue:
+        return "check box with value";
+    }
+    return "none";
+}
+
+bool PropertyGridEditing::hasCheckBox(PropertyGridRow const& row)
+{
+    return row.getState().kind == Kind::CheckBox;
+}
+
+bool PropertyGridEditing::canClickCheckBox(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    return state.kind == Kind::CheckBox && state.enabled && state.allowEdit;
+}
+
+bool PropertyGridEditing::hasVisibleButton(PropertyGridRow const& row)
+{
+    return row.getState().buttonVisibleState == propertygridcontrol::button::VisibleState::Visible;
+}
+
+bool PropertyGridEditing::canPressButton(PropertyGridRow const& row)
+{
+    return hasVisibleButton(row) && row.getState().enabled;
+}
+
+bool PropertyGridEditing::canTypeFreely(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    return state.enabled && hasShownValue(state) && state.allowEdit && !state.optionsOnly;
+}
+
+std::string PropertyGridEditing::getDisplayedText(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    std::string text;
+    if (!state.emptyState && hasShownValue(state))
+        row.getStringValue(text);
+    return text;
+}
+
+std::string PropertyGridEditing::getEditorText(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    if (state.valueKind != ValueKind::Number)
+        return state.text;
+    return state.number ? PropertyGridNumber::getEditorText(*state.number, row.getQuantityPresentation())
+                        : std::string();
+}
+
+PropertyGridEditResult PropertyGridEditing::commitText(PropertyGridRow& row, std::string_view text)
+{
+    switch (getValueEditor(row)) {
+    case PropertyGridEditor::Text:
+    case PropertyGridEditor::Number:
+        return store(row, text);
+    case PropertyGridEditor::Choice:
+        if (!isChoosable(row.getState(), text) && !canTypeFreely(row))
+            return refused(quoted(text) + " is not among the values of this property.");
+        return store(row, text);
+    case PropertyGridEditor::None:
+    case PropertyGridEditor::CheckBox:
+    case PropertyGridEditor::CheckBoxWithValue:
+        break;
+    }
+    return refusedAsReadOnly();
+}
+
+PropertyGridEditResult PropertyGridEditing::choose(PropertyGridRow& row, std::string_view text)
+{
+    if (getValueEditor(row) != PropertyGridEditor::Choice)
+        return refusedAsReadOnly();
+    if (!isChoosable(row.getState(), text))
+        return refused(quoted(text) + " is not among the values of this property.");
+    return store(row, text);
+}
+
+PropertyGridEditResult PropertyGridEditing::clear(PropertyGridRow& row) { return commitText(row, {}); }
+
+PropertyGridEditResult PropertyGridEditing::clickCheckBox(PropertyGridRow& row)
+{
+    if (!canClickCheckBox(row))
+        return refusedAsReadOnly();
+    auto const keepAlive = row.shared_from_this();
+    row.setCheckState(row.getCheckState() == CheckState::Checked ? CheckState::Unchecked
+                                                                 : CheckState::Checked);
+    PropertyGridCheckBoxProperty property(keepAlive);
+    fireEvent(row.getCheckBoxClickedHandlers(), property);
+    return accepted();
+}
+
+PropertyGridEditResult PropertyGridEditing::pressButton(PropertyGridRow& row)
+{
+    if (!canPressButton(row))
+        return refused("This property has no button that can be pressed.");
+    auto const keepAlive = row.shared_from_this();
+    if (row.getState().hasCustomButton) {
+        PropertyGridCustomButtonProperty property(keepAlive);
+        fireEvent(row.getCustomButtonClickedHandlers(), property, getDisplayedText(row));
+    }
+    PropertyGridProperty property(keepAlive);
+    fireEvent(row.getButtonClickedHandlers(), property);
+    return accepted();
+}
+
+} // namespace qev::ui

@@ -1,0 +1,165 @@
+#include "Ui/Window/Controls/ListControl/ListControl.h"
+
+#include "Core/Assert/Assert.h"
+
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+void reportFrom(std::string_view operation, std::string_view text)
+{
+    assert::report(text, "qev::ui::ListControl::" + std::string(operation),
+                   "Ui/Window/Controls/ListControl/ListControl");
+}
+
+ListControl::ItemInfo firstItem(std::vector<ListControl::ItemInfo> const& items)
+{
+    return items.empty() ? ListControl::ItemInfo() : items.front();
+}
+
+} // namespace
+
+ListControl::ItemInfo ListControl::LabelEditBeginParams::getItemToEdit() const
+{
+    if (items.size() > 1)
+        reportFrom("LabelEditBeginParams::getItemToEdit", "Should only be called when editing ONE item.");
+    return firstItem(items);
+}
+
+std::size_t ListControl::LabelEditEndParams::getColumnIndex() const
+{
+    if (items.empty()) {
+        reportFrom("LabelEditEndParams::getColumnIndex", "No items are being edited.");
+        return 0;
+    }
+    return items.front().column.value_or(0);
+}
+
+std::string const& ListControl::LabelEditEndParams::getEditBoxText() const
+{
+    if (editType == DropList)
+        reportFrom("LabelEditEndParams::getEditBoxText",
+                   "This is a drop list label edit control: Call iDropIndSelected() instead.");
+    return text;
+}
+
+std::size_t ListControl::LabelEditEndParams::getSelectedDropListIndex() const
+{
+    if (editType != DropList && editType != DropDown)
+        reportFrom("LabelEditEndParams::getSelectedDropListIndex", "Not a drop down or drop list control.");
+    if (editType == DropDown && !hasSelection)
+        reportFrom("LabelEditEndParams::getSelectedDropListIndex",
+                   "Nothing was selected in the drop down, i.e. a new text was written.");
+    return selectedIndex;
+}
+
+ListControl::ItemInfo ListControl::LabelEditEndParams::getEditedItem() const
+{
+    if (items.size() > 1)
+        reportFrom("LabelEditEndParams::getEditedItem",
+                   "Should only be called for column for which editing several items is not allowed.");
+    return firstItem(items);
+}
+
+void ListControl::setItemAndColumnCounts(std::size_t rows, std::size_t columns)
+{
+    if (auto* const listInterface = requireListInterface("setItemAndColumnCounts"))
+        listInterface->setItemAndColumnCounts(rows, columns);
+}
+
+void ListControl::redrawItem(std::size_t row)
+{
+    if (auto* const listInterface = requireListInterface("redrawItem"))
+        listInterface->redrawItem(row);
+}
+
+std::vector<std::size_t> ListControl::getSelectedItems() const
+{
+    auto const* const listInterface = requireListInterface("getSelectedItems");
+    return listInterface ? listInterface->getSelectedItems() : std::vector<std::size_t>();
+}
+
+void ListControl::enableColumnCheckBoxes(std::size_t column, int mode,
+                                         std::shared_ptr<Image const> checkedImage,
+                                         std::shared_ptr<Image const> uncheckedImage)
+{
+    if (auto* const listInterface = requireListInterface("enableColumnCheckBoxes"))
+        listInterface->enableColumnCheckBoxes(column, true, mode, std::move(checkedImage),
+                                              std::move(uncheckedImage));
+}
+
+void ListControl::activateComboBoxEditingForColumn(std::size_t column)
+{
+    auto* const listInterface = requireListInterface("activateComboBoxEditingForColumn");
+    if (!listInterface)
+        return;
+    if (!listInterface->isUsingReportStyle())
+        reportFrom("activateComboBoxEditingForColumn", "Only applies to report style controls.");
+    listInterface->activateComboBoxEditingForColumn(column);
+}
+
+bool ListControl::isUsingReportStyle() const
+{
+    auto const* const listInterface = requireListInterface("isUsingReportStyle");
+    return listInterface && listInterface->isUsingReportStyle();
+}
+
+void ListControl::enableLabelEdit(bool enabled)
+{
+    if (auto* const listInterface = requireListInterface("enableLabelEdit"))
+        listInterface->enableLabelEdit(enabled);
+}
+
+void ListControl::startLabelEdit(std::size_t row, std::size_t column)
+{
+    if (auto* const listInterface = requireListInterface("startLabelEdit"))
+        listInterface->startLabelEdit(row, column);
+}
+
+void ListControl::addStyleFlags(unsigned int flags)
+{
+    if (auto* const listInterface = requireListInterface("addStyleFlags"))
+        listInterface->addStyleFlags(flags);
+}
+
+ListControlSettings ListControl::getSettings() const
+{
+    auto const* const listInterface = requireListInterface("getSettings");
+    return listInterface ? listInterface->getSettings() : ListControlSettings();
+}
+
+void ListControl::loadSettings(ListControlSettings const& settings)
+{
+    if (auto* const listInterface = requireListInterface("loadSettings"))
+        listInterface->loadSettings(settings);
+}
+
+void ListControl::setInterface(WindowInterface& windowInterface)
+{
+    DialogControl::setInterface(windowInterface);
+    m_listInterface = dynamic_cast<ListControlInterface*>(&windowInterface);
+    m_header.setInterface(m_listInterface ? &m_listInterface->getHeaderInterface() : nullptr);
+}
+
+void ListControl::resetInterface()
+{
+    m_header.setInterface(nullptr);
+    m_listInterface = nullptr;
+    DialogControl::resetInterface();
+}
+
+bool ListControl::isCompatibleWith(WindowClass windowClass) const
+{
+    return windowClass == WindowClass::ListControl;
+}
+
+ListControlInterface* ListControl::requireListInterface(std::string_view operation) const
+{
+    if (!m_listInterface)
+        reportFrom(operation, "List control interface not set.");
+    return m_listInterface;
+}
+
+} // namespace qev::ui

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "HostUiExport.h"
+
+#include <cstddef>
+#include <set>
+
+namespace qev::ui {
+
+/// The platform side of the header of a list.
+class HOSTUI_EXPORT ListControlHeaderInterface
+{
+public:
+    virtual ~ListControlHeaderInterface() = default;
+
+    virtual void setDefaultHiddenColumns(std::set<std::size_t> const& columns) = 0;
+};
+
+} // namespace qev::ui

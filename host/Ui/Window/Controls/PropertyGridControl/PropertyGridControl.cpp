@@ -1,0 +1,92 @@
+#include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
+
+#include "Core/Assert/Assert.h"
+
+#include <string>
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+void reportFrom(std::string_view operation, std::string_view text)
+{
+    assert::report(text, "qev::ui::PropertyGridControl::" + std::string(operation),
+                   "Ui/Window/Controls/PropertyGridControl/PropertyGridControl");
+}
+
+} // namespace
+
+PropertyGridControl::~PropertyGridControl()
+{
+    if (m_gridInterface)
+        m_gridInterface->getModel()->setEditedFunction(nullptr);
+}
+
+void PropertyGridControl::addProperty(std::unique_ptr<PropertyGridProperty> property)
+{
+    auto* const gridInterface = requireGridInterface("addProperty");
+    if (!gridInterface)
+        return;
+    auto row = property ? std::dynamic_pointer_cast<PropertyGridRow>(property->takeCreated()) : nullptr;
+    if (row)
+        gridInterface->getModel()->appendRow(std::move(row));
+    else
+        reportFrom("addProperty", "Property isn't new.");
+}
+
+void PropertyGridControl::removeAllProperties()
+{
+    if (auto* const gridInterface = requireGridInterface("removeAllProperties"))
+        gridInterface->getModel()->clear();
+}
+
+void PropertyGridControl::adjustLayout()
+{
+    if (auto* const gridInterface = requireGridInterface("adjustLayout"))
+        gridInterface->adjustLayout();
+}
+
+std::shared_ptr<PropertyGridModel> PropertyGridControl::getModel() const
+{
+    auto const* const gridInterface = requireGridInterface("getModel");
+    return gridInterface ? gridInterface->getModel() : nullptr;
+}
+
+void PropertyGridControl::setInterface(WindowInterface& windowInterface)
+{
+    DialogControl::setInterface(windowInterface);
+    m_gridInterface = dynamic_cast<PropertyGridControlInterface*>(&windowInterface);
+    if (!m_gridInterface)
+        return;
+    std::weak_ptr<Window> const self = shared_from_this();
+    m_gridInterface->getModel()->setEditedFunction([self](std::shared_ptr<PropertyGridRow> const& row) {
+        auto const control = std::dynamic_pointer_cast<PropertyGridControl>(self.lock());
+        if (!control)
+            return;
+        PropertyGridProperty property(row);
+        fireEvent(control->onPropertyChanged, property);
+    });
+}
+
+void PropertyGridControl::resetInterface()
+{
+    if (m_gridInterface)
+        m_gridInterface->getModel()->setEditedFunction(nullptr);
+    m_gridInterface = nullptr;
+    DialogControl::resetInterface();
+}
+
+bool PropertyGridControl::isCompatibleWith(WindowClass windowClass) const
+{
+    return windowClass == WindowClass::PropertyGridControl;
+}
+
+PropertyGridControlInterface* PropertyGridControl::requireGridInterface(std::string_view operation) const
+{
+    if (!m_gridInterface)
+        reportFrom(operation, "Property grid control interface not set.");
+    return m_gridInterface;
+}
+
+} // namespace qev::ui

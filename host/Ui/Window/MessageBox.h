@@ -1,0 +1,44 @@
+#pragma once
+
+#include "HostUiExport.h"
+
+#include <functional>
+#include <string>
+
+namespace qev::ui {
+
+/// Messages that the user has to close.
+class HOSTUI_EXPORT MessageBox
+{
+public:
+    enum class Icon : int
+    {
+        None,
+        Information,
+        Warning,
+        Error,
+    };
+
+    enum class DefaultButton : int
+    {
+        First,
+        Second,
+        Third,
+    };
+
+    struct Message
+    {
+        std::string text;
+        std::string title;
+        Icon icon = Icon::None;
+        DefaultButton defaultButton = DefaultButton::First;
+        /// Called once the message is closed; may be empty.
+        std::function<void()> onClosed;
+    };
+
+    /// Shows a message with one button. Without a back end nobody can see it: \p onClosed is called at once.
+    static void vShowOk(std::string const& text, std::string const& title, Icon icon,
+                        DefaultButton defaultButton, std::function<void()> onClosed);
+};
+
+} // namespace qev::ui
