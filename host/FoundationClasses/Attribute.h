@@ -5,6 +5,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <functional>
 #include <utility>
 
 namespace qev::fc {
@@ -23,6 +24,9 @@ public:
     [[nodiscard]] FcBase& owner() const;
     /// The position in the record.
     [[nodiscard]] unsigned int slot() const { return m_slot; }
+
+    /// Runs \p change, which alters this attribute through its operations, as one change of the model.
+    void change(std::function<void()> const& change);
 
 protected:
     AttributeBase(FcBase* owner, unsigned int slot);

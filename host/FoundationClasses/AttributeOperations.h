@@ -30,6 +30,8 @@ struct AttributeOperations
     void (*restore)(AttributeBase&, void const*);
     bool (*equals)(AttributeBase const&, void const*);
     bool (*isUnset)(AttributeBase const&);
+    /// Cuts the references loose from a model that is about to end.
+    void (*leaveModel)(AttributeBase&);
 };
 
 /// The table of `Attribute<T>`; the definition is in `AttributeOperationsOf.h`, which only

@@ -138,6 +138,8 @@ private:
     std::map<std::uint16_t, std::vector<EntityIndex>> m_createdByClass;
     mutable std::map<InverseKey, InverseIndex> m_inverseIndexes;
     ChangeLog m_changes;
+    /// Changes that have begun and not yet ended, innermost last.
+    std::vector<ChangeLog::Change> m_pending;
 };
 
 } // namespace qev::fc

@@ -76,6 +76,8 @@ public:
     bool updateValueFromPropertyValue(object::PropertyValue const& value);
 
 private:
+    void setPayload(Payload payload);
+
     std::variant<FcDerivedMeasureValue, FcMeasureValue, FcSimpleValue, std::monostate> m_value{std::monostate{}};
 };
 

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "FoundationClasses/Attribute.h"
+#include "FoundationClasses/AttributeOperations.h"
+#include "FoundationClasses/AttributeValues.h"
+
+namespace qev::fc {
+
+/// Included by generated sources alone, which name every type an attribute may have.
+template <class T>
+AttributeOperations const& attributeOperations()
+{
+    static constexpr AttributeOperations operations = {
+        .read =
+            [](AttributeBase& attribute, AttributeDescriptor const& descriptor, step::StepValue const& value,
+               AttributeReader& reader) {
+                T& target = static_cast<Attribute<T>&>(attribute).raw();
+                target = T{};
+                if (!value.isUnset() && value.kind() != step::StepValue::Kind::Derived)
+                    values::read(target, descriptor, value, reader);
+            },
+        .write =
+            [](AttributeBase const& attribute, AttributeDescriptor const& descriptor, AttributeWriter const& writer) {
+                T const& value = static_cast<Attribute<T> const&>(attribute).get();
+                return values::isUnset(value) ? step::StepValue() : values::write(value, descriptor, writer);
+            },
+        .text =
+            [](AttributeBase const& attribute, AttributeDescriptor const& descriptor) {
+                return values::text(static_cast<Attribute<T> const&>(attribute).get(), descriptor);
+            },
+        .visitReferences =
+            [](AttributeBase const& attribute, std::function<void(ReferenceBase const&)> const& visit) {
+                values::visitReferences(static_cast<Attribute<T> const&>(attribute).get(), visit);
+            },
+        .snapshot = [](AttributeBase const& attribute) -> std::shared_ptr<void const> {
+            return std::make_shared<T>(static_cast<Attribute<T> const&>(attribute).get());
+        },
+        .restore =
+            [](AttributeBase& attribute, void const* value) {
+                static_cast<Attribute<T>&>(attribute).raw() = *static_cast<T const*>(value);
+            },
+        .equals =
+            [](AttributeBase const& attribute, void const* value) {
+                return static_cast<Attribute<T> const&>(attribute).get() == *static_cast<T const*>(value);
+            },
+        .isUnset =
+            [](AttributeBase const& attribute) {
+                return values::isUnset(static_cast<Attribute<T> const&>(attribute).get());
+            },
+        .leaveModel =
+            [](AttributeBase& attribute) { values::leaveModel(static_cast<Attribute<T>&>(attribute).raw()); },
+    };
+    return operations;
+}
+
+} // namespace qev::fc

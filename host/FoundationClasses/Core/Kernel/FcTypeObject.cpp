@@ -1,0 +1,18 @@
+#include "FoundationClasses/Core/Kernel/FcTypeObject.h"
+
+#include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
+
+namespace qev::fc::core::kernel {
+
+void FcTypeObject::eraseHasPropertySets(std::shared_ptr<FcPropertySetDefinition> const& set)
+{
+    if (!HasPropertySets.get())
+        return;
+    HasPropertySets.edit([&set](auto& sets) {
+        sets->erase(set);
+        if (sets->empty())
+            sets.reset();
+    });
+}
+
+} // namespace qev::fc::core::kernel

@@ -1,0 +1,384 @@
+#include "FoundationClasses/Data.h"
+
+#include "FoundationClasses/Attribute.h"
+#include "FoundationClasses/EntityClass.h"
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+
+namespace qev::fc {
+
+namespace {
+
+/// One attribute by which an entity of some class may be referred to.
+struct ReferringAttribute
+{
+    EntityClass const* entityClass;
+    unsigned int slot;
+};
+
+bool mayRefer(SelectDescriptor const& select, EntityClass const& target)
+{
+    return std::any_of(select.members.begin(), select.members.end(), [&target](SelectMember const& member) {
+        if (member.select)
+            return mayRefer(*member.select, target);
+        return member.first != 0 && member.first <= target.idFirst && target.idFirst <= member.last;
+    });
+}
+
+bool mayRefer(AttributeDescriptor const& attribute, EntityClass const& target)
+{
+    if (attribute.kind == ValueKind::Select)
+        return attribute.select && mayRefer(*attribute.select, target);
+    return attribute.kind == ValueKind::Reference && attribute.targetFirst <= target.idFirst &&
+           target.idFirst <= attribute.targetLast;
+}
+
+/// The attributes, each at the class that declares it, by which \p target may be referred to.
+std::vector<ReferringAttribute> referringAttributes(EntityClass const& target)
+{
+    std::vector<ReferringAttribute> result;
+    for (unsigned int number = 1; number <= FcBase::idLast; ++number) {
+        EntityClass const* const candidate = entityClassFromNumber(number);
+        std::size_t const inherited = candidate->supertype ? candidate->supertype->attributes.size() : 0;
+        for (std::size_t slot = inherited; slot < candidate->attributes.size(); ++slot) {
+            if (mayRefer(*candidate->attributes[slot], target))
+                result.push_back({candidate, static_cast<unsigned int>(slot)});
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+std::shared_ptr<Data> Data::create(std::unique_ptr<EntitySource> source)
+{
+    return std::shared_ptr<Data>(new Data(std::move(source)));
+}
+
+Data::Data(std::unique_ptr<EntitySource> source) : m_source(std::move(source)), m_changes(*this)
+{
+    if (!m_source)
+        return;
+    m_sourceCount = m_source->count();
+    m_classes.resize(m_sourceCount);
+    for (std::size_t i = 0; i < m_sourceCount; ++i)
+        m_classes[i] = m_source->classNumber(static_cast<EntityIndex>(i));
+    m_deleted.resize(m_sourceCount);
+    m_pages.resize((m_sourceCount + pageSize - 1) / pageSize);
+}
+
+Data::~Data()
+{
+    // Objects that somebody still holds must not lead back into this model.
+    for (auto const& page : m_pages) {
+        if (!page)
+            continue;
+        for (auto const& object : page->objects) {
+            if (!object)
+                continue;
+            object->m_data = nullptr;
+            object->m_index = noEntity;
+            if (object.use_count() == 1)
+                continue;
+            auto const attributes = object->getEntityClass().attributes;
+            for (unsigned int slot = 0; slot < attributes.size(); ++slot)
+                attributes[slot]->operations->leaveModel(object->attribute(slot));
+        }
+    }
+}
+
+std::uint16_t Data::classNumber(EntityIndex index) const { return index < m_classes.size() ? m_classes[index] : 0; }
+
+bool Data::isDeleted(EntityIndex index) const { return index >= m_deleted.size() || m_deleted[index]; }
+
+FcBase* Data::existingObject(EntityIndex index) const
+{
+    if (index >= m_classes.size())
+        return nullptr;
+    auto const& page = m_pages[index / pageSize];
+    return page ? page->objects[index % pageSize].get() : nullptr;
+}
+
+std::shared_ptr<FcBase> Data::entity(EntityIndex index) const
+{
+    if (isDeleted(index))
+        return nullptr;
+    if (auto const& page = m_pages[index / pageSize]; page && page->objects[index % pageSize])
+        return page->objects[index % pageSize];
+    EntityClass const* const entityClass = entityClassFromNumber(m_classes[index]);
+    if (!entityClass || !entityClass->create || index >= m_sourceCount)
+        return nullptr;
+    auto object = entityClass->create();
+    auto& self = const_cast<Data&>(*this);
+    m_source->read(index, self, *object);
+    object->m_data = &self;
+    object->m_index = index;
+    setObject(index, object);
+    return object;
+}
+
+void Data::setObject(EntityIndex index, std::shared_ptr<FcBase> object) const
+{
+    auto& page = m_pages[index / pageSize];
+    if (!page)
+        page = std::make_unique<Page>();
+    auto& place = page->objects[index % pageSize];
+    m_objectCount += (object ? 1 : 0);
+    m_objectCount -= (place ? 1 : 0);
+    place = std::move(object);
+}
+
+void Data::entityAdd(std::shared_ptr<FcBase> entity, bool)
+{
+    if (!entity)
+        return;
+    ChangeLog::Step const step(m_changes, "Add");
+    adopt(entity);
+}
+
+void Data::adopt(std::shared_ptr<FcBase> const& first)
+{
+    std::vector<std::shared_ptr<FcBase>> waiting{first};
+    while (!waiting.empty()) {
+        auto const entity = std::move(waiting.back());
+        waiting.pop_back();
+        if (entity->m_data == this && !m_deleted[entity->m_index])
+            continue;
+        if (entity->m_data == this) {
+            setState(entity->m_index, Present);
+        } else if (!entity->m_data) {
+            auto const index = static_cast<EntityIndex>(m_classes.size());
+            auto const number = static_cast<std::uint16_t>(entity->getIdFirst());
+            m_classes.push_back(number);
+            m_deleted.push_back(false);
+            if (m_pages.size() * pageSize < m_classes.size())
+                m_pages.emplace_back();
+            setObject(index, entity);
+            entity->m_data = this;
+            entity->m_index = index;
+            m_createdByClass[number].push_back(index);
+            for (unsigned int slot = 0; slot < entity->getEntityClass().attributes.size(); ++slot)
+                indexReferences(*entity, slot, true);
+        } else {
+            continue;
+        }
+        m_changes.record({ChangeLog::Kind::Addition, entity});
+        entity->forEachEntity([&waiting](std::shared_ptr<FcBase> const& referred) {
+            if (!referred->getData())
+                waiting.push_back(referred);
+        });
+    }
+}
+
+bool Data::entityDelete(std::shared_ptr<FcBase> entity)
+{
+    if (!entity || entity->m_data != this || m_deleted[entity->m_index])
+        return false;
+    ChangeLog::Step const step(m_changes, "Delete");
+    setState(entity->m_index, Deleted);
+    m_changes.record({ChangeLog::Kind::Deletion, entity});
+    return true;
+}
+
+void Data::setState(EntityIndex index, State state)
+{
+    bool const isDeletion = state == Deleted;
+    if (m_deleted[index] == isDeletion)
+        return;
+    FcBase const* const object = existingObject(index);
+    for (unsigned int slot = 0; object && slot < object->getEntityClass().attributes.size(); ++slot)
+        indexReferences(*object, slot, !isDeletion);
+    m_deleted[index] = isDeletion;
+}
+
+void Data::buildClassLists() const
+{
+    if (m_classListsBuilt)
+        return;
+    m_classStarts.assign(FcBase::idLast + 2, 0);
+    for (std::size_t i = 0; i < m_sourceCount; ++i)
+        ++m_classStarts[m_classes[i] + 1];
+    std::partial_sum(m_classStarts.begin(), m_classStarts.end(), m_classStarts.begin());
+    m_sortedByClass.resize(m_sourceCount);
+    auto next = m_classStarts;
+    for (std::size_t i = 0; i < m_sourceCount; ++i)
+        m_sortedByClass[next[m_classes[i]]++] = static_cast<EntityIndex>(i);
+    m_classListsBuilt = true;
+}
+
+std::vector<EntityIndex> Data::indicesFromId(unsigned int first, unsigned int last) const
+{
+    buildClassLists();
+    std::vector<EntityIndex> indices;
+    auto const append = [this, &indices](EntityIndex index) {
+        if (!m_deleted[index])
+            indices.push_back(index);
+    };
+    last = std::min(last, FcBase::idLast);
+    for (unsigned int number = first; number <= last; ++number) {
+        for (auto i = m_classStarts[number]; i < m_classStarts[number + 1]; ++i)
+            append(m_sortedByClass[i]);
+        if (auto const created = m_createdByClass.find(static_cast<std::uint16_t>(number));
+            created != m_createdByClass.end())
+            std::for_each(created->second.begin(), created->second.end(), append);
+    }
+    return indices;
+}
+
+std::size_t Data::countFromId(unsigned int first, unsigned int last) const { return indicesFromId(first, last).size(); }
+
+std::pair<EntityIterator, EntityIterator> Data::rangeFromId(unsigned int first, unsigned int last)
+{
+    return std::as_const(*this).rangeFromId(first, last);
+}
+
+std::pair<EntityIterator, EntityIterator> Data::rangeFromId(unsigned int first, unsigned int last) const
+{
+    auto const indices = std::make_shared<std::vector<EntityIndex> const>(indicesFromId(first, last));
+    return {EntityIterator(*this, indices, 0), EntityIterator(*this, indices, indices->size())};
+}
+
+void Data::visitReferences(EntityIndex index, unsigned int slot, std::function<void(EntityIndex)> const& visit) const
+{
+    FcBase const* const object = existingObject(index);
+    if (!object) {
+        m_source->forEachReference(index, slot, visit);
+        return;
+    }
+    auto const& operations = *object->getEntityClass().attributes[slot]->operations;
+    operations.visitReferences(object->attribute(slot), [&visit](ReferenceBase const& reference) {
+        if (reference.index() != noEntity)
+            visit(reference.index());
+    });
+}
+
+InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relationLast, unsigned int slot) const
+{
+    InverseKey const key{relationFirst, relationLast, slot};
+    if (auto const found = m_inverseIndexes.find(key); found != m_inverseIndexes.end())
+        return found->second;
+    std::vector<std::pair<EntityIndex, EntityIndex>> references;
+    for (EntityIndex const relation : indicesFromId(relationFirst, relationLast))
+        visitReferences(relation, slot, [&](EntityIndex target) { references.emplace_back(target, relation); });
+    return m_inverseIndexes.emplace(key, InverseIndex(std::move(references))).first->second;
+}
+
+std::vector<EntityIndex> const& Data::relating(EntityIndex target, unsigned int relationFirst,
+                                               unsigned int relationLast, unsigned int slot) const
+{
+    return inverseIndex(relationFirst, relationLast, slot).relating(target);
+}
+
+bool Data::isReferenced(EntityIndex target) const
+{
+    EntityClass const* const targetClass = entityClassFromNumber(classNumber(target));
+    if (!targetClass)
+        return false;
+    auto const attributes = referringAttributes(*targetClass);
+    return std::any_of(attributes.begin(), attributes.end(), [&](ReferringAttribute const& attribute) {
+        EntityClass const& referring = *attribute.entityClass;
+        return !relating(target, referring.idFirst, referring.idLast, attribute.slot).empty();
+    });
+}
+
+bool Data::deleteIfUnreferenced(std::shared_ptr<FcBase> const& entity)
+{
+    return entity && entity->m_data == this && !isReferenced(entity->m_index) && entityDelete(entity);
+}
+
+void Data::clearInverseIndexes() { m_inverseIndexes.clear(); }
+
+void Data::indexReferences(FcBase const& entity, unsigned int slot, bool add) const
+{
+    unsigned int const number = entity.getIdFirst();
+    for (auto& [key, index] : m_inverseIndexes) {
+        if (key.slot != slot || number < key.relationFirst || number > key.relationLast)
+            continue;
+        auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
+        operations.visitReferences(entity.attribute(slot), [&](ReferenceBase const& reference) {
+            if (reference.index() == noEntity)
+                return;
+            if (add)
+                index.add(reference.index(), entity.m_index);
+            else
+                index.remove(reference.index(), entity.m_index);
+        });
+    }
+}
+
+void Data::attributeWillChange(FcBase& entity, unsigned int slot)
+{
+    m_changes.begin("Change");
+    auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
+    bool const wasChanged = (entity.m_changedSlots >> slot & 1) != 0;
+    m_pending.push_back({ChangeLog::Kind::Attribute, entity.shared_from_this(), slot,
+                         operations.snapshot(entity.attribute(slot)), wasChanged});
+    indexReferences(entity, slot, false);
+}
+
+void Data::attributeDidChange(FcBase& entity, unsigned int slot)
+{
+    ChangeLog::Change change = std::move(m_pending.back());
+    m_pending.pop_back();
+    auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
+    if (!operations.equals(entity.attribute(slot), change.value.get())) {
+        entity.m_changedSlots |= std::uint64_t{1} << slot;
+        m_changes.record(std::move(change));
+        adoptReferences(entity, entity.attribute(slot));
+    }
+    indexReferences(entity, slot, true);
+    m_changes.end();
+}
+
+void Data::adoptReferences(FcBase const& entity, AttributeBase const& attribute)
+{
+    auto const& operations = *entity.getEntityClass().attributes[attribute.slot()]->operations;
+    operations.visitReferences(attribute, [this](ReferenceBase const& reference) {
+        if (auto const referred = reference.entity(); referred && !referred->getData())
+            adopt(referred);
+    });
+}
+
+void Data::notify(std::vector<EntityIndex> const& entities) { fireEvents(changed, entities); }
+
+void Data::releaseUnused()
+{
+    // An object may be held by the list of another one that is released first, hence the repetition.
+    for (bool released = true; released;) {
+        released = false;
+        for (auto& page : m_pages) {
+            if (!page)
+                continue;
+            bool isEmpty = true;
+            for (auto& object : page->objects) {
+                if (object && object.use_count() == 1 && object->m_index < m_sourceCount &&
+                    object->m_changedSlots == 0 && !m_deleted[object->m_index]) {
+                    object.reset();
+                    --m_objectCount;
+                    released = true;
+                }
+                isEmpty = isEmpty && !object;
+            }
+            if (isEmpty)
+                page.reset();
+        }
+    }
+}
+
+std::vector<EntityIndex> Data::touchedEntities() const
+{
+    std::vector<EntityIndex> touched;
+    for (std::size_t page = 0; page < m_pages.size(); ++page) {
+        if (!m_pages[page])
+            continue;
+        for (auto const& object : m_pages[page]->objects) {
+            if (object && (object->m_changedSlots != 0 || isCreated(object->m_index) || m_deleted[object->m_index]))
+                touched.push_back(object->m_index);
+        }
+    }
+    return touched;
+}
+
+} // namespace qev::fc

@@ -1,0 +1,45 @@
+#include "FoundationClasses/InverseIndex.h"
+
+#include <algorithm>
+
+namespace qev::fc {
+
+InverseIndex::InverseIndex(std::vector<std::pair<EntityIndex, EntityIndex>> references)
+    : m_references(std::move(references))
+{
+    std::sort(m_references.begin(), m_references.end());
+    m_references.erase(std::unique(m_references.begin(), m_references.end()), m_references.end());
+    m_references.shrink_to_fit();
+}
+
+std::vector<EntityIndex>& InverseIndex::changeable(EntityIndex target) const
+{
+    auto const [position, isNew] = m_lists.try_emplace(target);
+    std::vector<EntityIndex>& list = position->second;
+    if (isNew) {
+        auto reference = std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
+        for (; reference != m_references.end() && reference->first == target; ++reference)
+            list.push_back(reference->second);
+    }
+    return list;
+}
+
+std::vector<EntityIndex> const& InverseIndex::relating(EntityIndex target) const { return changeable(target); }
+
+void InverseIndex::add(EntityIndex target, EntityIndex relation)
+{
+    std::vector<EntityIndex>& list = changeable(target);
+    auto const place = std::lower_bound(list.begin(), list.end(), relation);
+    if (place == list.end() || *place != relation)
+        list.insert(place, relation);
+}
+
+void InverseIndex::remove(EntityIndex target, EntityIndex relation)
+{
+    std::vector<EntityIndex>& list = changeable(target);
+    auto const place = std::lower_bound(list.begin(), list.end(), relation);
+    if (place != list.end() && *place == relation)
+        list.erase(place);
+}
+
+} // namespace qev::fc

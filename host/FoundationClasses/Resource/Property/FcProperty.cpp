@@ -1,0 +1,44 @@
+#include "FoundationClasses/Resource/Property/FcProperty.h"
+
+#include "Core/Unit/QuantityPresentation.h"
+#include "Core/Unit/QuantityPresentationFactory.h"
+#include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "FoundationClasses/Data.h"
+#include "FoundationClasses/Resource/Property/FcComplexProperty.h"
+
+namespace qev::fc::resource::property {
+
+void FcProperty::deleteProperty(Data& data, bool deleteEmptySets)
+{
+    ChangeLog::Step const step(data.changes(), "Delete property");
+    auto const self = std::static_pointer_cast<FcProperty>(shared_from_this());
+    for (auto const& reference : PartOfComplex()) {
+        if (auto const complex = reference.lock())
+            complex->HasProperties.edit([&self](auto& list) { list.erase(self); });
+    }
+    for (auto const& reference : PartOfPset()) {
+        auto const set = reference.lock();
+        if (!set)
+            continue;
+        set->HasProperties.edit([&self](auto& list) { list.erase(self); });
+        if (deleteEmptySets && set->HasProperties->empty())
+            set->deletePset(data);
+    }
+    data.entityDelete(self);
+}
+
+std::unique_ptr<unit::QuantityPresentationBase>
+FcProperty::createQuantityPresentationFor(measure::FcValue const& value, std::optional<std::string> const& setName) const
+{
+    std::unique_ptr<unit::QuantityPresentationBase> presentation;
+    if (setName)
+        presentation = unit::QuantityPresentationFactory::createNewBaseUniqueFromIfcPropertyIdWithSanityCheck(
+            nullptr, *setName + "." + Name.get(), "");
+    if (!presentation)
+        presentation = value.createQuantityPresentation();
+    if (presentation)
+        presentation->setValue(value.valueAsDoubleGet().value_or(0.0));
+    return presentation;
+}
+
+} // namespace qev::fc::resource::property

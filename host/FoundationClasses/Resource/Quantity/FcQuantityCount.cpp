@@ -1,0 +1,16 @@
+#include "FoundationClasses/Resource/Quantity/FcQuantityCount.h"
+
+#include "Core/Unit/QuantityPresentation.h"
+
+namespace qev::fc::resource::quantity {
+
+double FcQuantityCount::getValue() const { return static_cast<double>(CountValue.get()); }
+
+void FcQuantityCount::setValue(double value) { CountValue = static_cast<std::int64_t>(value); }
+
+std::unique_ptr<unit::QuantityPresentationBase> FcQuantityCount::createQuantityPresentation() const
+{
+    return presentationOf("CountMeasure");
+}
+
+} // namespace qev::fc::resource::quantity

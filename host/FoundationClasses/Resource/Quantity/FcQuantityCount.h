@@ -1,0 +1,17 @@
+#pragma once
+
+#include "FoundationClasses/Resource/Quantity/FcQuantityCountAttributes.h"
+
+namespace qev::fc::resource::quantity {
+
+/// IfcQuantityCount: a count.
+class HOSTFOUNDATIONCLASSES_EXPORT FcQuantityCount : public FcQuantityCountAttributes
+{
+public:
+    [[nodiscard]] double getValue() const override;
+    /// The number is cut towards zero.
+    void setValue(double value) override;
+    [[nodiscard]] std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentation() const override;
+};
+
+} // namespace qev::fc::resource::quantity
