@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Model/ClassModel.h"
+#include "Output/GeneratedFiles.h"
+
+namespace qev::schemacompiler {
+
+/// What goes over all classes: `ForwardDeclarations.h`, `AllEntities.h` and `EntityClasses.cpp`.
+void emitClassLists(ClassModel const& model, GeneratedFiles& files);
+
+} // namespace qev::schemacompiler
