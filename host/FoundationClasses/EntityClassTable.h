@@ -14,8 +14,9 @@ namespace qev::fc {
 
 /// The attributes of a base class with those of the class itself behind them, \p Count in all.
 template <std::size_t Count>
-std::array<AttributeDescriptor const*, Count> joinedAttributes(std::span<AttributeDescriptor const* const> inherited,
-                                                               std::span<AttributeDescriptor const> own)
+std::array<AttributeDescriptor const*, Count>
+joinedAttributes(std::span<AttributeDescriptor const* const> inherited,
+                 std::span<AttributeDescriptor const> own)
 {
     std::array<AttributeDescriptor const*, Count> joined{};
     std::size_t next = 0;
@@ -26,10 +27,12 @@ std::array<AttributeDescriptor const*, Count> joinedAttributes(std::span<Attribu
     return joined;
 }
 
+/// A new object of class \p T, owned by way of its base: one kind of owner for all classes keeps the build
+/// quick.
 template <class T>
 std::shared_ptr<FcBase> createEntity()
 {
-    return std::make_shared<T>();
+    return std::shared_ptr<FcBase>(static_cast<FcBase*>(new T));
 }
 
 /// The schema's name of an enumeration item, null for none.

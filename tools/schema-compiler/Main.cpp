@@ -30,7 +30,8 @@ std::unique_ptr<qev::ifc::def::schema::Schema> readSchema(std::filesystem::path 
     std::vector<qev::ifc::def::TextError> errors;
     auto schema = qev::ifc::def::schema::parseSchema(readFile(path), errors);
     if (!errors.empty())
-        throw InputError(path.string(), static_cast<unsigned int>(errors.front().line), errors.front().message);
+        throw InputError(path.string(), static_cast<unsigned int>(errors.front().line),
+                         errors.front().message);
     return schema;
 }
 

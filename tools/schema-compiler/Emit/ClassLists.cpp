@@ -50,7 +50,8 @@ std::string entityClassesSource(ClassModel const& model)
     text.line("constexpr EntityClass const& (*classes[])() = {");
     text.line("    &FcBase::staticEntityClass,");
     for (EntityModel const& entity : model.entities)
-        text.line("    &" + groupNamespace(entity.group) + "::" + generatedName(entity) + "::staticEntityClass,");
+        text.line("    &" + groupNamespace(entity.group) + "::" + generatedName(entity) +
+                  "::staticEntityClass,");
     text.line("};").closeNamespace("");
     text.blank().line("EntityClass const* entityClassFromNumber(unsigned int number)").line("{");
     text.line("    return number < std::size(classes) ? &classes[number]() : nullptr;").line("}");

@@ -11,9 +11,9 @@ namespace {
 
 /// Macros that the C library or the headers of Windows define.
 constexpr std::array<std::string_view, 24> macros = {
-    "ABSOLUTE", "ALTERNATE", "CALLBACK", "CONST",  "DELETE",  "DIFFERENCE", "DOMAIN",   "EOF",
-    "ERROR",    "FALSE",     "FAR",      "IGNORE", "IN",      "INFINITE",   "INFINITY", "NAN",
-    "NEAR",     "NULL",      "OPAQUE",   "OUT",    "PASCAL",  "STRICT",     "TRUE",     "VOID",
+    "ABSOLUTE", "ALTERNATE", "CALLBACK", "CONST",  "DELETE", "DIFFERENCE", "DOMAIN",   "EOF",
+    "ERROR",    "FALSE",     "FAR",      "IGNORE", "IN",     "INFINITE",   "INFINITY", "NAN",
+    "NEAR",     "NULL",      "OPAQUE",   "OUT",    "PASCAL", "STRICT",     "TRUE",     "VOID",
 };
 
 std::string lower(std::string text)
@@ -78,9 +78,15 @@ std::string qualified(SelectModel const& select, std::string const& fromGroup)
     return qualified(className(select.name), select.group, fromGroup);
 }
 
-std::string header(EntityModel const& entity) { return groupFolder(entity.group) + "/" + className(entity.name) + ".h"; }
+std::string header(EntityModel const& entity)
+{
+    return groupFolder(entity.group) + "/" + className(entity.name) + ".h";
+}
 
-std::string header(SelectModel const& select) { return "FoundationClasses/Selects/" + className(select.name) + ".h"; }
+std::string header(SelectModel const& select)
+{
+    return "FoundationClasses/Selects/" + className(select.name) + ".h";
+}
 
 std::string enumerationHeader(std::string const& schemaName)
 {

@@ -37,7 +37,8 @@ std::string enumerationHeader(std::string const& schemaName);
 std::string generatedHeader(EntityModel const& entity);
 std::string generatedHeader(SelectModel const& select);
 
-/// An enumeration item as an enumerator: one that some platform's headers define as a macro gets a trailing underscore.
+/// An enumeration item as an enumerator: one that some platform's headers define as a macro gets a trailing
+/// underscore.
 std::string enumerator(std::string const& item);
 
 } // namespace qev::schemacompiler

@@ -12,16 +12,26 @@ constexpr char const* compoundAngle = "IfcCompoundPlaneAngleMeasure";
 std::string elementType(ClassModel const& model, ElementType const& type, std::string const& fromGroup)
 {
     switch (type.kind) {
-    case Kind::Text: return "std::string";
-    case Kind::Real: return "double";
-    case Kind::Integer: return "std::int64_t";
-    case Kind::Boolean: return "bool";
-    case Kind::Logical: return "Logical";
-    case Kind::Binary: return "Binary";
-    case Kind::Enumeration: return "std::optional<" + className(type.name) + ">";
-    case Kind::Reference: return "Reference<" + qualified(model.entity(type.name), fromGroup) + ">";
-    case Kind::Select: return qualified(model.select(type.name), fromGroup);
-    case Kind::Value: return fromGroup == "Resource.Measure" ? "FcValue" : "resource::measure::FcValue";
+    case Kind::Text:
+        return "std::string";
+    case Kind::Real:
+        return "double";
+    case Kind::Integer:
+        return "std::int64_t";
+    case Kind::Boolean:
+        return "bool";
+    case Kind::Logical:
+        return "Logical";
+    case Kind::Binary:
+        return "Binary";
+    case Kind::Enumeration:
+        return "std::optional<" + className(type.name) + ">";
+    case Kind::Reference:
+        return "Reference<" + qualified(model.entity(type.name), fromGroup) + ">";
+    case Kind::Select:
+        return qualified(model.select(type.name), fromGroup);
+    case Kind::Value:
+        return fromGroup == "Resource.Measure" ? "FcValue" : "resource::measure::FcValue";
     }
     return {};
 }
@@ -29,7 +39,8 @@ std::string elementType(ClassModel const& model, ElementType const& type, std::s
 /// Kinds that have an unset state of their own, so that optional and mandatory ones are of one type.
 bool canBeUnset(Kind kind)
 {
-    return kind == Kind::Enumeration || kind == Kind::Reference || kind == Kind::Select || kind == Kind::Value;
+    return kind == Kind::Enumeration || kind == Kind::Reference || kind == Kind::Select ||
+           kind == Kind::Value;
 }
 
 bool isCompoundAngle(ElementType const& type) { return type.name == compoundAngle && type.depth == 1; }
@@ -55,7 +66,8 @@ std::string mandatoryType(ClassModel const& model, ElementType const& type, std:
 
 } // namespace
 
-std::string attributeType(ClassModel const& model, AttributeModel const& attribute, std::string const& fromGroup)
+std::string attributeType(ClassModel const& model, AttributeModel const& attribute,
+                          std::string const& fromGroup)
 {
     std::string const type = mandatoryType(model, attribute.type, fromGroup);
     bool const isPlain = attribute.type.depth == 0 && canBeUnset(attribute.type.kind);
@@ -78,12 +90,23 @@ std::set<std::string> memberHeaders(ClassModel const& model, AttributeModel cons
     if (isCompoundAngle(type))
         headers.insert("FoundationClasses/Resource/Measure/FcCompoundPlaneAngleMeasure.h");
     switch (type.kind) {
-    case Kind::Logical: headers.insert("FoundationClasses/Logical.h"); break;
-    case Kind::Binary: headers.insert("FoundationClasses/Binary.h"); break;
-    case Kind::Enumeration: headers.insert(enumerationHeader(type.name)); break;
-    case Kind::Select: headers.insert(header(model.select(type.name))); break;
-    case Kind::Value: headers.insert("FoundationClasses/Resource/Measure/FcValue.h"); break;
-    default: break;
+    case Kind::Logical:
+        headers.insert("FoundationClasses/Logical.h");
+        break;
+    case Kind::Binary:
+        headers.insert("FoundationClasses/Binary.h");
+        break;
+    case Kind::Enumeration:
+        headers.insert(enumerationHeader(type.name));
+        break;
+    case Kind::Select:
+        headers.insert(header(model.select(type.name)));
+        break;
+    case Kind::Value:
+        headers.insert("FoundationClasses/Resource/Measure/FcValue.h");
+        break;
+    default:
+        break;
     }
     return headers;
 }
@@ -91,16 +114,26 @@ std::set<std::string> memberHeaders(ClassModel const& model, AttributeModel cons
 std::string valueKind(Kind kind)
 {
     switch (kind) {
-    case Kind::Text: return "ValueKind::Text";
-    case Kind::Real: return "ValueKind::Real";
-    case Kind::Integer: return "ValueKind::Integer";
-    case Kind::Boolean: return "ValueKind::Boolean";
-    case Kind::Logical: return "ValueKind::Logical";
-    case Kind::Binary: return "ValueKind::Binary";
-    case Kind::Enumeration: return "ValueKind::Enumeration";
-    case Kind::Reference: return "ValueKind::Reference";
-    case Kind::Select: return "ValueKind::Select";
-    case Kind::Value: return "ValueKind::Value";
+    case Kind::Text:
+        return "ValueKind::Text";
+    case Kind::Real:
+        return "ValueKind::Real";
+    case Kind::Integer:
+        return "ValueKind::Integer";
+    case Kind::Boolean:
+        return "ValueKind::Boolean";
+    case Kind::Logical:
+        return "ValueKind::Logical";
+    case Kind::Binary:
+        return "ValueKind::Binary";
+    case Kind::Enumeration:
+        return "ValueKind::Enumeration";
+    case Kind::Reference:
+        return "ValueKind::Reference";
+    case Kind::Select:
+        return "ValueKind::Select";
+    case Kind::Value:
+        return "ValueKind::Value";
     }
     return {};
 }

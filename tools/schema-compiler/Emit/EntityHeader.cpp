@@ -11,7 +11,8 @@ namespace {
 std::set<std::string> headerIncludes(ClassModel const& model, EntityModel const& entity)
 {
     std::set<std::string> headers = {"FoundationClasses/ForwardDeclarations.h"};
-    headers.insert(entity.supertype.empty() ? "FoundationClasses/FcBase.h" : header(model.entity(entity.supertype)));
+    headers.insert(entity.supertype.empty() ? "FoundationClasses/FcBase.h"
+                                            : header(model.entity(entity.supertype)));
     for (AttributeModel const& attribute : entity.attributes)
         headers.merge(memberHeaders(model, attribute));
     return headers;
@@ -25,7 +26,8 @@ std::string baseClass(ClassModel const& model, EntityModel const& entity)
 void emitComment(EntityModel const& entity, SourceText& text)
 {
     if (entity.isHandwritten)
-        text.line("/// What the schema says of " + entity.name + "; " + className(entity.name) + " adds its behaviour.");
+        text.line("/// What the schema says of " + entity.name + "; " + className(entity.name) +
+                  " adds its behaviour.");
     else
         text.line("/// " + entity.name + (entity.isAbstract ? ", abstract." : "."));
 }
@@ -44,7 +46,8 @@ void emitInverses(ClassModel const& model, EntityModel const& entity, SourceText
 {
     for (InverseModel const& inverse : entity.inverses) {
         text.line("    [[nodiscard]] std::vector<std::weak_ptr<" +
-                  qualified(model.entity(inverse.relation), entity.group) + ">> " + inverse.name + "() const;");
+                  qualified(model.entity(inverse.relation), entity.group) + ">> " + inverse.name +
+                  "() const;");
     }
     if (!entity.inverses.empty())
         text.blank();
@@ -57,7 +60,8 @@ AttributeModel const* predefinedType(ClassModel const& model, EntityModel const&
     if (!model.isOrDerives(entity, "IfcObjectDefinition"))
         return nullptr;
     for (AttributeModel const& attribute : entity.attributes) {
-        if (attribute.name == "PredefinedType" && attribute.type.kind == Kind::Enumeration && attribute.type.depth == 0)
+        if (attribute.name == "PredefinedType" && attribute.type.kind == Kind::Enumeration &&
+            attribute.type.depth == 0)
             return &attribute;
     }
     return nullptr;

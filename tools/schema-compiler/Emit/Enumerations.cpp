@@ -22,7 +22,8 @@ std::string enumerationHeaderText(ClassModel const& model, EnumerationModel cons
         text.line("    " + enumerator(item) + ",");
     text.line("};").blank();
     text.line("/// The names of the items; the value of the argument does not matter.");
-    text.line("HOSTFOUNDATIONCLASSES_EXPORT EnumerationDescriptor const& enumerationDescriptor(" + name + ");");
+    text.line("HOSTFOUNDATIONCLASSES_EXPORT EnumerationDescriptor const& enumerationDescriptor(" + name +
+              ");");
     text.closeNamespace("qev::fc");
     return text.text();
 }
@@ -35,7 +36,8 @@ void emitItems(EnumerationModel const& enumeration, SourceText& text)
     for (std::string const& item : enumeration.items)
         text.line("        \"" + item + "\",");
     text.line("    };");
-    text.line("    static constexpr EnumerationDescriptor descriptor = {\"" + enumeration.name + "\", items};");
+    text.line("    static constexpr EnumerationDescriptor descriptor = {\"" + enumeration.name +
+              "\", items};");
     text.line("    return descriptor;").line("}").blank();
 }
 

@@ -52,19 +52,22 @@ std::set<std::string> sourceIncludes(ClassModel const& model, std::string const&
 std::string kindFields(ClassModel const& model, EntityModel const& entity, ElementType const& type)
 {
     switch (type.kind) {
-    case Kind::Enumeration: return ".enumeration = &enumerationDescriptor(" + className(type.name) + "{}),";
+    case Kind::Enumeration:
+        return ".enumeration = &enumerationDescriptor(" + className(type.name) + "{}),";
     case Kind::Select:
         return ".select = &" + qualified(model.select(type.name), entity.group) + "::staticDescriptor(),";
     case Kind::Reference: {
         EntityModel const& target = model.entity(type.name);
-        return ".targetFirst = " + std::to_string(target.first) + ", .targetLast = " + std::to_string(target.last) + ",";
+        return ".targetFirst = " + std::to_string(target.first) +
+               ", .targetLast = " + std::to_string(target.last) + ",";
     }
-    default: return {};
+    default:
+        return {};
     }
 }
 
-void emitAttributeDescriptor(ClassModel const& model, EntityModel const& entity, AttributeModel const& attribute,
-                             SourceText& text)
+void emitAttributeDescriptor(ClassModel const& model, EntityModel const& entity,
+                             AttributeModel const& attribute, SourceText& text)
 {
     std::string const indent = "         ";
     text.line("        {.name = " + quoted(attribute.name) + ",");
@@ -76,16 +79,19 @@ void emitAttributeDescriptor(ClassModel const& model, EntityModel const& entity,
         text.line(indent + ".isOptional = true,");
     if (std::string const fields = kindFields(model, entity, attribute.type); !fields.empty())
         text.line(indent + fields);
-    text.line(indent + ".operations = &attributeOperations<" + attributeType(model, attribute, entity.group) + ">(),");
-    text.line(indent + ".access = [](FcBase& entity) -> AttributeBase& { return static_cast<" + generatedName(entity) +
-              "&>(entity)." + attribute.name + "; }},");
+    text.line(indent + ".operations = &attributeOperations<" + attributeType(model, attribute, entity.group) +
+              ">(),");
+    text.line(indent + ".access = [](FcBase& entity) -> AttributeBase& { return static_cast<" +
+              generatedName(entity) + "&>(entity)." + attribute.name + "; }},");
 }
 
 std::string inverseRow(ClassModel const& model, InverseModel const& inverse)
 {
     EntityModel const& relation = model.entity(inverse.relation);
-    return "        {.name = " + quoted(inverse.name) + ", .relationFirst = " + std::to_string(relation.first) +
-           ", .relationLast = " + std::to_string(relation.last) + ", .slot = " + std::to_string(inverse.slot) + "},";
+    return "        {.name = " + quoted(inverse.name) +
+           ", .relationFirst = " + std::to_string(relation.first) +
+           ", .relationLast = " + std::to_string(relation.last) +
+           ", .slot = " + std::to_string(inverse.slot) + "},";
 }
 
 void emitStaticEntityClass(ClassModel const& model, EntityModel const& entity, SourceText& text)
@@ -100,8 +106,8 @@ void emitStaticEntityClass(ClassModel const& model, EntityModel const& entity, S
         for (AttributeModel const& attribute : entity.attributes)
             emitAttributeDescriptor(model, entity, attribute, text);
         text.line("    };");
-        text.line("    static auto const attributes = joinedAttributes<" + std::to_string(entity.slotCount) + ">(" +
-                  inherited + ", own);");
+        text.line("    static auto const attributes = joinedAttributes<" + std::to_string(entity.slotCount) +
+                  ">(" + inherited + ", own);");
     }
     if (!entity.inverses.empty()) {
         text.line("    static constexpr InverseDescriptor inverses[] = {");
@@ -117,11 +123,15 @@ void emitStaticEntityClass(ClassModel const& model, EntityModel const& entity, S
     text.line("        .idFirst = " + std::to_string(entity.first) + ",");
     text.line("        .idLast = " + std::to_string(entity.last) + ",");
     text.line(std::string("        .isAbstract = ") + (entity.isAbstract ? "true," : "false,"));
-    text.line("        .supertype = " + (isRoot ? std::string("nullptr") : "&" + base + "::staticEntityClass()") + ",");
-    text.line("        .attributes = " + (entity.attributes.empty() ? inherited : std::string("attributes")) + ",");
+    text.line("        .supertype = " +
+              (isRoot ? std::string("nullptr") : "&" + base + "::staticEntityClass()") + ",");
+    text.line("        .attributes = " + (entity.attributes.empty() ? inherited : std::string("attributes")) +
+              ",");
     text.line("        .derivedSlots = " + hexadecimal(entity.derivedSlots) + ",");
     text.line(std::string("        .inverses = ") + (entity.inverses.empty() ? "{}," : "inverses,"));
-    text.line("        .create = " + (entity.isAbstract ? std::string("nullptr") : "createEntity<" + className(entity.name) + ">") + ",");
+    text.line("        .create = " +
+              (entity.isAbstract ? std::string("nullptr") : "createEntity<" + className(entity.name) + ">") +
+              ",");
     text.line("    };");
     text.line("    return entityClass;");
     text.line("}").blank();
@@ -147,9 +157,11 @@ void emitInverses(ClassModel const& model, EntityModel const& entity, SourceText
     std::size_t position = 0;
     for (InverseModel const& inverse : entity.inverses) {
         std::string const relation = qualified(model.entity(inverse.relation), entity.group);
-        text.line("std::vector<std::weak_ptr<" + relation + ">> " + generatedName(entity) + "::" + inverse.name + "() const");
+        text.line("std::vector<std::weak_ptr<" + relation + ">> " + generatedName(entity) +
+                  "::" + inverse.name + "() const");
         text.line("{");
-        text.line("    return relatingAs<" + relation + ">(staticEntityClass().inverses[" + std::to_string(position) + "]);");
+        text.line("    return relatingAs<" + relation + ">(staticEntityClass().inverses[" +
+                  std::to_string(position) + "]);");
         text.line("}").blank();
         ++position;
     }
@@ -173,7 +185,8 @@ void emitClass(ClassModel const& model, EntityModel const& entity, SourceText& t
     emitInverses(model, entity, text);
     emitPredefinedTypeText(model, entity, text);
     emitAccept(model, entity, text);
-    text.line("EntityClass const& " + name + "::getEntityClass() const { return staticEntityClass(); }").blank();
+    text.line("EntityClass const& " + name + "::getEntityClass() const { return staticEntityClass(); }")
+        .blank();
     emitStaticEntityClass(model, entity, text);
 }
 

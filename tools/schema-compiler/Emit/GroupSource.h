@@ -5,7 +5,8 @@
 
 namespace qev::schemacompiler {
 
-/// One source for each group: constructors, visits, inverse attributes and what the classes say of themselves.
+/// One source for each group: constructors, visits, inverse attributes and what the classes say of
+/// themselves.
 void emitGroupSources(ClassModel const& model, GeneratedFiles& files);
 
 /// The path of the source of a group: "CoreKernel.cpp".

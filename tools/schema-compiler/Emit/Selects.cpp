@@ -35,20 +35,25 @@ std::string selectHeader(ClassModel const& model, SelectModel const& select)
     text.includes({"FoundationClasses/ForwardDeclarations.h", "FoundationClasses/Select.h"}).blank();
     text.openNamespace(spaceOf(select));
     if (select.isHandwritten)
-        text.line("/// What the schema says of " + select.name + "; " + className(select.name) + " adds its behaviour.");
+        text.line("/// What the schema says of " + select.name + "; " + className(select.name) +
+                  " adds its behaviour.");
     else
         text.line("/// " + select.name + ": one of its members, or nothing.");
-    text.line("class HOSTFOUNDATIONCLASSES_EXPORT " + name + " : public SelectBase").line("{").line("public:");
+    text.line("class HOSTFOUNDATIONCLASSES_EXPORT " + name + " : public SelectBase")
+        .line("{")
+        .line("public:");
     text.line("    enum Tag : unsigned int { " + tags(select) + " };").blank();
     text.line("    " + name + "();");
     for (SelectMemberModel const& member : select.members) {
         if (member.role == Role::Entity)
-            text.line("    " + name + "(std::shared_ptr<" + qualified(model.entity(member.name), select.group) + "> const& entity);");
+            text.line("    " + name + "(std::shared_ptr<" +
+                      qualified(model.entity(member.name), select.group) + "> const& entity);");
     }
     text.blank();
     for (SelectMemberModel const& member : select.members) {
         if (member.role == Role::Entity)
-            text.line("    [[nodiscard]] std::shared_ptr<" + qualified(model.entity(member.name), select.group) + "> get" +
+            text.line("    [[nodiscard]] std::shared_ptr<" +
+                      qualified(model.entity(member.name), select.group) + "> get" +
                       withoutPrefix(member.name) + "() const;");
     }
     text.line("    static SelectDescriptor const& staticDescriptor();");
@@ -66,7 +71,9 @@ std::string memberRow(ClassModel const& model, SelectMemberModel const& member)
         row += ".first = " + std::to_string(entity.first) + ", .last = " + std::to_string(entity.last);
         break;
     }
-    case Role::Select: row += ".select = &" + descriptorName(member.name); break;
+    case Role::Select:
+        row += ".select = &" + descriptorName(member.name);
+        break;
     case Role::Type:
         row += ".kind = " + valueKind(member.type.kind);
         if (member.type.depth != 0)
@@ -83,8 +90,9 @@ void emitDescriptor(ClassModel const& model, SelectModel const& select, SourceTe
     for (SelectMemberModel const& member : select.members)
         text.line(memberRow(model, member));
     text.line("};");
-    text.line("constexpr SelectDescriptor " + descriptorName(select.name) + " = {\"" + select.name + "\", " + members +
-              "};").blank();
+    text.line("constexpr SelectDescriptor " + descriptorName(select.name) + " = {\"" + select.name + "\", " +
+              members + "};")
+        .blank();
 }
 
 void emitClass(ClassModel const& model, SelectModel const& select, SourceText& text)
@@ -100,9 +108,12 @@ void emitClass(ClassModel const& model, SelectModel const& select, SourceText& t
         text.line(name + "::" + name + "(std::shared_ptr<" + entity + "> const& entity)");
         text.line("    : SelectBase(staticDescriptor(), " + tag + ", entity)").line("{}").blank();
         text.line("std::shared_ptr<" + entity + "> " + name + "::get" + tag + "() const").line("{");
-        text.line("    return std::static_pointer_cast<" + entity + ">(entityOfTag(" + tag + "));").line("}").blank();
+        text.line("    return std::static_pointer_cast<" + entity + ">(entityOfTag(" + tag + "));")
+            .line("}")
+            .blank();
     }
-    text.line("SelectDescriptor const& " + name + "::staticDescriptor() { return " + descriptorName(select.name) + "; }");
+    text.line("SelectDescriptor const& " + name + "::staticDescriptor() { return " +
+              descriptorName(select.name) + "; }");
     text.closeNamespace(spaceOf(select)).blank();
 }
 

@@ -24,7 +24,8 @@ std::string tableName(std::string const& family)
 
 void emitEnumeration(SelectModel const& family, SourceText& text)
 {
-    text.blank().line("/// The types of " + family.name + " by character code; `None`, their number, stands for no type.");
+    text.blank().line("/// The types of " + family.name +
+                      " by character code; `None`, their number, stands for no type.");
     text.line("enum class " + className(family.name) + "Types : unsigned int {");
     for (SelectMemberModel const& member : family.members)
         text.line("    " + withoutPrefix(member.name) + ",");
@@ -36,8 +37,8 @@ void emitTable(SelectModel const& family, SourceText& text)
     text.line("std::span<ValueTypeInfo const> " + tableName(family.name) + "()").line("{");
     text.line("    static constexpr ValueTypeInfo types[] = {");
     for (SelectMemberModel const& member : family.members) {
-        text.line("        {\"" + withoutPrefix(member.name) + "\", \"" + member.name + "\", " + valueKind(member.type.kind) +
-                  ", " + (member.type.depth != 0 ? "true" : "false") + "},");
+        text.line("        {\"" + withoutPrefix(member.name) + "\", \"" + member.name + "\", " +
+                  valueKind(member.type.kind) + ", " + (member.type.depth != 0 ? "true" : "false") + "},");
     }
     text.line("    };").line("    return types;").line("}").blank();
 }

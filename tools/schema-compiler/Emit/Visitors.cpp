@@ -13,7 +13,8 @@ std::string visitorHeader(ClassModel const& model, std::string const& name, std:
     text.line("#pragma once").blank();
     text.includes({"FoundationClasses/ForwardDeclarations.h", "HostFoundationClassesExport.h"}).blank();
     text.openNamespace("qev::fc");
-    text.line("/// One visit for each class of the model. An entity's `accept` runs the visit of its exact class and");
+    text.line("/// One visit for each class of the model. An entity's `accept` runs the visit of its exact "
+              "class and");
     text.line("/// then that of each base class, for as long as the visits return true, as those here do.");
     text.line("/// A class that overrides some of them brings in the others with a using declaration.");
     text.line("class HOSTFOUNDATIONCLASSES_EXPORT " + name).line("{").line("public:");
@@ -44,7 +45,8 @@ std::string visitorSource(ClassModel const& model, std::string const& name, std:
     return text.text();
 }
 
-void emitVisitor(ClassModel const& model, std::string const& name, std::string const& suffix, GeneratedFiles& files)
+void emitVisitor(ClassModel const& model, std::string const& name, std::string const& suffix,
+                 GeneratedFiles& files)
 {
     files.add("FoundationClasses/" + name + ".h", visitorHeader(model, name, suffix));
     files.add(name + ".cpp", visitorSource(model, name, suffix));

@@ -8,7 +8,19 @@
 namespace qev::schemacompiler {
 
 /// What the innermost element of a type is; the names agree with `qev::fc::ValueKind`.
-enum class Kind { Text, Real, Integer, Boolean, Logical, Binary, Enumeration, Reference, Select, Value };
+enum class Kind
+{
+    Text,
+    Real,
+    Integer,
+    Boolean,
+    Logical,
+    Binary,
+    Enumeration,
+    Reference,
+    Select,
+    Value
+};
 
 /// A type as an attribute or the member of a select has it.
 struct ElementType
@@ -67,7 +79,12 @@ struct EnumerationModel
 
 struct SelectMemberModel
 {
-    enum class Role { Entity, Select, Type };
+    enum class Role
+    {
+        Entity,
+        Select,
+        Type
+    };
 
     std::string name;
     Role role = Role::Entity;

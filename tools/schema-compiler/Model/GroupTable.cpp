@@ -14,7 +14,8 @@ bool isBlank(char character) { return character == ' ' || character == '\t'; }
 void checkGroupName(std::string const& name, std::string const& file, unsigned int line)
 {
     auto const dot = name.find('.');
-    if (dot == std::string::npos || dot == 0 || dot + 1 == name.size() || name.find_first_of(" \t") != std::string::npos)
+    if (dot == std::string::npos || dot == 0 || dot + 1 == name.size() ||
+        name.find_first_of(" \t") != std::string::npos)
         throw InputError(file, line, "expected a group such as \"Core.Kernel\", found \"" + name + "\"");
 }
 

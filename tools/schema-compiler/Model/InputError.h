@@ -10,8 +10,10 @@ class InputError : public std::runtime_error
 {
 public:
     InputError(std::string const& file, unsigned int line, std::string const& message)
-        : std::runtime_error(line == 0 ? file + ": " + message : file + ":" + std::to_string(line) + ": " + message)
-    {}
+        : std::runtime_error(line == 0 ? file + ": " + message
+                                       : file + ":" + std::to_string(line) + ": " + message)
+    {
+    }
 };
 
 } // namespace qev::schemacompiler

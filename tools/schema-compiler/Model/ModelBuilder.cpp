@@ -30,13 +30,20 @@ Kind kindOfBase(schema::Type::BaseKind kind)
 {
     using Base = schema::Type::BaseKind;
     switch (kind) {
-    case Base::Real: return Kind::Real;
-    case Base::Number: return Kind::Real;
-    case Base::Boolean: return Kind::Boolean;
-    case Base::Integer: return Kind::Integer;
-    case Base::String: return Kind::Text;
-    case Base::Binary: return Kind::Binary;
-    case Base::Logical: return Kind::Logical;
+    case Base::Real:
+        return Kind::Real;
+    case Base::Number:
+        return Kind::Real;
+    case Base::Boolean:
+        return Kind::Boolean;
+    case Base::Integer:
+        return Kind::Integer;
+    case Base::String:
+        return Kind::Text;
+    case Base::Binary:
+        return Kind::Binary;
+    case Base::Logical:
+        return Kind::Logical;
     }
     return Kind::Text;
 }
@@ -86,7 +93,8 @@ public:
         , m_groups(groups)
         , m_groupFile(groupFile)
         , m_handwritten(handwritten)
-    {}
+    {
+    }
 
     ClassModel build(std::string const& source)
     {
@@ -110,7 +118,8 @@ private:
         for (auto const& [name, entry] : m_groups.entries) {
             auto const* const object = m_schema.find(upper(name));
             if (!dynamic_cast<schema::Entity const*>(object) && !dynamic_cast<schema::Select const*>(object))
-                throw InputError(m_groupFile, entry.line, name + " is no entity or select of " + m_schema.name());
+                throw InputError(m_groupFile, entry.line,
+                                 name + " is no entity or select of " + m_schema.name());
         }
         for (auto const& [name, line] : m_handwritten.classes)
             checkHandwritten<schema::Entity>(name, line, "entity");
@@ -152,14 +161,15 @@ private:
     static unsigned int slotOf(schema::Entity const& entity, std::string const& attribute)
     {
         auto const& all = entity.attributes();
-        auto const found =
-            std::find_if(all.begin(), all.end(), [&](auto const* other) { return other->name() == attribute; });
+        auto const found = std::find_if(all.begin(), all.end(),
+                                        [&](auto const* other) { return other->name() == attribute; });
         return static_cast<unsigned int>(found - all.begin());
     }
 
     void addEntities()
     {
-        for (unsigned int number = 1; schema::Entity const* entity = m_schema.entityFromNumber(number); ++number) {
+        for (unsigned int number = 1; schema::Entity const* entity = m_schema.entityFromNumber(number);
+             ++number) {
             m_model.entityPositions[entity->name()] = m_model.entities.size();
             m_model.entities.push_back(entityModel(*entity));
         }
@@ -189,12 +199,13 @@ private:
         for (schema::Attribute const& attribute : entity.ownAttributes())
             result.attributes.push_back(attributeModel(attribute, className(entity.name()), slot++));
         for (schema::InverseAttribute const& inverse : entity.inverseAttributes())
-            result.inverses.push_back(
-                {inverse.name, inverse.referrer->name(), slotOf(*inverse.referrer, inverse.referringAttribute)});
+            result.inverses.push_back({inverse.name, inverse.referrer->name(),
+                                       slotOf(*inverse.referrer, inverse.referringAttribute)});
         return result;
     }
 
-    AttributeModel attributeModel(schema::Attribute const& attribute, std::string const& owner, unsigned int slot) const
+    AttributeModel attributeModel(schema::Attribute const& attribute, std::string const& owner,
+                                  unsigned int slot) const
     {
         AttributeModel result;
         result.name = attribute.name();
@@ -256,8 +267,9 @@ private:
 
 } // namespace
 
-ClassModel buildModel(ifc::def::schema::Schema const& schema, GroupTable const& groups, std::string const& groupFile,
-                      HandwrittenClasses const& handwritten, std::string const& source)
+ClassModel buildModel(ifc::def::schema::Schema const& schema, GroupTable const& groups,
+                      std::string const& groupFile, HandwrittenClasses const& handwritten,
+                      std::string const& source)
 {
     return Builder(schema, groups, groupFile, handwritten).build(source);
 }

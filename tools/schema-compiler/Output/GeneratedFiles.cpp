@@ -29,7 +29,10 @@ void writeText(std::filesystem::path const& path, std::string const& text)
         throw std::runtime_error("cannot write " + path.string());
 }
 
-bool isSourceFile(std::filesystem::path const& path) { return path.extension() == ".h" || path.extension() == ".cpp"; }
+bool isSourceFile(std::filesystem::path const& path)
+{
+    return path.extension() == ".h" || path.extension() == ".cpp";
+}
 
 } // namespace
 

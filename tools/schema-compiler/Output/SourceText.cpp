@@ -19,7 +19,8 @@ std::string lower(std::string text)
 
 SourceText::SourceText(std::string const& source)
     : m_text("// Made by schema-compiler from " + source + ". Do not edit.\n")
-{}
+{
+}
 
 SourceText& SourceText::line(std::string_view text)
 {
@@ -41,8 +42,14 @@ SourceText& SourceText::includes(std::set<std::string> const& paths)
     return *this;
 }
 
-SourceText& SourceText::openNamespace(std::string const& name) { return line(name.empty() ? "namespace {" : "namespace " + name + " {").blank(); }
+SourceText& SourceText::openNamespace(std::string const& name)
+{
+    return line(name.empty() ? "namespace {" : "namespace " + name + " {").blank();
+}
 
-SourceText& SourceText::closeNamespace(std::string const& name) { return blank().line(name.empty() ? "} // namespace" : "} // namespace " + name); }
+SourceText& SourceText::closeNamespace(std::string const& name)
+{
+    return blank().line(name.empty() ? "} // namespace" : "} // namespace " + name);
+}
 
 } // namespace qev::schemacompiler
