@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <optional>
 #include <set>
 #include <string>
@@ -154,6 +153,21 @@ TEST_P(SampleModels, HoldTextsOutsideAscii)
     EXPECT_GT(text("Instructions").size(), 2000u);
 }
 
+TEST_P(SampleModels, HoldSetsThatNeedCare)
+{
+    std::uint64_t const wall = objectNamed("Wall G east");
+    int unnamed = 0;
+    int twice = 0;
+    for (ReferenceSet const& set : reader.sets(wall)) {
+        unnamed += set.name ? 0 : 1;
+        twice += set.name == "Sample_Twice" ? 1 : 0;
+    }
+    EXPECT_EQ(unnamed, 1);
+    EXPECT_EQ(twice, 2);
+    bool const setsInPairs = reader.document().schemaName() != "IFC2X3";
+    EXPECT_EQ(property(objectNamed("Column 2"), "Sample_Second", "Name").has_value(), setsInPairs);
+}
+
 TEST_P(SampleModels, GiveTypesSetsOfTheirOwn)
 {
     std::uint64_t const wall = objectNamed("Wall G south");
@@ -161,6 +175,9 @@ TEST_P(SampleModels, GiveTypesSetsOfTheirOwn)
     ASSERT_TRUE(type);
     EXPECT_EQ(property(*type, "Pset_WallCommon", "FireRating")->values.at(0).text, "F30");
     EXPECT_EQ(property(wall, "Pset_WallCommon", "FireRating")->values.at(0).text, "F90");
+    std::optional<ReferenceProperty> const weight =
+        property(*reader.typeOf(objectNamed("Desk 1")), "Sample_TypeQuantities", "Weight");
+    EXPECT_EQ(weight->values.at(0).si(), 38.5);
     EXPECT_NEAR(*reader.attribute(objectNamed("Entrance"), "OverallHeight")->value->si(), 2.26, 1e-6);
 }
 

@@ -1,6 +1,7 @@
 """Writes STEP files of building models, record by record, checked against the schema.
 
-A record is given by class and attribute names. The schema puts the attributes into their slots, forms each value
+A record is given by class and attribute names. The schema puts the attributes into their slots,
+forms each value
 as its declared type asks, and refuses what the class does not have or must not leave out.
 """
 
@@ -86,8 +87,10 @@ def string_text(text, encoding):
         while end < len(text) and not " " <= text[end] <= "~":
             end += 1
         run = text[index:end]
-        wide = encoding == "X4" or any(ord(c) > 0xFFFF for c in run)
-        out.append("\\X4\\" + hexadecimal_run(run, "utf-32-be") if wide else "\\X2\\" + hexadecimal_run(run, "utf-16-be"))
+        if encoding == "X4" or any(ord(c) > 0xFFFF for c in run):
+            out.append("\\X4\\" + hexadecimal_run(run, "utf-32-be"))
+        else:
+            out.append("\\X2\\" + hexadecimal_run(run, "utf-16-be"))
         out.append("\\X0\\")
         index = end
     return "'" + "".join(out) + "'"
@@ -96,7 +99,8 @@ def string_text(text, encoding):
 class StepWriter:
     """Collects the records of one file.
 
-    `schemas` are those of all files of the family: an attribute that another of them has, but not this one, is left
+    `schemas` are those of all files of the family: an attribute that another of them has, but not this one,
+    is left
     out quietly, so that one description of an object serves all. An attribute that none has is an error.
     """
 
@@ -117,7 +121,8 @@ class StepWriter:
         """Starts a group of records with a comment, at the next full hundred."""
         self.number = (self.number // 100 + 1) * 100 - 1
         self.lines.append("")
-        self.lines.append("/* " + "-" * 3 + " " + title + " " + "-" * max(0, LINE_LENGTH - len(title) - 11) + " */")
+        rule = "-" * max(0, LINE_LENGTH - len(title) - 11)
+        self.lines.append("/* --- " + title + " " + rule + " */")
         for line in lines:
             self.note(line)
 
@@ -153,7 +158,8 @@ class StepWriter:
             "HEADER;",
             "FILE_DESCRIPTION((" + encode(description) + "),'2;1');",
             "FILE_NAME(%s,%s,(%s),(%s),%s,%s,%s);"
-            % tuple(map(encode, (name, time_stamp, author, organization, "Qev samples 1.0", "Qev samples", "none"))),
+            % tuple(map(encode, (name, time_stamp, author, organization, "Qev samples 1.0", "Qev samples",
+                                 "none"))),
             "FILE_SCHEMA((" + encode(self.schema_name) + "));",
             "ENDSEC;",
             "",
@@ -217,7 +223,8 @@ class StepWriter:
     def __form_select(self, value, type_text):
         members = self.schema.members(type_text)
         if isinstance(value, Reference):
-            if not any(member in self.schema.entities and self.schema.is_a(value.class_name, member) for member in members):
+            if not any(member in self.schema.entities and self.schema.is_a(value.class_name,
+                                                                           member) for member in members):
                 raise ValueError("%s is no %s" % (value.class_name, type_text))
             return "#%d" % value.number
         if not isinstance(value, Value) or value.type_name not in members:
