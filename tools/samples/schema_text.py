@@ -79,8 +79,8 @@ class Schema:
             chain = [self.entities[link] for link in self.chain(name)]
             derived = set().union(*(entity.derived for entity in chain))
             self.__slots[name] = [
-                Attribute(a.name, a.type_text, a.optional,
-                          a.name in derived) for entity in chain for a in entity.own]
+                Attribute(a.name, a.type_text, a.optional, a.name in derived)
+                for entity in chain for a in entity.own]
         return self.__slots[name]
 
     def members(self, select):

@@ -1,8 +1,7 @@
 """Writes STEP files of building models, record by record, checked against the schema.
 
-A record is given by class and attribute names. The schema puts the attributes into their slots,
-forms each value
-as its declared type asks, and refuses what the class does not have or must not leave out.
+A record is given by class and attribute names. The schema puts the attributes into their slots, forms each
+value as its declared type asks, and refuses what the class does not have or must not leave out.
 """
 
 import hashlib
@@ -99,9 +98,8 @@ def string_text(text, encoding):
 class StepWriter:
     """Collects the records of one file.
 
-    `schemas` are those of all files of the family: an attribute that another of them has, but not this one,
-    is left
-    out quietly, so that one description of an object serves all. An attribute that none has is an error.
+    `schemas` are those of all files of the family: an attribute that another of them has, but not this one, is
+    left out quietly, so that one description of an object serves all. An attribute that none has is an error.
     """
 
     def __init__(self, schema, schemas, schema_name, encoding):
@@ -158,8 +156,7 @@ class StepWriter:
             "HEADER;",
             "FILE_DESCRIPTION((" + encode(description) + "),'2;1');",
             "FILE_NAME(%s,%s,(%s),(%s),%s,%s,%s);"
-            % tuple(map(encode, (name, time_stamp, author, organization, "Qev samples 1.0", "Qev samples",
-                                 "none"))),
+            % tuple(map(encode, (name, time_stamp, author, organization, "Qev samples 1.0", "Qev samples", ""))),
             "FILE_SCHEMA((" + encode(self.schema_name) + "));",
             "ENDSEC;",
             "",
@@ -223,8 +220,7 @@ class StepWriter:
     def __form_select(self, value, type_text):
         members = self.schema.members(type_text)
         if isinstance(value, Reference):
-            if not any(member in self.schema.entities and self.schema.is_a(value.class_name,
-                                                                           member) for member in members):
+            if members.isdisjoint(self.schema.chain(value.class_name)):
                 raise ValueError("%s is no %s" % (value.class_name, type_text))
             return "#%d" % value.number
         if not isinstance(value, Value) or value.type_name not in members:

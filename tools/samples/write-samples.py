@@ -3,8 +3,7 @@
 
     tools/samples/write-samples.py [--check]
 
-The files are part of the repository; the build does not run this program. With --check nothing is written,
-and the
+The files are part of the repository; the build does not run this program. With --check nothing is written, and the
 program fails when a file would change.
 """
 
@@ -107,8 +106,7 @@ class Office:
         """An element with a box as its body; it stands `at` a point of the storey or element `inside`."""
         place = self.placement(self.places[inside] if isinstance(inside, str) else inside, *at, turned=turned)
         shape = self.shape(*size) if size else None
-        element = self.w.rooted(class_name, key, Name=name, ObjectPlacement=place, Representation=shape,
-                                **values)
+        element = self.w.rooted(class_name, key, Name=name, ObjectPlacement=place, Representation=shape, **values)
         self.elements[key] = element
         self.places[key] = place
         return element
@@ -121,13 +119,11 @@ class Office:
 
     def single(self, name, type_name, value, unit=None, description=None):
         nominal = None if value is None else self.value(type_name, value)
-        return self.add("IfcPropertySingleValue", Name=name, Description=description,
-                        Specification=description,
+        return self.add("IfcPropertySingleValue", Name=name, Description=description, Specification=description,
                         NominalValue=nominal, Unit=unit)
 
     def enumerated(self, name, values, enumeration, description=None):
-        return self.add("IfcPropertyEnumeratedValue", Name=name, Description=description,
-                        Specification=description,
+        return self.add("IfcPropertyEnumeratedValue", Name=name, Description=description, Specification=description,
                         EnumerationValues=[self.value("Label", value) for value in values],
                         EnumerationReference=enumeration)
 
@@ -142,8 +138,7 @@ class Office:
                         Unit=unit, SetPointValue=form(set_point))
 
     def list_of(self, name, type_name, values, unit=None):
-        return self.add("IfcPropertyListValue", Name=name, ListValues=[self.value(type_name,
-                                                                                  v) for v in values],
+        return self.add("IfcPropertyListValue", Name=name, ListValues=[self.value(type_name, v) for v in values],
                         Unit=unit)
 
     def reference(self, name, usage, target):
@@ -175,16 +170,14 @@ class Office:
             AddressLines=["Lindenstra\u00dfe 7", "Hinterhaus"], Town="K\u00f6ln", PostalCode="50674",
             Country="Germany")
         telecom = self.add("IfcTelecomAddress", Purpose="OFFICE", TelephoneNumbers=["+49 221 000000"],
-                           ElectronicMailAddresses=["office@example.org"],
-                           WWWHomePageURL="https://example.org")
+                           ElectronicMailAddresses=["office@example.org"], WWWHomePageURL="https://example.org")
         self.person = self.add("IfcPerson", Id="jm", Identification="jm", FamilyName="M\u00fcller",
-                               GivenName="J\u00f6rg", MiddleNames=["A.", "B."], Roles=[role])
-        self.organization = self.add("IfcOrganization", Id="plan", Identification="plan",
-                                     Name="Plain Planning",
+                               GivenName="J\u00f6rg",
+                               MiddleNames=["A.", "B."], Roles=[role])
+        self.organization = self.add("IfcOrganization", Id="plan", Identification="plan", Name="Plain Planning",
                                      Description="Invented for these samples",
                                      Addresses=[self.office_address, telecom])
-        self.user = self.add("IfcPersonAndOrganization", ThePerson=self.person,
-                             TheOrganization=self.organization)
+        self.user = self.add("IfcPersonAndOrganization", ThePerson=self.person, TheOrganization=self.organization)
         application = self.add("IfcApplication", ApplicationDeveloper=self.organization, Version="1.0",
                                ApplicationFullName="Qev samples", ApplicationIdentifier="qev-samples")
         w.owner_history = self.add("IfcOwnerHistory", OwningUser=self.user, OwningApplication=application,
@@ -196,20 +189,17 @@ class Office:
         return self.add("IfcSIUnit", UnitType=unit_type, Prefix=prefix, Name=name)
 
     def dimensions(self, length=0, mass=0, time=0, temperature=0):
-        return self.add("IfcDimensionalExponents", LengthExponent=length, MassExponent=mass,
-                        TimeExponent=time,
+        return self.add("IfcDimensionalExponents", LengthExponent=length, MassExponent=mass, TimeExponent=time,
                         ElectricCurrentExponent=0, ThermodynamicTemperatureExponent=temperature,
                         AmountOfSubstanceExponent=0, LuminousIntensityExponent=0)
 
     def converted(self, unit_type, name, exponents, type_name, factor, base):
-        measure = self.add("IfcMeasureWithUnit", ValueComponent=self.value(type_name, factor),
-                           UnitComponent=base)
+        measure = self.add("IfcMeasureWithUnit", ValueComponent=self.value(type_name, factor), UnitComponent=base)
         return self.add("IfcConversionBasedUnit", Dimensions=exponents, UnitType=unit_type, Name=name,
                         ConversionFactor=measure)
 
     def derived(self, unit_type, *elements, name=None):
-        parts = [self.add("IfcDerivedUnitElement", Unit=unit, Exponent=exponent) for unit,
-                 exponent in elements]
+        parts = [self.add("IfcDerivedUnitElement", Unit=unit, Exponent=exponent) for unit, exponent in elements]
         return self.add("IfcDerivedUnit", Elements=parts, UnitType=unit_type,
                         UserDefinedType=name if unit_type == "USERDEFINED" else None)
 
@@ -228,8 +218,7 @@ class Office:
         self.foot = self.converted("LENGTHUNIT", "FOOT", self.length_dimensions,
                                    "RatioMeasure" if self.old else "LengthMeasure", FOOT, self.metre_unit)
         if self.length_unit == "foot":
-            area = self.converted("AREAUNIT", "SQUARE FOOT", self.dimensions(length=2), "AreaMeasure",
-                                  FOOT ** 2,
+            area = self.converted("AREAUNIT", "SQUARE FOOT", self.dimensions(length=2), "AreaMeasure", FOOT ** 2,
                                   square_metre)
             volume = self.converted("VOLUMEUNIT", "CUBIC FOOT", self.dimensions(length=3), "VolumeMeasure",
                                     FOOT ** 3, cubic_metre)
@@ -242,8 +231,7 @@ class Office:
         kilogram = self.si("MASSUNIT", "GRAM", "KILO")
         self.gram = self.si("MASSUNIT", "GRAM")
         self.second = self.si("TIMEUNIT", "SECOND")
-        self.hour = self.converted("TIMEUNIT", "HOUR", self.dimensions(time=1), "TimeMeasure", 3600.0,
-                                   self.second)
+        self.hour = self.converted("TIMEUNIT", "HOUR", self.dimensions(time=1), "TimeMeasure", 3600.0, self.second)
         kelvin = self.si("THERMODYNAMICTEMPERATUREUNIT", "KELVIN")
         watt = self.si("POWERUNIT", "WATT")
         self.kilowatt = self.si("POWERUNIT", "WATT", "KILO")
@@ -261,23 +249,20 @@ class Office:
             self.si("THERMODYNAMICTEMPERATUREUNIT", "DEGREE_CELSIUS")
         time = self.hour if self.length_unit == "metre" else self.second
         power = watt if self.length_unit == "metre" else self.kilowatt
-        self.in_file_temperature = lambda celsius: round(celsius + 273.15,
-                                                         6) if temperature is kelvin else celsius
+        self.in_file_temperature = lambda celsius: round(celsius + 273.15, 6) if temperature is kelvin else celsius
         self.in_file_power = lambda watts: watts if power is watt else watts / 1000.0
         self.in_file_flow = lambda cubic_metres: cubic_metres if flow_volume is cubic_metre else cubic_metres * 1000.0
         self.in_file_time = lambda seconds: seconds / 3600.0 if time is self.hour else seconds
         if w.has("IfcConversionBasedUnitWithOffset"):
             w.note("Degrees Fahrenheit: K = value * 5/9 + 255.372222.")
             measure = self.add("IfcMeasureWithUnit", UnitComponent=kelvin,
-                               ValueComponent=self.value("ThermodynamicTemperatureMeasure",
-                                                         0.5555555555555556))
+                               ValueComponent=self.value("ThermodynamicTemperatureMeasure", 0.5555555555555556))
             self.fahrenheit = self.add("IfcConversionBasedUnitWithOffset",
                                        Dimensions=self.dimensions(temperature=1),
                                        UnitType="THERMODYNAMICTEMPERATUREUNIT", Name="FAHRENHEIT",
                                        ConversionFactor=measure, ConversionOffset=255.3722222222222)
         w.note("A unit without a scale: persons.")
-        self.persons = self.add("IfcContextDependentUnit", Dimensions=self.dimensions(),
-                                UnitType="USERDEFINED",
+        self.persons = self.add("IfcContextDependentUnit", Dimensions=self.dimensions(), UnitType="USERDEFINED",
                                 Name="PERSON")
         self.unit_assignment = self.add("IfcUnitAssignment", Units=basic + [
             angle, kilogram, time, temperature, power, transmittance, flow, density, money])
@@ -290,17 +275,14 @@ class Office:
         self.along_x = self.add("IfcDirection", DirectionRatios=[1.0, 0.0, 0.0])
         self.along_y = self.add("IfcDirection", DirectionRatios=[0.0, 1.0, 0.0])
         north = self.add("IfcDirection", DirectionRatios=[0.0871557427, 0.9961946981])
-        self.axes = self.add("IfcAxis2Placement3D", Location=self.origin, Axis=self.up,
-                             RefDirection=self.along_x)
+        self.axes = self.add("IfcAxis2Placement3D", Location=self.origin, Axis=self.up, RefDirection=self.along_x)
         model = self.add("IfcGeometricRepresentationContext", ContextIdentifier="3D", ContextType="Model",
                          CoordinateSpaceDimension=3, Precision=1e-05, WorldCoordinateSystem=self.axes,
                          TrueNorth=north)
-        self.body = self.add("IfcGeometricRepresentationSubContext", ContextIdentifier="Body",
-                             ContextType="Model",
+        self.body = self.add("IfcGeometricRepresentationSubContext", ContextIdentifier="Body", ContextType="Model",
                              ParentContext=model, TargetView="MODEL_VIEW")
         self.model_context = model
-        self.project = w.rooted("IfcProject", "project", Name="Small office",
-                                LongName="Small office at the park",
+        self.project = w.rooted("IfcProject", "project", Name="Small office", LongName="Small office at the park",
                                 Description="Two storeys with everything that a property view should show",
                                 ObjectType="Sample", Phase="Design", RepresentationContexts=[model],
                                 UnitsInContext=self.unit_assignment)
@@ -309,8 +291,7 @@ class Office:
             w.note("Where the model lies on the map. The map is in metres, whatever the model is in.")
             system = self.add("IfcProjectedCRS", Name="EPSG:25832", Description="UTM zone 32",
                               GeodeticDatum="ETRS89",
-                              VerticalDatum="DHHN2016", MapProjection="UTM", MapZone="32N",
-                              MapUnit=self.metre_unit)
+                              VerticalDatum="DHHN2016", MapProjection="UTM", MapZone="32N", MapUnit=self.metre_unit)
             self.add("IfcMapConversion", SourceCRS=model, TargetCRS=system, Eastings=356600.25,
                      Northings=5645300.5, OrthogonalHeight=53.2, XAxisAbscissa=0.9961946981,
                      XAxisOrdinate=-0.0871557427,
@@ -324,15 +305,12 @@ class Office:
                            AddressLines=["Am Park 12"], PostalBox="1200", Town="K\u00f6ln", Region="NRW",
                            PostalCode="50670", Country="Germany")
         self.places["site"] = self.placement(None, 0, 0, 0)
-        site = w.rooted("IfcSite", "site", Name="Plot 12", LongName="Plot at the park",
-                        CompositionType="ELEMENT",
+        site = w.rooted("IfcSite", "site", Name="Plot 12", LongName="Plot at the park", CompositionType="ELEMENT",
                         ObjectPlacement=self.places["site"], RefLatitude=[50, 57, 1, 500000],
-                        RefLongitude=[6, 57, 32, 250000], RefElevation=self.length(53.2),
-                        LandTitleNumber="12/7",
+                        RefLongitude=[6, 57, 32, 250000], RefElevation=self.length(53.2), LandTitleNumber="12/7",
                         SiteAddress=address)
         self.places["building"] = self.placement(self.places["site"], 0, 0, 0)
-        building = w.rooted("IfcBuilding", "building", Name="Office", LongName="Small office",
-                            ObjectType="Office",
+        building = w.rooted("IfcBuilding", "building", Name="Office", LongName="Small office", ObjectType="Office",
                             CompositionType="ELEMENT", ObjectPlacement=self.places["building"],
                             ElevationOfRefHeight=self.length(53.5), ElevationOfTerrain=self.length(53.2),
                             BuildingAddress=self.office_address)
@@ -347,14 +325,12 @@ class Office:
         spaces = [
             ("space reception", "0.01", "Reception", "ground", (0.365, 0.365), (5.5, 7.27, 2.9)),
             ("space workshop", "0.02", "Workshop", "ground", (6.0, 0.365), (5.635, 7.27, 2.9)),
-            ("space meeting", "1.01", "Besprechungsraum gro\u00df", "upper", (0.365, 0.365), (5.5, 7.27,
-                                                                                              2.7)),
+            ("space meeting", "1.01", "Besprechungsraum gro\u00df", "upper", (0.365, 0.365), (5.5, 7.27, 2.7)),
             ("space office", "1.02", "B\u00fcro", "upper", (6.0, 0.365), (5.635, 7.27, 2.7)),
         ]
         for key, number, long_name, storey, (x, y), size in spaces:
             self.element("IfcSpace", key, number, storey, (x, y, 0), size, LongName=long_name,
-                         CompositionType="ELEMENT", InteriorOrExteriorSpace="INTERNAL",
-                         PredefinedType="SPACE",
+                         CompositionType="ELEMENT", InteriorOrExteriorSpace="INTERNAL", PredefinedType="SPACE",
                          ElevationWithFlooring=self.length(0.0 if storey == "ground" else 3.2))
         w.note("What lies in what.")
         self.relate("IfcRelAggregates", "project", RelatingObject=self.project, RelatedObjects=[site])
@@ -376,18 +352,15 @@ class Office:
         self.glass = named("Glass", "glass")
         self.wood = named("Oak", "wood")
         layer = lambda material, thickness, name, ventilated=None: self.add(
-            "IfcMaterialLayer", Material=material, LayerThickness=self.length(thickness),
-            IsVentilated=ventilated,
+            "IfcMaterialLayer", Material=material, LayerThickness=self.length(thickness), IsVentilated=ventilated,
             Name=name, Category=name.lower(), Priority=None)
         layers = [layer(self.plaster, 0.015, "Finish", False), layer(self.brick, 0.24, "Core", False),
                   layer(self.insulation, 0.11, "Insulation", "UNKNOWN")]
-        self.wall_layers = self.add("IfcMaterialLayerSet", MaterialLayers=layers,
-                                    LayerSetName="External wall 365")
+        self.wall_layers = self.add("IfcMaterialLayerSet", MaterialLayers=layers, LayerSetName="External wall 365")
         self.wall_usage = self.add("IfcMaterialLayerSetUsage", ForLayerSet=self.wall_layers,
                                    LayerSetDirection="AXIS2", DirectionSense="POSITIVE",
                                    OffsetFromReferenceLine=0.0)
-        self.slab_layers = self.add("IfcMaterialLayerSet", MaterialLayers=[layer(self.concrete, 0.25,
-                                                                                 "Core")],
+        self.slab_layers = self.add("IfcMaterialLayerSet", MaterialLayers=[layer(self.concrete, 0.25, "Core")],
                                     LayerSetName="Slab 250")
         if w.has("IfcMaterialConstituentSet"):
             constituent = lambda name, material, fraction: self.add(
@@ -403,17 +376,13 @@ class Office:
                            WebThickness=self.length(0.0065), FlangeThickness=self.length(0.01),
                            FilletRadius=self.length(0.018))
         if w.has("IfcMaterialProfileSet"):
-            material_profile = self.add("IfcMaterialProfile", Name="HEA200", Material=self.steel,
-                                        Profile=profile)
-            profile_set = self.add("IfcMaterialProfileSet", Name="HEA200",
-                                   MaterialProfiles=[material_profile])
-            self.beam_material = self.add("IfcMaterialProfileSetUsage", ForProfileSet=profile_set,
-                                          CardinalPoint=5)
+            material_profile = self.add("IfcMaterialProfile", Name="HEA200", Material=self.steel, Profile=profile)
+            profile_set = self.add("IfcMaterialProfileSet", Name="HEA200", MaterialProfiles=[material_profile])
+            self.beam_material = self.add("IfcMaterialProfileSetUsage", ForProfileSet=profile_set, CardinalPoint=5)
             w.note("Properties of a material and of a profile; they hang on these, not on an element.")
             self.add("IfcMaterialProperties", Name="Pset_MaterialCommon", Material=self.steel, Properties=[
                 self.single("MassDensity", "MassDensityMeasure", 7850.0)])
-            self.add("IfcProfileProperties", Name="Pset_ProfileMechanical", ProfileDefinition=profile,
-                     Properties=[
+            self.add("IfcProfileProperties", Name="Pset_ProfileMechanical", ProfileDefinition=profile, Properties=[
                 self.single("CrossSectionArea", "AreaMeasure", 0.00538)])
         else:
             self.beam_material = self.steel
@@ -464,19 +433,16 @@ class Office:
             self.single("ThermalTransmittance", "ThermalTransmittanceMeasure", 0.9),
             self.single("GlazingAreaFraction", "PositiveRatioMeasure", 0.78)])]
         if self.old:
-            self.type_of("IfcDoorStyle", "door", "Door 1.01 x 2.13", door_sets,
-                         OperationType="SINGLE_SWING_LEFT",
+            self.type_of("IfcDoorStyle", "door", "Door 1.01 x 2.13", door_sets, OperationType="SINGLE_SWING_LEFT",
                          ConstructionType="WOOD", ParameterTakesPrecedence=True, Sizeable=False)
-            self.type_of("IfcWindowStyle", "window", "Window 1.2 x 1.5", window_sets,
-                         OperationType="SINGLE_PANEL",
+            self.type_of("IfcWindowStyle", "window", "Window 1.2 x 1.5", window_sets, OperationType="SINGLE_PANEL",
                          ConstructionType="WOOD", ParameterTakesPrecedence=False, Sizeable=True)
         else:
             self.type_of("IfcDoorType", "door", "Door 1.01 x 2.13", door_sets, PredefinedType="DOOR",
                          OperationType="SINGLE_SWING_LEFT", ParameterTakesPrecedence=True)
             self.type_of("IfcWindowType", "window", "Window 1.2 x 1.5", window_sets, PredefinedType="WINDOW",
                          PartitioningType="SINGLE_PANEL", ParameterTakesPrecedence=False)
-        self.type_of("IfcSlabType", "slab", "Slab 250", [self.property_set("slab type common",
-                                                                           "Pset_SlabCommon", [
+        self.type_of("IfcSlabType", "slab", "Slab 250", [self.property_set("slab type common", "Pset_SlabCommon", [
             self.single("LoadBearing", "Boolean", True),
             self.single("AcousticRating", "Label", "53 dB")])], PredefinedType="FLOOR")
         self.type_of("IfcColumnType", "column", "Column 300", [self.property_set(
@@ -485,20 +451,17 @@ class Office:
         self.type_of("IfcBeamType", "beam", "HEA200", None, PredefinedType="BEAM")
         self.type_of("IfcCoveringType", "covering", "Oak floor", None, PredefinedType="FLOORING")
         self.type_of("IfcStairType", "stair", "Straight stair", None, PredefinedType="STRAIGHT_RUN_STAIR")
-        self.type_of("IfcSpaceType", "space", "Office space", [self.property_set("space type",
-                                                                                 "Sample_SpaceType", [
-            self.single("Room class", "Label", "B")])],
-            PredefinedType="SPACE" if not self.old else "NOTDEFINED")
-        self.type_of("IfcFurnitureType", "desk", "Desk 160 x 80", [self.property_set("desk type",
-                                                                                     "Sample_Furniture", [
+        self.type_of("IfcSpaceType", "space", "Office space", [self.property_set("space type", "Sample_SpaceType", [
+            self.single("Room class", "Label", "B")])], PredefinedType="SPACE" if not self.old else "NOTDEFINED")
+        self.type_of("IfcFurnitureType", "desk", "Desk 160 x 80",
+                     [self.property_set("desk type", "Sample_Furniture", [
             self.single("Height adjustable", "Logical", "UNKNOWN"),
             self.single("Colour", "Label", None)]),
             w.rooted("IfcElementQuantity", "desk type quantities", Name="Sample_TypeQuantities", Quantities=[
-                self.quantity("Length", "Width", self.length(1.6)), self.quantity("Weight", "Weight",
-                                                                                  38.5)])],
+                self.quantity("Length", "Width", self.length(1.6)), self.quantity("Weight", "Weight", 38.5)])],
             AssemblyPlace="FACTORY", PredefinedType="DESK")
-        self.type_of("IfcDuctSegmentType", "duct", "Round duct 200", [self.property_set("duct type",
-                                                                                        "Sample_Duct", [
+        self.type_of("IfcDuctSegmentType", "duct", "Round duct 200",
+                     [self.property_set("duct type", "Sample_Duct", [
             self.single("Diameter", "PositiveLengthMeasure", self.length(0.2)),
             self.single("Design flow", "VolumetricFlowRateMeasure", self.in_file_flow(0.12))])],
             PredefinedType="RIGIDSEGMENT")
@@ -510,22 +473,18 @@ class Office:
     def envelope(self):
         w = self.w
         w.section("Walls and slabs")
-        walls = [("south", (0, 0), 12.0, False), ("east", (12.0, 0), 8.0, True), ("north", (0, 7.635), 12.0,
-                                                                                  False),
+        walls = [("south", (0, 0), 12.0, False), ("east", (12.0, 0), 8.0, True), ("north", (0, 7.635), 12.0, False),
                  ("west", (0.365, 0), 8.0, True)]
         for storey, short, height in (("ground", "G", 2.95), ("upper", "U", 2.75)):
             for side, (x, y), long, turned in walls:
-                self.element(self.wall_class(), "wall %s %s" % (side, storey), "Wall %s %s" % (short, side),
-                             storey,
+                self.element(self.wall_class(), "wall %s %s" % (side, storey), "Wall %s %s" % (short, side), storey,
                              (x, y, 0), (long, 0.365, height), turned, Tag=short + side[0].upper(),
                              PredefinedType="STANDARD")
             self.element("IfcWall", "wall inner " + storey, "Wall %s inner" % short, storey, (6.0, 0.365, 0),
                          (7.27, 0.135, height), True, ObjectType="Partition", PredefinedType="PARTITIONING")
-        self.element("IfcSlab", "slab ground", "Slab ground", "ground", (0, 0, -0.25), (12.0, 8.0, 0.25),
-                     Tag="S0",
+        self.element("IfcSlab", "slab ground", "Slab ground", "ground", (0, 0, -0.25), (12.0, 8.0, 0.25), Tag="S0",
                      PredefinedType="BASESLAB")
-        self.element("IfcSlab", "slab upper", "Slab upper", "upper", (0, 0, -0.25), (12.0, 8.0, 0.25),
-                     Tag="S1",
+        self.element("IfcSlab", "slab upper", "Slab upper", "upper", (0, 0, -0.25), (12.0, 8.0, 0.25), Tag="S1",
                      PredefinedType="FLOOR")
         self.element("IfcSlab", "slab roof", "Slab roof", "upper", (0, 0, 2.75), (12.0, 8.0, 0.25), Tag="S2",
                      PredefinedType="ROOF")
@@ -554,24 +513,20 @@ class Office:
         window = dict(PredefinedType="WINDOW", PartitioningType="SINGLE_PANEL")
         self.opening("door entrance", "wall south ground", 2.0, 0.0, 1.26, 2.26, "IfcDoor", "Entrance",
                      Tag="D1", **door)
-        self.opening("door inner", "wall inner ground", 3.0, 0.0, 1.01, 2.13, "IfcDoor", "Inner door",
-                     Tag="D2", **door)
+        self.opening("door inner", "wall inner ground", 3.0, 0.0, 1.01, 2.13, "IfcDoor", "Inner door", Tag="D2",
+                     **door)
         for index, (wall, x) in enumerate([("wall south ground", 8.0), ("wall south upper", 2.0),
                                            ("wall south upper", 8.0)]):
-            self.opening("window %d" % (index + 1), wall, x, 0.9, 1.2, 1.5, "IfcWindow",
-                         "Window %d" % (index + 1),
+            self.opening("window %d" % (index + 1), wall, x, 0.9, 1.2, 1.5, "IfcWindow", "Window %d" % (index + 1),
                          Tag="F%d" % (index + 1), **window)
-        self.relate("IfcRelAssociatesMaterial", "windows", RelatingMaterial=self.window_material,
-                    RelatedObjects=[
+        self.relate("IfcRelAssociatesMaterial", "windows", RelatingMaterial=self.window_material, RelatedObjects=[
             self.elements["window %d" % index] for index in (1, 2, 3)])
 
     def structure(self):
         w = self.w
         w.section("Columns, a beam and a stair")
         for index, x in enumerate((4.0, 8.0)):
-            self.element("IfcColumn", "column %d" % (index + 1), "Column %d" % (index + 1), "ground", (x,
-                                                                                                       3.85,
-                                                                                                       0),
+            self.element("IfcColumn", "column %d" % (index + 1), "Column %d" % (index + 1), "ground", (x, 3.85, 0),
                          (0.3, 0.3, 2.95), Tag="C%d" % (index + 1), PredefinedType="COLUMN")
         self.element("IfcBeam", "beam 1", "Beam 1", "ground", (4.0, 3.9, 2.76), (4.0, 0.2, 0.19), Tag="B1",
                      PredefinedType="BEAM")
@@ -581,8 +536,7 @@ class Office:
                               NumberOfRiser=18, NumberOfRisers=18, NumberOfTreads=17,
                               RiserHeight=self.length(0.177778), TreadLength=self.length(0.27),
                               PredefinedType="STRAIGHT")
-        self.relate("IfcRelAggregates", "stair", RelatingObject=self.elements["stair"],
-                    RelatedObjects=[flight])
+        self.relate("IfcRelAggregates", "stair", RelatingObject=self.elements["stair"], RelatedObjects=[flight])
         self.relate("IfcRelAssociatesMaterial", "beam", RelatingMaterial=self.beam_material,
                     RelatedObjects=[self.elements["beam 1"]])
         self.relate("IfcRelAssociatesMaterial", "columns", RelatingMaterial=self.concrete, RelatedObjects=[
@@ -611,13 +565,11 @@ class Office:
                      PredefinedType="RIGIDSEGMENT")
         self.element(terminal, "terminal 1", "Air terminal 1", "ground", (7.0, 1.9, 2.5), (0.4, 0.4, 0.1),
                      PredefinedType="DIFFUSER")
-        ends = [("duct 1", "in", "SINK", 0.0), ("duct 1", "out", "SOURCE", 3.0), ("duct 2", "in", "SINK",
-                                                                                  0.0),
+        ends = [("duct 1", "in", "SINK", 0.0), ("duct 1", "out", "SOURCE", 3.0), ("duct 2", "in", "SINK", 0.0),
                 ("duct 2", "out", "SOURCE", 3.0), ("terminal 1", "in", "SINK", 0.0)]
         for element, end, direction, x in ends:
-            self.element("IfcDistributionPort", "port %s %s" % (element, end), "Port " + end, element, (x,
-                                                                                                        0.1,
-                                                                                                        0.1),
+            self.element("IfcDistributionPort", "port %s %s" % (element, end), "Port " + end, element,
+                         (x, 0.1, 0.1),
                          None, FlowDirection=direction, PredefinedType="DUCT", SystemType="VENTILATION")
         for element in ("duct 1", "duct 2", "terminal 1"):
             ports = [self.elements["port %s %s" % (e, end)] for e, end, _, _ in ends if e == element]
@@ -626,8 +578,7 @@ class Office:
                     self.relate("IfcRelConnectsPortToElement", "%s %d" % (element, index), RelatingPort=port,
                                 RelatedElement=self.elements[element])
             else:
-                self.relate("IfcRelNests", element, RelatingObject=self.elements[element],
-                            RelatedObjects=ports)
+                self.relate("IfcRelNests", element, RelatingObject=self.elements[element], RelatedObjects=ports)
         self.relate("IfcRelConnectsPorts", "ducts", RelatingPort=self.elements["port duct 1 out"],
                     RelatedPort=self.elements["port duct 2 in"])
         self.relate("IfcRelConnectsPorts", "terminal", RelatingPort=self.elements["port duct 2 out"],
@@ -636,8 +587,7 @@ class Office:
         upper = {"covering", "slab upper", "slab roof"} | {"desk %d" % index for index in (1, 2, 3)}
         upper |= {key for key in self.elements if key.endswith(" upper")} | {"window 2", "window 3"}
         skipped = ("space", "opening", "port", "flight", "project", "site", "building")
-        contained = [key for key in self.elements if not key.startswith(skipped) and key not in ("ground",
-                                                                                                 "upper")]
+        contained = [key for key in self.elements if not key.startswith(skipped) and key not in ("ground", "upper")]
         for storey, keys in (("ground", [key for key in contained if key not in upper]),
                              ("upper", [key for key in contained if key in upper])):
             self.relate("IfcRelContainedInSpatialStructure", storey, RelatingStructure=self.elements[storey],
@@ -649,8 +599,7 @@ class Office:
         w = self.w
         w.section("Systems, zones and groups")
         system = "IfcDistributionSystem" if w.has("IfcDistributionSystem") else "IfcSystem"
-        supply = w.rooted(system, "system supply", Name="Supply air",
-                          LongName="Supply air of the ground floor",
+        supply = w.rooted(system, "system supply", Name="Supply air", LongName="Supply air of the ground floor",
                           ObjectType="Ventilation", PredefinedType="VENTILATION")
         self.elements["system supply"] = supply
         self.relate("IfcRelAssignsToGroup", "supply", RelatingGroup=supply, RelatedObjects=[
@@ -667,8 +616,7 @@ class Office:
         self.elements["group"] = group
         self.relate("IfcRelAssignsToGroup", "group", RelatingGroup=group, RelatedObjects=[
             self.elements["wall south ground"], self.elements["slab ground"], self.elements["column 1"]])
-        actor = w.rooted("IfcOccupant", "occupant", Name="Tenant", TheActor=self.user,
-                         PredefinedType="TENANT")
+        actor = w.rooted("IfcOccupant", "occupant", Name="Tenant", TheActor=self.user, PredefinedType="TENANT")
         self.elements["occupant"] = actor
         self.relate("IfcRelAssignsToActor", "occupant", RelatingActor=actor,
                     RelatedObjects=[self.elements["space office"]])
@@ -677,11 +625,9 @@ class Office:
         self.w.section("Which element is of which type")
         members = {
             "wall external": [k for k in self.elements if k.startswith("wall") and "inner" not in k],
-            "wall internal": ["wall inner ground", "wall inner upper"], "door": ["door entrance",
-                                                                                 "door inner"],
+            "wall internal": ["wall inner ground", "wall inner upper"], "door": ["door entrance", "door inner"],
             "window": ["window 1", "window 2", "window 3"], "slab": ["slab ground", "slab upper"],
-            "column": ["column 1", "column 2"], "beam": ["beam 1"], "covering": ["covering"],
-            "stair": ["stair"],
+            "column": ["column 1", "column 2"], "beam": ["beam 1"], "covering": ["covering"], "stair": ["stair"],
             "space": ["space office", "space workshop"], "desk": ["desk 1", "desk 2", "desk 3"],
             "duct": ["duct 1", "duct 2"], "terminal": ["terminal 1"]}
         for key, elements in members.items():
@@ -696,13 +642,11 @@ class Office:
         w.note("Shared by all external walls but the southern one of the ground floor, which has its own.")
         self.set_on("walls common", "Pset_WallCommon", [
             self.single("LoadBearing", "Boolean", True), self.single("ExtendToStructure", "Boolean", False),
-            self.single("AcousticRating", "Label", "48 dB")],
-            *[key for key in walls if key != "wall south ground"])
+            self.single("AcousticRating", "Label", "48 dB")], *[key for key in walls if key != "wall south ground"])
         status = None
         if not self.old:
             status = self.enumerated("Status", ["NEW"], self.enumeration(
-                "PEnum_ElementStatus", "DEMOLISH", "EXISTING", "NEW", "TEMPORARY", "OTHER", "NOTKNOWN",
-                "UNSET"))
+                "PEnum_ElementStatus", "DEMOLISH", "EXISTING", "NEW", "TEMPORARY", "OTHER", "NOTKNOWN", "UNSET"))
         self.set_on("wall south common", "Pset_WallCommon", [
             self.single("Reference", "Identifier", "W365-south"), self.single("FireRating", "Label", "F90"),
             self.single("LoadBearing", "Boolean", True),
@@ -712,13 +656,10 @@ class Office:
         self.set_on("door entrance common", "Pset_DoorCommon", [
             self.single("FireRating", "Label", "T30"), self.single("IsExternal", "Boolean", True),
             self.single("HandicapAccessible", "Boolean", True),
-            self.single("SecurityRating", "Label", "RC2"), self.single("Infiltration",
-                                                                       "VolumetricFlowRateMeasure",
-                                                                      self.in_file_flow(0.002))],
-                                                                      "door entrance")
+            self.single("SecurityRating", "Label", "RC2"), self.single("Infiltration", "VolumetricFlowRateMeasure",
+                                                                      self.in_file_flow(0.002))], "door entrance")
         self.set_on("door inner common", "Pset_DoorCommon", [
-            self.single("FireRating", "Label", "T0"), self.single("IsExternal", "Boolean", False)],
-            "door inner")
+            self.single("FireRating", "Label", "T0"), self.single("IsExternal", "Boolean", False)], "door inner")
         self.set_on("windows common", "Pset_WindowCommon", [
             self.single("IsExternal", "Boolean", True), self.single("AcousticRating", "Label", "35 dB")],
             "window 1", "window 2", "window 3")
@@ -727,11 +668,9 @@ class Office:
             "slab roof")
         self.set_on("beam common", "Pset_BeamCommon", [
             self.single("Span", "PositiveLengthMeasure", self.length(4.0)),
-            self.single("Slope", "PlaneAngleMeasure", 0.0), self.single("LoadBearing", "Boolean", True)],
-            "beam 1")
+            self.single("Slope", "PlaneAngleMeasure", 0.0), self.single("LoadBearing", "Boolean", True)], "beam 1")
         self.set_on("stair common", "Pset_StairCommon", [
-            self.single("NumberOfRiser", "CountMeasure", 18), self.single("NumberOfTreads", "CountMeasure",
-                                                                          17),
+            self.single("NumberOfRiser", "CountMeasure", 18), self.single("NumberOfTreads", "CountMeasure", 17),
             self.single("RiserHeight", "PositiveLengthMeasure", self.length(0.177778)),
             self.single("HandicapAccessible", "Boolean", False)], "stair")
         spaces = [key for key in self.elements if key.startswith("space")]
@@ -739,8 +678,7 @@ class Office:
             self.set_on(key + " common", "Pset_SpaceCommon", [
                 self.single("Reference", "Identifier", key.split()[1].upper()[:3]),
                 self.single("IsExternal", "Boolean", False),
-                self.single("PubliclyAccessible", "Boolean", key in ("space reception", "space meeting"))],
-                key)
+                self.single("PubliclyAccessible", "Boolean", key in ("space reception", "space meeting"))], key)
         self.set_on("building common", "Pset_BuildingCommon", [
             self.single("NumberOfStoreys", "Integer", 2), self.single("YearOfConstruction", "Label", "2026"),
             self.single("IsLandmarked", "Logical", "UNKNOWN")], "building")
@@ -759,24 +697,20 @@ class Office:
     def own_sets(self):
         w = self.w
         power, flow, warm = self.in_file_power, self.in_file_flow, self.in_file_temperature
-        w.section("Sets of a company: single values of every kind",
-                  "All on the first wall of the ground floor.")
+        w.section("Sets of a company: single values of every kind", "All on the first wall of the ground floor.")
         wall = "wall south ground"
         singles = [
-            self.single("Label", "Label", "Facing brick"), self.single("Text", "Text",
-                                                                       "Laid in stretcher bond."),
+            self.single("Label", "Label", "Facing brick"), self.single("Text", "Text", "Laid in stretcher bond."),
             self.single("Identifier", "Identifier", "A-1.2/3"), self.single("Boolean true", "Boolean", True),
             self.single("Boolean false", "Boolean", False), self.single("Logical true", "Logical", True),
-            self.single("Logical false", "Logical", False), self.single("Logical unknown", "Logical",
-                                                                        "UNKNOWN"),
+            self.single("Logical false", "Logical", False), self.single("Logical unknown", "Logical", "UNKNOWN"),
             self.single("Integer", "Integer", -42), self.single("Real", "Real", 1.5e-07),
             self.single("Real zero", "Real", 0.0), self.single("Count", "CountMeasure", 12),
             self.single("Length", "LengthMeasure", self.length(-0.125)),
             self.single("Positive length", "PositiveLengthMeasure", self.length(2.5)),
-            self.single("Area", "AreaMeasure", self.area(35.4)), self.single("Volume", "VolumeMeasure",
-                                                                             self.volume(12.9)),
-            self.single("Ratio", "RatioMeasure", 0.35), self.single("Positive ratio", "PositiveRatioMeasure",
-                                                                    1.2),
+            self.single("Area", "AreaMeasure", self.area(35.4)),
+            self.single("Volume", "VolumeMeasure", self.volume(12.9)),
+            self.single("Ratio", "RatioMeasure", 0.35), self.single("Positive ratio", "PositiveRatioMeasure", 1.2),
             self.single("Normalised ratio", "NormalisedRatioMeasure", 0.5),
             self.single("Plane angle", "PlaneAngleMeasure", 22.5),
             self.single("Temperature", "ThermodynamicTemperatureMeasure", warm(21.5)),
@@ -792,8 +726,8 @@ class Office:
         if w.has("IfcDate"):
             singles += [self.single("Date", "Date", "2026-03-02"),
                         self.single("Date and time", "DateTime", "2026-03-02T09:30:00"),
-                        self.single("Time of day", "Time", "09:30:00"), self.single("Duration", "Duration",
-                                                                                    "P2DT3H")]
+                        self.single("Time of day", "Time", "09:30:00"),
+                        self.single("Duration", "Duration", "P2DT3H")]
         self.set_on("singles", "Sample_SingleValues", singles, wall,
                     description="One property of each kind of value")
         w.section("Sets of a company: properties with a unit of their own")
@@ -813,8 +747,7 @@ class Office:
         w.section("Sets of a company: enumerated, bounded, list, table, reference and complex")
         colours = self.enumeration("Sample_Colours", "RED", "YELLOW", "BROWN", "GREY")
         self.set_on("enumerated", "Sample_Enumerated", [
-            self.enumerated("Colour", ["RED"], colours), self.enumerated("Colours", ["RED", "BROWN"],
-                                                                         colours),
+            self.enumerated("Colour", ["RED"], colours), self.enumerated("Colours", ["RED", "BROWN"], colours),
             self.enumerated("Without a list", ["ONE"], None, "The enumeration itself is missing")],
             wall, "wall east ground")
         self.set_on("bounded", "Sample_Bounded", [
@@ -833,8 +766,7 @@ class Office:
             self.value("Real", number) for number in (38.0, 44.0, 51.0, 56.0)], Expression="R = f(Hz)",
             CurveInterpolation="LINEAR")
         lengths = self.add("IfcPropertyTableValue", Name="Deflection", DefiningValues=[
-            self.value("PowerMeasure", power(1000.0)), self.value("PowerMeasure", power(2000.0))],
-            DefinedValues=[
+            self.value("PowerMeasure", power(1000.0)), self.value("PowerMeasure", power(2000.0))], DefinedValues=[
             self.value("LengthMeasure", 0.5), self.value("LengthMeasure", 1.25)], DefinedUnit=self.inch)
         self.set_on("tables", "Sample_Tables", [table, lengths], wall)
         self.references(wall)
@@ -860,15 +792,13 @@ class Office:
                           TimeSeriesDataType="CONTINUOUS", DataOrigin="MEASURED",
                           TimeStep=self.in_file_time(3600.0), Values=readings)
         if not self.old:
-            self.add("IfcExternalReferenceRelationship", Name="Source of the readings",
-                     RelatingReference=manual,
+            self.add("IfcExternalReferenceRelationship", Name="Source of the readings", RelatingReference=manual,
                      RelatedResourceObjects=[series])
         properties = [
             self.reference("Manual", "Document", manual), self.reference("Contact", "Person", self.person),
-            self.reference("Organization", None, self.organization), self.reference("Address", None,
-                                                                                    self.office_address),
-            self.reference("Main material", "Material", self.brick), self.reference("Measured", "Series",
-                                                                                    series)]
+            self.reference("Organization", None, self.organization),
+            self.reference("Address", None, self.office_address),
+            self.reference("Main material", "Material", self.brick), self.reference("Measured", "Series", series)]
         if self.old:
             properties.append(self.reference("Inspected on", "Date", self.date(14, 2, 2026)))
         self.set_on("references", "Sample_References", properties, wall)
@@ -894,8 +824,8 @@ class Office:
             self.single("Backslash", "Label", "C:\\plans\\wall.ifc"),
             self.single(" blank before and behind ", "Label", "  two blanks on each side  "),
             self.single("Looks like a record", "Label", "#12=IFCWALL($);/* no comment */"),
-            self.single("Dots.in.the.name", "Label", "a.b.c"), self.single("Euro and dash", "Label",
-                                                                           "12 \u20ac \u2013 15 \u20ac"),
+            self.single("Dots.in.the.name", "Label", "a.b.c"),
+            self.single("Euro and dash", "Label", "12 \u20ac \u2013 15 \u20ac"),
             self.single("Beyond the plane", "Label", Text("\U00020bb7\u91ce", "X4")),
             self.single("Code page", "Label", Text("\u041c\u043e\u0441\u043a\u0432\u0430", "PE"),
                         description="Cyrillic"),
@@ -925,14 +855,13 @@ class Office:
         w.note("A value that differs from desk to desk.")
         for index, owner in enumerate(("Anna", "Bj\u00f6rn", "Anna")):
             self.set_on("desk %d" % (index + 1), "Sample_Furniture", [
-                self.single("Owner", "Label", owner), self.single("Inventory number", "Identifier",
-                                                                  "INV-%04d" % (index + 1)),
+                self.single("Owner", "Label", owner),
+                self.single("Inventory number", "Identifier", "INV-%04d" % (index + 1)),
                 self.single("Height", "PositiveLengthMeasure", self.length(0.74 if index < 2 else 0.76))],
                 "desk %d" % (index + 1))
 
     def quantity(self, kind, name, value, unit=None, formula=None):
-        attribute = {"Length": "LengthValue", "Area": "AreaValue", "Volume": "VolumeValue",
-                     "Count": "CountValue",
+        attribute = {"Length": "LengthValue", "Area": "AreaValue", "Volume": "VolumeValue", "Count": "CountValue",
                      "Weight": "WeightValue", "Time": "TimeValue"}[kind]
         return self.add("IfcQuantity" + kind, Name=name, Unit=unit, Formula=formula, **{attribute: value})
 
@@ -946,21 +875,20 @@ class Office:
         w.section("Quantities", "All six kinds, one with a unit of its own, and a quantity made of quantities.")
         base = "BaseQuantities" if self.old else "Qto_WallBaseQuantities"
         self.quantity_set("wall south", base, [
-            self.quantity("Length", "Length", self.length(12.0)), self.quantity("Length", "Width",
-                                                                                self.length(0.365)),
+            self.quantity("Length", "Length", self.length(12.0)),
+            self.quantity("Length", "Width", self.length(0.365)),
             self.quantity("Length", "Height", self.length(2.95)),
             self.quantity("Area", "GrossSideArea", self.area(35.4), formula="Length * Height"),
             self.quantity("Area", "NetSideArea", self.area(30.7524)),
             self.quantity("Volume", "GrossVolume", self.volume(12.921)),
             self.quantity("Weight", "GrossWeight", 23257.8)], "wall south ground")
-        layers = [self.quantity("Length", "Width", self.length(0.24)), self.quantity("Volume", "Volume",
-                                                                                     self.volume(8.496))]
-        composed = self.add("IfcPhysicalComplexQuantity", Name="Core", HasQuantities=layers,
-                            Discrimination="layer",
+        layers = [self.quantity("Length", "Width", self.length(0.24)),
+                  self.quantity("Volume", "Volume", self.volume(8.496))]
+        composed = self.add("IfcPhysicalComplexQuantity", Name="Core", HasQuantities=layers, Discrimination="layer",
                             Quality="calculated", Usage="cost")
         self.quantity_set("all kinds", "Sample_Quantities", [
-            self.quantity("Length", "Joint length", 118.0, self.inch), self.quantity("Area", "Painted",
-                                                                                     self.area(30.7524)),
+            self.quantity("Length", "Joint length", 118.0, self.inch),
+            self.quantity("Area", "Painted", self.area(30.7524)),
             self.quantity("Volume", "Mortar", self.volume(0.75)), self.quantity("Count", "Bricks", 5600),
             self.quantity("Weight", "Mortar weight", 1350.0),
             self.quantity("Time", "Working time", 28.5, self.hour), composed], "wall south ground")
@@ -972,8 +900,7 @@ class Office:
                 self.quantity("Area", "NetFloorArea", self.area(round(width * 7.27, 6))),
                 self.quantity("Volume", "NetVolume", self.volume(round(width * 7.27 * height, 6)))], key)
         self.quantity_set("windows", "BaseQuantities" if self.old else "Qto_WindowBaseQuantities", [
-            self.quantity("Length", "Width", self.length(1.2)), self.quantity("Length", "Height",
-                                                                              self.length(1.5)),
+            self.quantity("Length", "Width", self.length(1.2)), self.quantity("Length", "Height", self.length(1.5)),
             self.quantity("Area", "Area", self.area(1.8))], "window 1", "window 2", "window 3")
 
     def external_references(self):
@@ -991,21 +918,18 @@ class Office:
         for code, name in steps[-1:] if self.old else steps:
             chain = self.add("IfcClassificationReference", Location="https://example.org/classes/" + code,
                              ItemReference=code, Identification=code, Name=name, ReferencedSource=chain)
-        self.relate("IfcRelAssociatesClassification", "walls", Name="Cost group",
-                    RelatingClassification=chain,
+        self.relate("IfcRelAssociatesClassification", "walls", Name="Cost group", RelatingClassification=chain,
                     RelatedObjects=[self.elements["wall south ground"], self.elements["wall east ground"]])
         other = self.add("IfcClassificationReference", ItemReference="DO", Identification="DO", Name="Doors",
                          ReferencedSource=classification)
         self.relate("IfcRelAssociatesClassification", "door type", RelatingClassification=other,
                     RelatedObjects=[self.types["door"], self.elements["wall south ground"]])
         if self.old:
-            reference = self.add("IfcDocumentReference", Location="plans/ground-floor.pdf",
-                                 ItemReference="P-01",
+            reference = self.add("IfcDocumentReference", Location="plans/ground-floor.pdf", ItemReference="P-01",
                                  Name="Plan of the ground floor")
             created = self.add("IfcDateAndTime", DateComponent=self.date(20, 1, 2026), TimeComponent=self.add(
                 "IfcLocalTime", HourComponent=12, MinuteComponent=30, SecondComponent=0.0))
-            document = self.add("IfcDocumentInformation", DocumentId="P-01", Name="Ground floor",
-                                Revision="B",
+            document = self.add("IfcDocumentInformation", DocumentId="P-01", Name="Ground floor", Revision="B",
                                 DocumentReferences=[reference], DocumentOwner=self.user, CreationTime=created,
                                 ElectronicFormat=self.add("IfcDocumentElectronicFormat", FileExtension="pdf",
                                                           MimeContentType="application", MimeSubtype="pdf"),
@@ -1027,10 +951,10 @@ class Office:
 
     def boundaries(self):
         self.w.section("Space boundaries", "Which elements bound the reception and the office.")
-        bounds = [("space reception", "wall south ground", "EXTERNAL"), ("space reception",
-                                                                         "wall west ground", "EXTERNAL"),
-                  ("space reception", "wall inner ground", "INTERNAL"), ("space reception", "door entrance",
-                                                                         "EXTERNAL"),
+        bounds = [("space reception", "wall south ground", "EXTERNAL"),
+                  ("space reception", "wall west ground", "EXTERNAL"),
+                  ("space reception", "wall inner ground", "INTERNAL"),
+                  ("space reception", "door entrance", "EXTERNAL"),
                   ("space office", "wall east upper", "EXTERNAL"), ("space office", "window 3", "EXTERNAL")]
         for space, element, side in bounds:
             self.relate("IfcRelSpaceBoundary", space + " " + element, Name="1stLevel",
@@ -1041,8 +965,7 @@ class Office:
 def main():
     check = sys.argv[1:] == ["--check"]
     schemas = {name: Schema(name) for name in ("IFC2X3", "IFC4", "IFC4X3_ADD2")}
-    files = [("office-IFC4X3.ifc", "IFC4X3_ADD2", "X2", "millimetre"), ("office-IFC4.ifc", "IFC4", "X2",
-                                                                        "metre"),
+    files = [("office-IFC4X3.ifc", "IFC4X3_ADD2", "X2", "millimetre"), ("office-IFC4.ifc", "IFC4", "X2", "metre"),
              ("office-IFC2X3.ifc", "IFC2X3", "S", "foot")]
     changed = False
     for file_name, schema_name, encoding, length_unit in files:
