@@ -5,6 +5,7 @@ value as its declared type asks, and refuses what the class does not have or mus
 """
 
 import hashlib
+import itertools
 
 GLOBAL_ID_DIGITS = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_$"
 LINE_LENGTH = 118
@@ -52,47 +53,45 @@ def real_text(number):
     return mantissa + ("E" + exponent if exponent else "")
 
 
-def hexadecimal_run(run, codec):
-    return run.encode(codec).hex().upper()
+def is_plain(character):
+    return " " <= character <= "~"
+
+
+def escape_on_page(character, page):
+    """A character of the code page that the text names at its beginning."""
+    return "\\S\\" + chr(character.encode("iso8859_%d" % (ord(page) - ord("A") + 1))[0] - 128)
+
+
+def escape_latin(character, encoding):
+    """A character of Latin-1; some of them have no short form with `\\S\\`."""
+    low = ord(character) - 128
+    return "\\S\\" + chr(low) if encoding == "S" and low >= 32 else "\\X\\%02X" % ord(character)
+
+
+def escape_run(run, encoding):
+    """Any characters, several in one escape."""
+    if encoding == "X4" or any(ord(character) > 0xFFFF for character in run):
+        return "\\X4\\" + run.encode("utf-32-be").hex().upper() + "\\X0\\"
+    return "\\X2\\" + run.encode("utf-16-be").hex().upper() + "\\X0\\"
+
+
+def escaped(run, encoding):
+    """A run of characters outside ASCII."""
+    if encoding.startswith("P"):
+        return "".join(escape_on_page(character, encoding[1]) for character in run)
+    if encoding in ("X", "S") and all(ord(character) < 256 for character in run):
+        return "".join(escape_latin(character, encoding) for character in run)
+    return escape_run(run, encoding)
 
 
 def string_text(text, encoding):
     """A text between its quotes, with other characters than ASCII written as `encoding` says."""
     encoding = getattr(text, "encoding", encoding)
-    out = []
-    if encoding.startswith("P"):
-        out.append("\\" + encoding + "\\")
-    index = 0
-    while index < len(text):
-        character = text[index]
-        if " " <= character <= "~":
-            out.append({"'": "''", "\\": "\\\\"}.get(character, character))
-            index += 1
-            continue
-        if encoding.startswith("P"):
-            page = "iso8859_" + str(ord(encoding[1]) - ord("A") + 1)
-            out.append("\\S\\" + chr(character.encode(page)[0] - 128))
-            index += 1
-            continue
-        if encoding in ("X", "S") and ord(character) < 256:
-            short = ord(character) - 128
-            if encoding == "S" and short >= 32:
-                out.append("\\S\\" + chr(short))
-            else:
-                out.append("\\X\\%02X" % ord(character))
-            index += 1
-            continue
-        end = index
-        while end < len(text) and not " " <= text[end] <= "~":
-            end += 1
-        run = text[index:end]
-        if encoding == "X4" or any(ord(c) > 0xFFFF for c in run):
-            out.append("\\X4\\" + hexadecimal_run(run, "utf-32-be"))
-        else:
-            out.append("\\X2\\" + hexadecimal_run(run, "utf-16-be"))
-        out.append("\\X0\\")
-        index = end
-    return "'" + "".join(out) + "'"
+    out = "\\" + encoding + "\\" if encoding.startswith("P") else ""
+    for plain, run in itertools.groupby(text, is_plain):
+        run = "".join(run)
+        out += run.replace("\\", "\\\\").replace("'", "''") if plain else escaped(run, encoding)
+    return "'" + out + "'"
 
 
 class StepWriter:
