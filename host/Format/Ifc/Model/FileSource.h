@@ -1,0 +1,63 @@
+#pragma once
+
+#include "Format/Ifc/Model/FileUnits.h"
+#include "Format/Ifc/Schema/VersionMapping.h"
+#include "Format/Ifc/Step/StepFile.h"
+#include "Format/Ifc/Step/StepRecordParser.h"
+#include "FoundationClasses/EntityClass.h"
+#include "FoundationClasses/EntitySource.h"
+#include "HostIfcModelExport.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace qev::ifc {
+
+/// The records of a STEP file as entities of the model, whatever version of the standard the file has.
+///
+/// An index of the model is the position of a record in the file. Attributes are matched by name and
+/// numbers converted to SI when a record is read. What does not fit is left unset and told in `messages`.
+class HOSTIFCMODEL_EXPORT FileSource final : public fc::EntitySource
+{
+public:
+    /// \p file is indexed with `keywordTable(version)`.
+    FileSource(std::unique_ptr<step::StepFile> file, VersionSchema const& version);
+    ~FileSource() override;
+
+    /// The keywords of a version, each with the number `VersionSchema` has for it.
+    [[nodiscard]] static step::StepKeywordTable keywordTable(VersionSchema const& version);
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] std::uint16_t classNumber(fc::EntityIndex index) const override;
+    void read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity) override;
+    void forEachReference(fc::EntityIndex index, unsigned int slot,
+                          std::function<void(fc::EntityIndex)> const& visit) const override;
+
+    [[nodiscard]] step::StepFile& file() { return *m_file; }
+    [[nodiscard]] step::StepFile const& file() const { return *m_file; }
+    [[nodiscard]] VersionSchema const& version() const { return m_version; }
+    [[nodiscard]] FileUnits const& units() const { return m_units; }
+    /// What was found wrong in the records read so far.
+    [[nodiscard]] step::StepMessages const& messages() const { return m_messages; }
+    /// Reads a record only to find out what is wrong with it.
+    void check(fc::EntityIndex index, fc::Data& data);
+
+private:
+    class Reader;
+
+    void readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity);
+    void checkReferences(fc::EntityIndex index);
+
+    std::unique_ptr<step::StepFile> m_file;
+    VersionSchema const& m_version;
+    step::StepRecordParser m_parser;
+    FileUnits m_units;
+    step::StepMessages m_messages;
+    std::vector<step::StepValue> m_arguments;
+    /// Records whose messages are known already: one that is let go and read again has no new ones.
+    std::vector<bool> m_told;
+};
+
+} // namespace qev::ifc

@@ -1,0 +1,328 @@
+#include "Format/Ifc/Model/IfcFile.h"
+
+#include "Core/Platform/FileStamp.h"
+#include "Format/Ifc/Model/FileSource.h"
+#include "Format/Ifc/Model/OwnUnits.h"
+#include "Format/Ifc/Model/Spelling.h"
+#include "Format/Ifc/Model/ValueForm.h"
+#include "Format/Ifc/Schema/Entity.h"
+#include "Format/Ifc/Step/StepWriter.h"
+#include "FoundationClasses/AttributeOperations.h"
+#include "FoundationClasses/AttributeWriter.h"
+#include "FoundationClasses/Core/Kernel/FcRoot.h"
+
+#include <algorithm>
+
+namespace qev::ifc {
+
+namespace {
+
+using step::StepMessage;
+using step::StepValue;
+
+StepMessage refused(std::string text) { return {StepMessage::Severity::Refused, 0, std::nullopt, std::move(text)}; }
+
+} // namespace
+
+/// Writes entities in the version and the units of the file.
+class IfcFile::Writer final : public fc::AttributeWriter
+{
+public:
+    explicit Writer(IfcFile const& file) : m_file(file) {}
+
+    void setOwnUnit(step::InstanceId unit) { m_ownUnit = unit; }
+
+    [[nodiscard]] step::InstanceId idOf(fc::ReferenceBase const& reference) const override
+    {
+        return reference.isSet() ? m_file.idOf(reference.index()) : 0;
+    }
+
+    [[nodiscard]] fc::UnitScale scaleOf(std::string_view measureType) const override
+    {
+        FileUnits const& units = m_file.m_source.units();
+        return m_ownUnit == 0 ? units.scaleOf(measureType) : units.scaleOf(measureType, m_ownUnit);
+    }
+
+    /// The attribute at a slot as the file's version has it. No value when it has no form for it.
+    std::optional<StepValue> value(fc::FcBase const& entity, unsigned int slot, def::schema::Attribute const& fileAttribute)
+    {
+        fc::EntityClass const& entityClass = entity.getEntityClass();
+        fc::AttributeDescriptor const& attribute = *entityClass.attributes[slot];
+        setOwnUnit(0);
+        if (auto const unitSlot = ownUnitSlot(entityClass, slot)) {
+            fc::AttributeDescriptor const& unit = *entityClass.attributes[*unitSlot];
+            unit.operations->visitReferences(entity.attribute(*unitSlot), [this](fc::ReferenceBase const& reference) {
+                setOwnUnit(idOf(reference));
+            });
+        }
+        return toFileForm(attribute.operations->write(entity.attribute(slot), attribute, *this), fileAttribute);
+    }
+
+    /// The arguments of a new record.
+    std::vector<StepValue> arguments(fc::FcBase const& entity, VersionEntity const& mapping,
+                                     std::vector<std::string>& notStored)
+    {
+        auto const& fileAttributes = mapping.entity->attributes();
+        std::vector<StepValue> values(fileAttributes.size());
+        for (std::size_t i = 0; i < fileAttributes.size(); ++i) {
+            if (mapping.entity->isDerived(*fileAttributes[i]))
+                values[i] = StepValue::derived();
+        }
+        auto const attributes = entity.getEntityClass().attributes;
+        for (unsigned int slot = 0; slot < attributes.size(); ++slot) {
+            if (attributes[slot]->operations->isUnset(entity.attribute(slot)))
+                continue;
+            auto const fileSlot = mapping.fileSlot(slot);
+            if (fileSlot && values[*fileSlot].kind() == StepValue::Kind::Derived)
+                continue;
+            auto value = fileSlot ? this->value(entity, slot, *fileAttributes[*fileSlot]) : std::nullopt;
+            if (value)
+                values[*fileSlot] = std::move(*value);
+            else
+                notStored.push_back(m_file.nameOf(entity, slot));
+        }
+        return values;
+    }
+
+private:
+    IfcFile const& m_file;
+    step::InstanceId m_ownUnit = 0;
+};
+
+OpenResult IfcFile::open(std::filesystem::path const& path, Progress const& progress)
+{
+    return index(step::StepFile::open(path, progress), progress);
+}
+
+OpenResult IfcFile::fromText(std::string_view text) { return index(step::StepFile::fromText(text), {}); }
+
+OpenResult IfcFile::index(step::StepOpenResult opened, Progress const& progress)
+{
+    OpenResult result;
+    result.messages = opened.messages.all();
+    result.cancelled = opened.cancelled;
+    if (!opened.file)
+        return result;
+    auto const names = opened.file->header().schemaNames();
+    std::string const name = names.empty() ? std::string() : names.front();
+    VersionSchema const* const version = VersionSchema::find(name);
+    if (!version) {
+        result.messages.push_back(refused("expected an IFC schema in FILE_SCHEMA, such as IFC4, found '" + name + "'"));
+        return result;
+    }
+    if (!version->isExact(name))
+        result.messages.push_back({StepMessage::Severity::Warning, 0, std::nullopt,
+                                   "the schema " + name + " is read as " + version->name()});
+    if (!opened.file->index(FileSource::keywordTable(*version), progress)) {
+        auto const messages = opened.file->messages().all();
+        result.messages.insert(result.messages.end(), messages.begin(), messages.end());
+        result.cancelled = messages.empty();
+        return result;
+    }
+    auto source = std::make_unique<FileSource>(std::move(opened.file), *version);
+    FileSource& reference = *source;
+    auto data = fc::Data::create(std::move(source));
+    result.file.reset(new IfcFile(std::move(data), reference, result.messages));
+    result.file->m_schemaName = name;
+    result.messages = result.file->messages();
+    return result;
+}
+
+IfcFile::IfcFile(std::shared_ptr<fc::Data> data, FileSource& source, std::vector<StepMessage> messages)
+    : m_data(std::move(data)), m_source(source), m_openMessages(std::move(messages))
+{}
+
+IfcFile::~IfcFile() = default;
+
+std::filesystem::path const& IfcFile::path() const { return m_source.file().path(); }
+
+std::string IfcFile::originatingSystem() const { return m_source.file().header().originatingSystem(); }
+
+std::string IfcFile::timeStamp() const { return m_source.file().header().timeStamp(); }
+
+std::size_t IfcFile::recordCount() const { return m_source.file().recordCount(); }
+
+std::map<std::string, std::size_t> IfcFile::countsByClass() const
+{
+    std::map<std::string, std::size_t> counts;
+    step::StepFile const& file = m_source.file();
+    auto const& byNumber = file.classCounts();
+    for (std::uint16_t number = 1; number < byNumber.size(); ++number) {
+        if (byNumber[number] > 0)
+            counts[m_source.version().entity(number).entity->name()] = byNumber[number];
+    }
+    for (step::RecordIndex const record : file.recordsOf(step::StepKeywordTable::unknown))
+        ++counts[std::string(file.keywordOf(record))];
+    return counts;
+}
+
+std::vector<StepMessage> IfcFile::messages() const
+{
+    std::vector<StepMessage> all = m_openMessages;
+    for (auto const* const messages : {&m_source.file().messages().all(), &m_source.messages().all()})
+        all.insert(all.end(), messages->begin(), messages->end());
+    return all;
+}
+
+std::uint64_t IfcFile::droppedMessages() const
+{
+    return m_source.file().messages().dropped() + m_source.messages().dropped();
+}
+
+bool IfcFile::check(Progress const& progress)
+{
+    constexpr std::size_t reportEvery = 65536;
+    std::size_t const count = m_source.count();
+    for (std::size_t i = 0; i < count; ++i) {
+        m_source.check(static_cast<fc::EntityIndex>(i), *m_data);
+        if (progress && i % reportEvery == 0 && !progress(i, count))
+            return false;
+    }
+    return true;
+}
+
+step::InstanceId IfcFile::idOf(fc::EntityIndex index) const
+{
+    if (index < m_source.count())
+        return m_source.file().idOf(index);
+    auto const found = m_newIds.find(index);
+    return found == m_newIds.end() ? 0 : found->second;
+}
+
+std::shared_ptr<fc::FcBase> IfcFile::entityFromId(step::InstanceId id) const
+{
+    step::RecordIndex const record = m_source.file().indexOf(id);
+    if (record != step::StepFile::noRecord)
+        return m_data->entity(record);
+    auto const found = std::find_if(m_newIds.begin(), m_newIds.end(), [id](auto const& entry) { return entry.second == id; });
+    return found == m_newIds.end() ? nullptr : m_data->entity(found->first);
+}
+
+std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalId) const
+{
+    using fc::core::kernel::FcRoot;
+    if (!m_globalIds)
+        buildGlobalIds();
+    if (auto const found = m_globalIds->find(globalId); found != m_globalIds->end())
+        return m_data->entity(found->second);
+    for (fc::EntityIndex const index : m_data->touchedEntities()) {
+        auto entity = m_data->entity(index);
+        if (auto const root = fc::entityCast<FcRoot>(entity); root && root->GlobalId.get() == globalId)
+            return entity;
+    }
+    return nullptr;
+}
+
+void IfcFile::buildGlobalIds() const
+{
+    using fc::core::kernel::FcRoot;
+    m_globalIds.emplace();
+    step::StepRecordParser const parser(m_source.file());
+    for (fc::EntityIndex const index : m_data->indicesFromId(FcRoot::idFirst, FcRoot::idLast)) {
+        if (index >= m_source.count())
+            continue;
+        auto const slot = m_source.version().entity(m_source.file().classOf(index)).fileSlot(0);
+        auto const span = slot ? parser.argumentSpan(index, *slot) : std::nullopt;
+        if (span && span->size() >= 2)
+            m_globalIds->emplace(std::string(span->substr(1, span->size() - 2)), index);
+    }
+}
+
+std::string IfcFile::nameOf(fc::FcBase const& entity, unsigned int slot) const
+{
+    std::string name(entity.getEntityName());
+    name += " #" + std::to_string(idOf(entity.getIndex())) + ".";
+    name += entity.getEntityClass().attributes[slot]->name;
+    return name;
+}
+
+void IfcFile::giveIds()
+{
+    if (m_nextId == 0)
+        m_nextId = m_source.file().firstFreeId();
+    for (fc::EntityIndex const index : m_data->touchedEntities()) {
+        if (m_data->isCreated(index) && !m_data->isDeleted(index) && !m_newIds.contains(index))
+            m_newIds.emplace(index, m_nextId++);
+    }
+}
+
+void IfcFile::patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored)
+{
+    auto const entity = m_data->entity(index);
+    VersionEntity const& mapping = m_source.version().entity(m_source.file().classOf(index));
+    auto const& fileAttributes = mapping.entity->attributes();
+    step::StepRecordParser const parser(m_source.file());
+    Writer writer(*this);
+    std::vector<std::pair<std::size_t, std::string>> texts;
+    for (unsigned int slot = 0; slot < entity->getEntityClass().attributes.size(); ++slot) {
+        if ((entity->changedSlots() >> slot & 1) == 0)
+            continue;
+        auto const fileSlot = mapping.fileSlot(slot);
+        auto const value = fileSlot ? writer.value(*entity, slot, *fileAttributes[*fileSlot]) : std::nullopt;
+        auto const before = fileSlot ? parser.argumentSpan(index, *fileSlot) : std::nullopt;
+        if (value && before)
+            texts.emplace_back(*fileSlot, respelled(*before, *value));
+        else
+            notStored.push_back(nameOf(*entity, slot));
+    }
+    if (!texts.empty() && !patch.replaceArguments(index, texts))
+        notStored.push_back(std::string(entity->getEntityName()) + " #" + std::to_string(idOf(index)));
+}
+
+void IfcFile::patchAddition(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored)
+{
+    auto const entity = m_data->entity(index);
+    VersionEntity const* const mapping = m_source.version().entityForWriting(m_data->classNumber(index));
+    if (!mapping) {
+        notStored.push_back(std::string(entity->getEntityName()) + " #" + std::to_string(idOf(index)));
+        return;
+    }
+    Writer writer(*this);
+    patch.appendRecord(idOf(index), mapping->keyword,
+                       step::StepWriter::arguments(writer.arguments(*entity, *mapping, notStored)));
+}
+
+step::StepPatch IfcFile::makePatch(std::vector<std::string>& notStored)
+{
+    giveIds();
+    step::StepPatch patch(m_source.file());
+    for (fc::EntityIndex const index : m_data->touchedEntities()) {
+        bool const isCreated = m_data->isCreated(index);
+        if (m_data->isDeleted(index)) {
+            if (!isCreated)
+                patch.removeRecord(index);
+        } else if (isCreated) {
+            patchAddition(patch, index, notStored);
+        } else {
+            patchChanges(patch, index, notStored);
+        }
+    }
+    return patch;
+}
+
+SaveResult IfcFile::save(std::filesystem::path const& target, step::StepPatch::IfChanged ifChanged,
+                         Progress const& progress)
+{
+    SaveResult result;
+    step::StepPatch const patch = makePatch(result.notStored);
+    auto const saved = step::StepPatch::save(m_source.file(), patch, target, ifChanged, progress);
+    result.status = saved.status;
+    result.text = saved.text;
+    if (saved.saved())
+        m_data->changes().setSaved();
+    return result;
+}
+
+std::string IfcFile::toText()
+{
+    std::vector<std::string> notStored;
+    return makePatch(notStored).toText();
+}
+
+bool IfcFile::changedOnDisk() const
+{
+    auto const& known = m_source.file().stamp();
+    return known && platform::fileStamp(path()) != known;
+}
+
+} // namespace qev::ifc

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "Format/Ifc/Step/StepMessage.h"
+#include "Format/Ifc/Step/StepPatch.h"
+#include "FoundationClasses/Data.h"
+#include "HostIfcModelExport.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qev::ifc {
+
+class FileSource;
+class IfcFile;
+
+/// What opening a file gives: the file, or the reason why there is none.
+struct OpenResult
+{
+    std::unique_ptr<IfcFile> file;
+    std::vector<step::StepMessage> messages;
+    bool cancelled = false;
+};
+
+/// What became of a save.
+struct SaveResult
+{
+    step::StepSaveResult::Status status = step::StepSaveResult::Status::Saved;
+    /// Why it was not saved.
+    std::string text;
+    /// Changes that the file's version of the standard has no place for, each with its entity. They stay
+    /// in the model and are not in the file.
+    std::vector<std::string> notStored;
+
+    [[nodiscard]] bool saved() const { return status == step::StepSaveResult::Status::Saved; }
+};
+
+/// An IFC file and its model.
+///
+/// Opening reads the bytes and indexes the records; entities are made when asked for. Saving writes every
+/// record that no edit touched byte for byte as it was read, in the file's own version of the standard, and
+/// replaces the target in one step.
+class HOSTIFCMODEL_EXPORT IfcFile
+{
+public:
+    /// Told how many bytes of how many are done; false asks to stop.
+    using Progress = std::function<bool(std::uint64_t done, std::uint64_t total)>;
+
+    /// Opens a file. What can be read of a broken one is opened, with messages; only a file without
+    /// a usable header or data section is refused.
+    static OpenResult open(std::filesystem::path const& path, Progress const& progress = {});
+    /// The same for the text of a file.
+    static OpenResult fromText(std::string_view text);
+
+    ~IfcFile();
+    IfcFile(IfcFile const&) = delete;
+    IfcFile& operator=(IfcFile const&) = delete;
+
+    [[nodiscard]] std::shared_ptr<fc::Data> const& data() const { return m_data; }
+    /// Empty for a model that did not come from a file.
+    [[nodiscard]] std::filesystem::path const& path() const;
+
+    /// The FILE_SCHEMA name as it stands in the file.
+    [[nodiscard]] std::string const& schemaName() const { return m_schemaName; }
+    [[nodiscard]] std::string originatingSystem() const;
+    [[nodiscard]] std::string timeStamp() const;
+    /// How many records each class of the file has, by its schema name; unknown ones by their keyword.
+    [[nodiscard]] std::map<std::string, std::size_t> countsByClass() const;
+    [[nodiscard]] std::size_t recordCount() const;
+
+    /// What was found wrong so far: at opening, and in the records that became entities since.
+    [[nodiscard]] std::vector<step::StepMessage> messages() const;
+    /// How many messages were only counted, for there were too many.
+    [[nodiscard]] std::uint64_t droppedMessages() const;
+    /// Reads every record to find out what is wrong with it. Entities made meanwhile are let go again.
+    /// \returns false when \p progress asked to stop.
+    bool check(Progress const& progress = {});
+
+    /// The id of an entity's record, also of one that will be new in the file.
+    [[nodiscard]] step::InstanceId idOf(fc::EntityIndex index) const;
+    [[nodiscard]] std::shared_ptr<fc::FcBase> entityFromId(step::InstanceId id) const;
+    /// The entity with this global id; the first, when several have it.
+    [[nodiscard]] std::shared_ptr<fc::FcBase> entityFromGlobalId(std::string_view globalId) const;
+
+    /// Saves to \p target, which may be the file itself.
+    SaveResult save(std::filesystem::path const& target,
+                    step::StepPatch::IfChanged ifChanged = step::StepPatch::IfChanged::Refuse,
+                    Progress const& progress = {});
+    /// The text of the file as `save` would write it.
+    [[nodiscard]] std::string toText();
+    /// True when another program wrote the file since it was read or saved.
+    [[nodiscard]] bool changedOnDisk() const;
+
+private:
+    class Writer;
+
+    IfcFile(std::shared_ptr<fc::Data> data, FileSource& source, std::vector<step::StepMessage> messages);
+    static OpenResult index(step::StepOpenResult opened, Progress const& progress);
+
+    step::StepPatch makePatch(std::vector<std::string>& notStored);
+    void patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored);
+    void patchAddition(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored);
+    /// "IfcWall #12.Name", for messages.
+    [[nodiscard]] std::string nameOf(fc::FcBase const& entity, unsigned int slot) const;
+    void giveIds();
+    void buildGlobalIds() const;
+
+    std::shared_ptr<fc::Data> m_data;
+    FileSource& m_source;
+    std::string m_schemaName;
+    std::vector<step::StepMessage> m_openMessages;
+    /// Ids of entities that were created since the file was read. Once given, an id stays.
+    std::map<fc::EntityIndex, step::InstanceId> m_newIds;
+    step::InstanceId m_nextId = 0;
+    mutable std::optional<std::map<std::string, fc::EntityIndex, std::less<>>> m_globalIds;
+};
+
+} // namespace qev::ifc

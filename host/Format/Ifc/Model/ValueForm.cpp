@@ -1,0 +1,170 @@
+#include "Format/Ifc/Model/ValueForm.h"
+
+#include "Format/Ifc/Schema/DataTypeEnum.h"
+#include "Format/Ifc/Schema/DeclaredType.h"
+#include "Format/Ifc/Schema/Select.h"
+#include "Format/Ifc/Schema/Type.h"
+#include "Format/Ifc/Step/StepRecordParser.h"
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace qev::ifc {
+
+namespace {
+
+using def::schema::DeclaredType;
+using fc::ValueKind;
+using step::StepValue;
+using Kind = StepValue::Kind;
+
+std::string upper(std::string_view text)
+{
+    std::string result(text);
+    for (char& c : result) {
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    }
+    return result;
+}
+
+int numberAt(std::vector<StepValue> const& arguments, std::size_t position)
+{
+    return position < arguments.size() && arguments[position].isNumber()
+               ? static_cast<int>(arguments[position].realValue())
+               : 0;
+}
+
+/// The keyword of a record in capitals, and its arguments; empty for none.
+std::string readRecord(step::InstanceId id, step::StepFile const& file, std::vector<StepValue>& arguments)
+{
+    step::RecordIndex const record = file.indexOf(id);
+    if (record == step::StepFile::noRecord)
+        return {};
+    step::StepRecordParser(file).parse(record, arguments);
+    return upper(file.keywordOf(record));
+}
+
+template <class... Numbers>
+std::string formatted(char const* format, Numbers... numbers)
+{
+    char buffer[48] = {};
+    std::snprintf(buffer, sizeof buffer, format, numbers...);
+    return buffer;
+}
+
+std::optional<std::string> calendarDateText(step::InstanceId id, step::StepFile const& file)
+{
+    std::vector<StepValue> arguments;
+    if (readRecord(id, file, arguments) != "IFCCALENDARDATE")
+        return std::nullopt;
+    return formatted("%04d-%02d-%02d", numberAt(arguments, 2), numberAt(arguments, 1), numberAt(arguments, 0));
+}
+
+std::optional<std::string> localTimeText(step::InstanceId id, step::StepFile const& file)
+{
+    std::vector<StepValue> arguments;
+    if (readRecord(id, file, arguments) != "IFCLOCALTIME")
+        return std::nullopt;
+    return formatted("%02d:%02d:%02d", numberAt(arguments, 0), numberAt(arguments, 1), numberAt(arguments, 2));
+}
+
+/// Dates and times were records of their own before IFC4; now they are ISO 8601 texts.
+std::optional<std::string> dateText(step::InstanceId id, step::StepFile const& file)
+{
+    std::vector<StepValue> arguments;
+    if (readRecord(id, file, arguments) != "IFCDATEANDTIME" || arguments.size() < 2) {
+        auto date = calendarDateText(id, file);
+        return date ? date : localTimeText(id, file);
+    }
+    auto const date = calendarDateText(arguments[0].referenceId(), file);
+    auto const time = localTimeText(arguments[1].referenceId(), file);
+    return date && time ? std::optional(*date + "T" + *time) : std::nullopt;
+}
+
+bool takesPlainValue(ValueKind kind)
+{
+    return kind == ValueKind::Text || kind == ValueKind::Real || kind == ValueKind::Integer ||
+           kind == ValueKind::Boolean || kind == ValueKind::Logical;
+}
+
+bool isPlain(StepValue const& value)
+{
+    return value.isNumber() || value.kind() == Kind::Text || value.kind() == Kind::Enumeration;
+}
+
+StepValue toModelText(StepValue value, step::StepFile const& file)
+{
+    if (value.kind() == Kind::Enumeration)
+        return StepValue::text(value.textValue());
+    if (value.kind() == Kind::Reference) {
+        auto text = dateText(value.referenceId(), file);
+        return text ? StepValue::text(std::move(*text)) : StepValue();
+    }
+    return value;
+}
+
+bool isTruth(StepValue const& value)
+{
+    return value.kind() != Kind::Enumeration || value.textValue() == "T" || value.textValue() == "F" ||
+           value.textValue() == "U";
+}
+
+StepValue toModelForm(StepValue value, def::schema::Attribute const& fileAttribute, std::size_t depth,
+                      fc::AttributeDescriptor const& modelAttribute, step::StepFile const& file)
+{
+    if (value.isUnset() || value.kind() == Kind::Derived)
+        return value;
+    if (depth > 0 && value.kind() == Kind::List) {
+        std::vector<StepValue> items;
+        for (StepValue const& item : value.items())
+            items.push_back(toModelForm(item, fileAttribute, depth - 1, modelAttribute, file));
+        return StepValue::list(std::move(items));
+    }
+    if (depth == 1 && value.kind() == Kind::Reference)
+        return StepValue::list({std::move(value)});
+    if (takesPlainValue(modelAttribute.kind) && value.kind() == Kind::Typed)
+        value = StepValue(value.items().front());
+    if (modelAttribute.kind == ValueKind::Text)
+        return toModelText(std::move(value), file);
+    if (modelAttribute.kind == ValueKind::Boolean && !isTruth(value))
+        return {};
+    bool const isTypedInModel = modelAttribute.kind == ValueKind::Select || modelAttribute.kind == ValueKind::Value;
+    if (isTypedInModel && isPlain(value))
+        return StepValue::typed(upper(fileAttribute.dataType().name()), std::move(value));
+    return value;
+}
+
+} // namespace
+
+StepValue toModelForm(StepValue value, def::schema::Attribute const& fileAttribute,
+                      fc::AttributeDescriptor const& modelAttribute, step::StepFile const& file)
+{
+    return toModelForm(std::move(value), fileAttribute, modelAttribute.depth, modelAttribute, file);
+}
+
+std::optional<StepValue> toFileForm(StepValue value, def::schema::Attribute const& fileAttribute)
+{
+    if (value.isUnset())
+        return value;
+    DeclaredType const& outer = fileAttribute.declaredTypes().front();
+    DeclaredType const& inner = fileAttribute.declaredTypes().back();
+    if (!outer.isAggregate() && value.kind() == Kind::List && inner.kind == DeclaredType::Kind::Entity)
+        return value.items().size() == 1 ? std::optional(value.items().front()) : std::nullopt;
+    bool const isSelect = inner.kind == DeclaredType::Kind::Select;
+    if (!outer.isAggregate() && !isSelect && value.kind() == Kind::Typed)
+        value = StepValue(value.items().front());
+    if (fileAttribute.enumeration() && value.kind() == Kind::Text)
+        value = StepValue::enumeration(upper(value.textValue()));
+    if (fileAttribute.enumeration())
+        return value.kind() == Kind::Enumeration && fileAttribute.enumeration()->hasValue(value.textValue())
+                   ? std::optional(std::move(value))
+                   : std::nullopt;
+    bool const needsRecord = !outer.isAggregate() && inner.kind == DeclaredType::Kind::Entity;
+    if (needsRecord && value.kind() != Kind::Reference)
+        return std::nullopt;
+    return value;
+}
+
+} // namespace qev::ifc

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Format/Ifc/Schema/Attribute.h"
+#include "Format/Ifc/Step/StepFile.h"
+#include "Format/Ifc/Step/StepValue.h"
+#include "FoundationClasses/EntityClass.h"
+
+#include <optional>
+
+namespace qev::ifc {
+
+/// Brings a value from the form it has in the file's version to the form of the model's attribute: a plain
+/// value where the model has a typed one gets the type of the older attribute, an enumeration item or a
+/// date record becomes text, a single reference a list of one.
+step::StepValue toModelForm(step::StepValue value, def::schema::Attribute const& fileAttribute,
+                            fc::AttributeDescriptor const& modelAttribute, step::StepFile const& file);
+
+/// The way back. No value when the file's version has no form for it.
+std::optional<step::StepValue> toFileForm(step::StepValue value, def::schema::Attribute const& fileAttribute);
+
+} // namespace qev::ifc
