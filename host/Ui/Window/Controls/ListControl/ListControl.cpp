@@ -95,8 +95,10 @@ void ListControl::activateComboBoxEditingForColumn(std::size_t column)
     auto* const listInterface = requireListInterface("activateComboBoxEditingForColumn");
     if (!listInterface)
         return;
-    if (!listInterface->isUsingReportStyle())
+    if (!listInterface->isUsingReportStyle()) {
         reportFrom("activateComboBoxEditingForColumn", "Only applies to report style controls.");
+        return;
+    }
     listInterface->activateComboBoxEditingForColumn(column);
 }
 
@@ -106,10 +108,17 @@ bool ListControl::isUsingReportStyle() const
     return listInterface && listInterface->isUsingReportStyle();
 }
 
-void ListControl::enableLabelEdit(bool enabled)
+void ListControl::enableLabelEdit()
 {
-    if (auto* const listInterface = requireListInterface("enableLabelEdit"))
-        listInterface->enableLabelEdit(enabled);
+    auto* const listInterface = requireListInterface("enableLabelEdit");
+    if (!listInterface)
+        return;
+    if (!listInterface->isUsingReportStyle()) {
+        reportFrom("enableLabelEdit", "Only applies to report style controls.");
+        return;
+    }
+    for (auto const flag : {EditLabels, EditByKey, EditNextByTab})
+        addStyleFlags(flag);
 }
 
 void ListControl::startLabelEdit(std::size_t row, std::size_t column)

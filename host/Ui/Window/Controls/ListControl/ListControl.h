@@ -35,6 +35,17 @@ public:
         BorderStyle = 0x20,
     };
 
+    /// Flags of `addStyleFlags`.
+    enum LabelEditFlag : unsigned int
+    {
+        /// F2 and typing begin to edit the current cell.
+        EditByKey = 1,
+        /// Cells can be edited at all.
+        EditLabels = 2,
+        /// Tab goes on to the next cell that can be edited.
+        EditNextByTab = 8,
+    };
+
     /// Values of `LabelEditBeginResultParams::editType`.
     enum EditType : unsigned int
     {
@@ -135,8 +146,13 @@ public:
     /// Label edit of the column is a combo box. Reports "Only applies to report style controls." for others.
     void activateComboBoxEditingForColumn(std::size_t column);
     [[nodiscard]] bool isUsingReportStyle() const;
-    void enableLabelEdit(bool enabled);
-    void startLabelEdit(std::size_t row, std::size_t column);
+    /// Lets the user edit cells in place, beginning with F2 or a click, and going on with Tab. Reports
+    /// "Only applies to report style controls." for others, and does nothing then.
+    void enableLabelEdit();
+    /// Begins to edit a cell as if the user had asked for it. The row may be the one below the last,
+    /// for an owner that adds an entry when the edit ends.
+    void startLabelEdit(std::size_t row, std::size_t column = 0);
+    /// Adds `LabelEditFlag`s to those there are.
     void addStyleFlags(unsigned int flags);
     [[nodiscard]] ListControlHeader& getHeader() { return m_header; }
 

@@ -26,9 +26,9 @@ public:
                                         std::shared_ptr<Image const> uncheckedImage) = 0;
     virtual void activateComboBoxEditingForColumn(std::size_t column) = 0;
     [[nodiscard]] virtual bool isUsingReportStyle() const = 0;
-    virtual void enableLabelEdit(bool enabled) = 0;
     /// Begins to edit a cell as if the user had asked for it.
     virtual void startLabelEdit(std::size_t row, std::size_t column) = 0;
+    /// Adds `ListControl::LabelEditFlag`s to those there are.
     virtual void addStyleFlags(unsigned int flags) = 0;
 
     /// The arrangement the user has made.

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "HostUiExport.h"
+#include "Ui/Headless/HeadlessWindow.h"
+#include "Ui/Window/Controls/ListControl/ListControl.h"
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qev::ui {
+
+/// A list without a screen, driven as by a user. It asks its `ListControl` for each cell.
+///
+/// Each input gives false, and changes nothing, when a user cannot reach the list or the cell.
+class HOSTUI_EXPORT HeadlessListControl final : public HeadlessWindow
+{
+public:
+    /// The cell that is being edited.
+    struct Edit
+    {
+        std::vector<ListControl::ItemInfo> items;
+        /// What the owner answered: the kind of editor and the entries of its list.
+        ListControl::LabelEditBeginResultParams editor;
+        /// What the editor opened with.
+        std::string text;
+    };
+
+    HeadlessListControl(int controlId, WindowPlacement const& placement, unsigned int style);
+
+    [[nodiscard]] std::unique_ptr<WindowInterface> createInterface() override;
+
+    [[nodiscard]] std::size_t getRowCount() const { return m_rowCount; }
+    [[nodiscard]] std::size_t getColumnCount() const { return m_columnCount; }
+    [[nodiscard]] std::string getHeaderText(std::size_t column) const;
+    [[nodiscard]] std::string getText(std::size_t row, std::size_t column) const;
+    [[nodiscard]] ListControl::ItemStyle getStyle(std::size_t row, std::size_t column) const;
+    [[nodiscard]] std::optional<attr::Colour> getBackgroundColour(std::size_t row, std::size_t column) const;
+    /// The state of the cell's check box; nothing for a cell without one.
+    [[nodiscard]] std::optional<CheckState> getCheckState(std::size_t row, std::size_t column) const;
+    [[nodiscard]] bool containsLocalValue(std::size_t row, std::size_t column) const;
+    [[nodiscard]] bool isColumnHidden(std::size_t column) const;
+    [[nodiscard]] bool isComboBoxColumn(std::size_t column) const
+    {
+        return m_comboBoxColumns.contains(column);
+    }
+
+    /// Selects these rows and no others. False when one does not exist.
+    bool select(std::set<std::size_t> rows);
+    [[nodiscard]] std::set<std::size_t> const& getSelection() const { return m_selection; }
+    bool activate(std::size_t row, std::size_t column);
+    bool triggerSecondaryEvent(std::size_t row, std::size_t column);
+    /// Asks for the other state of a cell's check box; the owner decides what becomes of it.
+    bool clickCheckBox(std::size_t row, std::size_t column);
+    /// Hides or shows a column, as in the menu of the header. False when the owner does not let the user.
+    bool hideColumn(std::size_t column, bool hidden);
+
+    /// Opens the editor of a cell: of that cell in all selected rows when its row is selected.
+    /// False when the owner allows no editing.
+    bool beginEdit(std::size_t row, std::size_t column);
+    /// The open editor; nothing while none is open.
+    [[nodiscard]] std::optional<Edit> const& getEdit() const { return m_edit; }
+    /// Types \p text into the open editor and confirms it. False for a list that takes no other texts.
+    bool commitText(std::string_view text);
+    /// Takes an entry of the open editor's list.
+    bool commitChoice(std::size_t index);
+    bool cancelEdit();
+    /// `beginEdit` followed by typing, or by choosing the entry of that text.
+    bool type(std::size_t row, std::size_t column, std::string_view text);
+
+    /// Opens the context menu of a cell; the back end's menu answer chooses from it. A \p row past the end
+    /// is the free space below. False when the menu is empty.
+    bool openContextMenu(std::size_t row, std::size_t column);
+    /// Takes the local values of the selected rows away.
+    bool resetToGlobalValues(std::size_t column);
+
+    /// The visible columns as a table: a line of headers, then one line per row, cells parted by " | ",
+    /// selected rows marked with ">".
+    [[nodiscard]] std::string dump() const;
+    /// Rows in the order they were repainted one by one.
+    [[nodiscard]] std::vector<std::size_t> const& getRedrawnRows() const { return m_redrawnRows; }
+
+    void setItemAndColumnCounts(std::size_t rows, std::size_t columns);
+    void redrawItem(std::size_t row) { m_redrawnRows.push_back(row); }
+    void setColumnCheckBoxes(std::size_t column, bool enabled, int mode);
+    void activateComboBoxEditingForColumn(std::size_t column) { m_comboBoxColumns.insert(column); }
+    [[nodiscard]] bool isUsingReportStyle() const;
+    void startLabelEdit(std::size_t row, std::size_t column);
+    void addStyleFlags(unsigned int flags) { m_styleFlags |= flags; }
+    [[nodiscard]] unsigned int getStyleFlags() const { return m_styleFlags; }
+    void setDefaultHiddenColumns(std::set<std::size_t> const& columns);
+    [[nodiscard]] ListControlSettings const& getSettings() const { return m_settings; }
+    void loadSettings(ListControlSettings const& settings) { m_settings = settings; }
+
+private:
+    [[nodiscard]] std::shared_ptr<ListControl> getListControl() const;
+    [[nodiscard]] bool isReachableCell(std::size_t row, std::size_t column) const;
+    [[nodiscard]] std::string getCellText(std::size_t row, std::size_t column) const;
+    bool openEditor(std::vector<ListControl::ItemInfo> items);
+    bool endEdit(bool accepted, std::string_view text, std::optional<std::size_t> selectedIndex);
+
+    unsigned int m_style;
+    unsigned int m_styleFlags = 0;
+    std::size_t m_rowCount = 0;
+    std::size_t m_columnCount = 0;
+    std::set<std::size_t> m_selection;
+    /// The mode of each column that has check boxes.
+    std::map<std::size_t, int> m_checkBoxColumns;
+    std::set<std::size_t> m_comboBoxColumns;
+    ListControlSettings m_settings;
+    std::vector<std::size_t> m_redrawnRows;
+    std::optional<Edit> m_edit;
+    std::shared_ptr<HeadlessWindow> m_editBox;
+};
+
+} // namespace qev::ui

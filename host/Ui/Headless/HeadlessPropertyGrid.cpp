@@ -1,0 +1,160 @@
+#include "Ui/Headless/HeadlessPropertyGrid.h"
+
+#include "Ui/Headless/HeadlessInterface.h"
+#include "Ui/PropertyGrid/PropertyGridText.h"
+#include "Ui/Window/Controls/PropertyGridControl/PropertyGridControlInterface.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+class HeadlessPropertyGridInterface final : public HeadlessInterface<PropertyGridControlInterface>
+{
+public:
+    explicit HeadlessPropertyGridInterface(std::shared_ptr<HeadlessPropertyGrid> const& grid)
+        : HeadlessInterface(grid)
+        , m_grid(grid)
+    {
+    }
+
+    [[nodiscard]] std::shared_ptr<PropertyGridModel> getModel() const override { return m_grid->getModel(); }
+    void adjustLayout() override { m_grid->countLayout(); }
+
+private:
+    std::shared_ptr<HeadlessPropertyGrid> m_grid;
+};
+
+} // namespace
+
+HeadlessPropertyGrid::HeadlessPropertyGrid(int controlId, WindowPlacement const& placement)
+    : HeadlessWindow(WindowClass::PropertyGridControl, controlId, placement)
+{
+}
+
+std::unique_ptr<WindowInterface> HeadlessPropertyGrid::createInterface()
+{
+    return std::make_unique<HeadlessPropertyGridInterface>(
+        std::static_pointer_cast<HeadlessPropertyGrid>(shared_from_this()));
+}
+
+std::vector<HeadlessPropertyGrid::Row> HeadlessPropertyGrid::rows() const
+{
+    std::vector<Row> result;
+    auto const append = [&](auto const& self, std::vector<Row> const& level) -> void {
+        for (auto const& row : level) {
+            result.push_back(row);
+            if (isExpanded(*row))
+                self(self, row->getChildren());
+        }
+    };
+    append(append, m_model->getRows());
+    return result;
+}
+
+HeadlessPropertyGrid::Row HeadlessPropertyGrid::findRow(std::vector<std::string> const& path) const
+{
+    auto const visible = rows();
+    auto const found = std::find_if(visible.begin(), visible.end(), [&](Row const& row) {
+        return PropertyGridRowRecord::getPath(*row) == path;
+    });
+    return found == visible.end() ? nullptr : *found;
+}
+
+bool HeadlessPropertyGrid::type(Row const& row, std::string_view text)
+{
+    return drive(row, PropertyGridEditing::commitText, text);
+}
+
+bool HeadlessPropertyGrid::choose(Row const& row, std::string_view text)
+{
+    return drive(row, PropertyGridEditing::choose, text);
+}
+
+bool HeadlessPropertyGrid::clear(Row const& row)
+{
+    return drive(row,
+                 [](PropertyGridRow& target, std::string_view) { return PropertyGridEditing::clear(target); },
+                 {});
+}
+
+bool HeadlessPropertyGrid::clickCheckBox(Row const& row)
+{
+    return drive(
+        row,
+        [](PropertyGridRow& target, std::string_view) { return PropertyGridEditing::clickCheckBox(target); },
+        {});
+}
+
+bool HeadlessPropertyGrid::pressButton(Row const& row)
+{
+    return drive(
+        row,
+        [](PropertyGridRow& target, std::string_view) { return PropertyGridEditing::pressButton(target); },
+        {});
+}
+
+bool HeadlessPropertyGrid::expand(Row const& row) { return setExpanded(row, true); }
+
+bool HeadlessPropertyGrid::collapse(Row const& row) { return setExpanded(row, false); }
+
+bool HeadlessPropertyGrid::isExpanded(PropertyGridRow const& row) const
+{
+    return !row.getChildren().empty() && !m_collapsed.contains(PropertyGridRowRecord::getPath(row));
+}
+
+std::vector<PropertyGridRowRecord> HeadlessPropertyGrid::records() const
+{
+    std::vector<PropertyGridRowRecord> result;
+    for (auto const& row : rows())
+        result.push_back(PropertyGridRowRecord::of(*row));
+    return result;
+}
+
+std::string HeadlessPropertyGrid::dump() const
+{
+    std::string text;
+    for (auto const& row : rows())
+        text += PropertyGridText::getLine(*row, isExpanded(*row)) + '\n';
+    return text;
+}
+
+bool HeadlessPropertyGrid::drive(Row const& row, Input input, std::string_view text)
+{
+    m_message.clear();
+    if (!isReachableRow(row))
+        return false;
+    // The handlers may take this window away.
+    auto const keepAlive = shared_from_this();
+    auto const keepRow = row;
+    auto result = input(*keepRow, text);
+    m_message = std::move(result.message);
+    return result.accepted;
+}
+
+bool HeadlessPropertyGrid::isReachableRow(Row const& row) const
+{
+    return row && row->getModel() == m_model.get() && isReachable() && isShown(*row);
+}
+
+bool HeadlessPropertyGrid::isShown(PropertyGridRow const& row) const
+{
+    auto const* const parent = row.getParent();
+    return !parent || (isExpanded(*parent) && isShown(*parent));
+}
+
+bool HeadlessPropertyGrid::setExpanded(Row const& row, bool expanded)
+{
+    if (!isReachableRow(row) || row->getChildren().empty())
+        return false;
+    auto path = PropertyGridRowRecord::getPath(*row);
+    if (expanded)
+        m_collapsed.erase(path);
+    else
+        m_collapsed.insert(std::move(path));
+    return true;
+}
+
+} // namespace qev::ui
