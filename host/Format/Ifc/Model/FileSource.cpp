@@ -1,8 +1,7 @@
 #include "Format/Ifc/Model/FileSource.h"
 
 #include "Format/Ifc/Model/OwnUnits.h"
-#include "Format/Ifc/Model/ValueForm.h"
-#include "Format/Ifc/Schema/Entity.h"
+#include "Format/Ifc/Model/ValueConversion.h"
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeReader.h"
 #include "FoundationClasses/Data.h"
@@ -35,7 +34,7 @@ std::string describe(StepValue const& value)
 
 std::optional<step::RecordIndex> projectOf(step::StepFile const& file, VersionSchema const& version)
 {
-    auto const projects = file.recordsOf(version.numberOf("IFCPROJECT"));
+    auto const projects = file.recordsOf(FileSource::keywordTable(version).find("IFCPROJECT"));
     return projects.empty() ? std::nullopt : std::optional(projects.front());
 }
 
@@ -103,17 +102,28 @@ FileSource::~FileSource() = default;
 step::StepKeywordTable FileSource::keywordTable(VersionSchema const& version)
 {
     step::StepKeywordTable table;
-    for (std::uint16_t number = 1; number <= version.entityCount(); ++number)
-        table.add(version.entity(number).keyword, number);
+    std::uint16_t number = step::StepKeywordTable::unknown;
+    for (ClassMapping const& mapping : version.mappings())
+        table.add(mapping.fileEntity().name(), ++number);
     return table;
+}
+
+ClassMapping const* FileSource::mappingFromNumber(std::uint16_t number) const
+{
+    return number == step::StepKeywordTable::unknown ? nullptr : &m_version.mappings()[number - 1u];
+}
+
+ClassMapping const* FileSource::mappingOf(fc::EntityIndex index) const
+{
+    return mappingFromNumber(m_file->classOf(index));
 }
 
 std::size_t FileSource::count() const { return m_file->recordCount(); }
 
 std::uint16_t FileSource::classNumber(fc::EntityIndex index) const
 {
-    std::uint16_t const number = m_file->classOf(index);
-    return number == step::StepKeywordTable::unknown ? std::uint16_t{0} : m_version.entity(number).classNumber;
+    ClassMapping const* const mapping = mappingOf(index);
+    return mapping ? mapping->classNumber() : std::uint16_t{0};
 }
 
 void FileSource::read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity)
@@ -128,15 +138,16 @@ void FileSource::readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& e
     // Reading may lead to other records, so each takes the buffer with it for its time.
     std::vector<StepValue> arguments = std::move(m_arguments);
     m_parser.parse(index, arguments, m_told[index] ? nullptr : &m_messages);
-    VersionEntity const& mapping = m_version.entity(m_file->classOf(index));
-    auto const& fileAttributes = mapping.entity->attributes();
-    if (arguments.size() != fileAttributes.size())
-        reader.tell("expected " + std::to_string(fileAttributes.size()) + " arguments of " + mapping.entity->name() +
-                    ", found " + std::to_string(arguments.size()));
+    ClassMapping const& mapping = *mappingOf(index);
+    if (arguments.size() != mapping.fileSlotCount())
+        reader.tell("expected " + std::to_string(mapping.fileSlotCount()) + " arguments of " +
+                    mapping.fileEntity().name() + ", found " + std::to_string(arguments.size()));
     fc::EntityClass const& entityClass = entity.getEntityClass();
     auto const argumentOf = [&](unsigned int slot) -> StepValue const* {
-        auto const fileSlot = mapping.fileSlot(slot);
-        return fileSlot && *fileSlot < arguments.size() ? &arguments[*fileSlot] : nullptr;
+        int const fileSlot = mapping.fileSlot(slot);
+        return fileSlot >= 0 && static_cast<std::size_t>(fileSlot) < arguments.size()
+                   ? &arguments[static_cast<std::size_t>(fileSlot)]
+                   : nullptr;
     };
     for (unsigned int slot = 0; slot < entityClass.attributes.size(); ++slot) {
         StepValue const* const argument = argumentOf(slot);
@@ -147,11 +158,11 @@ void FileSource::readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& e
         reader.setOwnUnit(unit ? unit->referenceId() : 0);
         fc::AttributeDescriptor const& attribute = *entityClass.attributes[slot];
         auto const& operations = *attribute.operations;
-        if (!m_version.changesForm(mapping, slot))
+        if (!mapping.changesValueForm(slot))
             operations.read(entity.attribute(slot), attribute, *argument, reader);
         else
             operations.read(entity.attribute(slot), attribute,
-                            toModelForm(*argument, *fileAttributes[*mapping.fileSlot(slot)], attribute, *m_file), reader);
+                            toModelForm(*argument, *mapping.fileAttribute(slot), attribute, *m_file), reader);
     }
     m_arguments = std::move(arguments);
 }
@@ -159,13 +170,11 @@ void FileSource::readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& e
 void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
                                   std::function<void(fc::EntityIndex)> const& visit) const
 {
-    std::uint16_t const number = m_file->classOf(index);
-    if (number == step::StepKeywordTable::unknown)
+    ClassMapping const* const mapping = mappingOf(index);
+    int const fileSlot = mapping ? mapping->fileSlot(slot) : ClassMapping::noSlot;
+    if (fileSlot < 0)
         return;
-    auto const fileSlot = m_version.entity(number).fileSlot(slot);
-    if (!fileSlot)
-        return;
-    m_parser.forEachReference(index, *fileSlot, [this, &visit](step::InstanceId id) {
+    m_parser.forEachReference(index, static_cast<std::size_t>(fileSlot), [this, &visit](step::InstanceId id) {
         step::RecordIndex const record = m_file->indexOf(id);
         if (record != step::StepFile::noRecord)
             visit(record);
@@ -175,10 +184,9 @@ void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
 void FileSource::check(fc::EntityIndex index, fc::Data& data)
 {
     Reader reader(*this, data, index);
-    std::uint16_t const number = m_file->classOf(index);
-    if (number == step::StepKeywordTable::unknown) {
+    if (!mappingOf(index)) {
         if (!m_file->keywordOf(index).empty())
-            reader.tell("expected a class of " + m_version.name() + ", found " + std::string(m_file->keywordOf(index)));
+            reader.tell("expected a class of " + m_version.fileSchema().name() + ", found " + std::string(m_file->keywordOf(index)));
         checkReferences(index);
         m_told[index] = true;
         return;

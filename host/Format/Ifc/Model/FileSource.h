@@ -26,8 +26,12 @@ public:
     FileSource(std::unique_ptr<step::StepFile> file, VersionSchema const& version);
     ~FileSource() override;
 
-    /// The keywords of a version, each with the number `VersionSchema` has for it.
+    /// The keywords of a version, each with the number that stands for it in the index of the file.
     [[nodiscard]] static step::StepKeywordTable keywordTable(VersionSchema const& version);
+    /// The mapping behind such a number; null for an unknown keyword.
+    [[nodiscard]] ClassMapping const* mappingFromNumber(std::uint16_t number) const;
+    /// The mapping of a record's class; null for an unknown keyword.
+    [[nodiscard]] ClassMapping const* mappingOf(fc::EntityIndex index) const;
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] std::uint16_t classNumber(fc::EntityIndex index) const override;

@@ -4,7 +4,7 @@
 #include "Format/Ifc/Model/FileSource.h"
 #include "Format/Ifc/Model/OwnUnits.h"
 #include "Format/Ifc/Model/Spelling.h"
-#include "Format/Ifc/Model/ValueForm.h"
+#include "Format/Ifc/Model/ValueConversion.h"
 #include "Format/Ifc/Schema/Entity.h"
 #include "Format/Ifc/Step/StepWriter.h"
 #include "FoundationClasses/AttributeOperations.h"
@@ -20,7 +20,13 @@ namespace {
 using step::StepMessage;
 using step::StepValue;
 
-StepMessage refused(std::string text) { return {StepMessage::Severity::Refused, 0, std::nullopt, std::move(text)}; }
+StepMessage inexactVersion(std::string const& name, VersionMapping::Version const& version)
+{
+    bool const isClose = version.certainty == VersionMapping::Certainty::Close;
+    return {isClose ? StepMessage::Severity::Warning : StepMessage::Severity::Error, 0, std::nullopt,
+            "expected an IFC schema that is known in FILE_SCHEMA, found '" + name + "'; it is read as " +
+                version.schema->fileSchema().name()};
+}
 
 } // namespace
 
@@ -59,25 +65,29 @@ public:
     }
 
     /// The arguments of a new record.
-    std::vector<StepValue> arguments(fc::FcBase const& entity, VersionEntity const& mapping,
+    std::vector<StepValue> arguments(fc::FcBase const& entity, ClassMapping const& mapping,
                                      std::vector<std::string>& notStored)
     {
-        auto const& fileAttributes = mapping.entity->attributes();
+        auto const& fileAttributes = mapping.fileEntity().attributes();
         std::vector<StepValue> values(fileAttributes.size());
         for (std::size_t i = 0; i < fileAttributes.size(); ++i) {
-            if (mapping.entity->isDerived(*fileAttributes[i]))
+            if (mapping.fileEntity().isDerived(*fileAttributes[i]))
                 values[i] = StepValue::derived();
         }
         auto const attributes = entity.getEntityClass().attributes;
         for (unsigned int slot = 0; slot < attributes.size(); ++slot) {
             if (attributes[slot]->operations->isUnset(entity.attribute(slot)))
                 continue;
-            auto const fileSlot = mapping.fileSlot(slot);
-            if (fileSlot && values[*fileSlot].kind() == StepValue::Kind::Derived)
+            int const fileSlot = mapping.fileSlot(slot);
+            if (fileSlot < 0) {
+                notStored.push_back(m_file.nameOf(entity, slot));
                 continue;
-            auto value = fileSlot ? this->value(entity, slot, *fileAttributes[*fileSlot]) : std::nullopt;
-            if (value)
-                values[*fileSlot] = std::move(*value);
+            }
+            StepValue& place = values[static_cast<std::size_t>(fileSlot)];
+            if (place.kind() == StepValue::Kind::Derived)
+                continue;
+            if (auto value = this->value(entity, slot, *mapping.fileAttribute(slot)))
+                place = std::move(*value);
             else
                 notStored.push_back(m_file.nameOf(entity, slot));
         }
@@ -105,21 +115,16 @@ OpenResult IfcFile::index(step::StepOpenResult opened, Progress const& progress)
         return result;
     auto const names = opened.file->header().schemaNames();
     std::string const name = names.empty() ? std::string() : names.front();
-    VersionSchema const* const version = VersionSchema::find(name);
-    if (!version) {
-        result.messages.push_back(refused("expected an IFC schema in FILE_SCHEMA, such as IFC4, found '" + name + "'"));
-        return result;
-    }
-    if (!version->isExact(name))
-        result.messages.push_back({StepMessage::Severity::Warning, 0, std::nullopt,
-                                   "the schema " + name + " is read as " + version->name()});
-    if (!opened.file->index(FileSource::keywordTable(*version), progress)) {
+    VersionMapping::Version const version = VersionMapping::curr().fromFileSchema(name);
+    if (version.certainty != VersionMapping::Certainty::Exact)
+        result.messages.push_back(inexactVersion(name, version));
+    if (!opened.file->index(FileSource::keywordTable(*version.schema), progress)) {
         auto const messages = opened.file->messages().all();
         result.messages.insert(result.messages.end(), messages.begin(), messages.end());
         result.cancelled = messages.empty();
         return result;
     }
-    auto source = std::make_unique<FileSource>(std::move(opened.file), *version);
+    auto source = std::make_unique<FileSource>(std::move(opened.file), *version.schema);
     FileSource& reference = *source;
     auto data = fc::Data::create(std::move(source));
     result.file.reset(new IfcFile(std::move(data), reference, result.messages));
@@ -149,7 +154,7 @@ std::map<std::string, std::size_t> IfcFile::countsByClass() const
     auto const& byNumber = file.classCounts();
     for (std::uint16_t number = 1; number < byNumber.size(); ++number) {
         if (byNumber[number] > 0)
-            counts[m_source.version().entity(number).entity->name()] = byNumber[number];
+            counts[m_source.mappingFromNumber(number)->fileEntity().name()] = byNumber[number];
     }
     for (step::RecordIndex const record : file.recordsOf(step::StepKeywordTable::unknown))
         ++counts[std::string(file.keywordOf(record))];
@@ -221,8 +226,8 @@ void IfcFile::buildGlobalIds() const
     for (fc::EntityIndex const index : m_data->indicesFromId(FcRoot::idFirst, FcRoot::idLast)) {
         if (index >= m_source.count())
             continue;
-        auto const slot = m_source.version().entity(m_source.file().classOf(index)).fileSlot(0);
-        auto const span = slot ? parser.argumentSpan(index, *slot) : std::nullopt;
+        int const slot = m_source.mappingOf(index)->fileSlot(0);
+        auto const span = slot >= 0 ? parser.argumentSpan(index, static_cast<std::size_t>(slot)) : std::nullopt;
         if (span && span->size() >= 2)
             m_globalIds->emplace(std::string(span->substr(1, span->size() - 2)), index);
     }
@@ -249,19 +254,19 @@ void IfcFile::giveIds()
 void IfcFile::patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored)
 {
     auto const entity = m_data->entity(index);
-    VersionEntity const& mapping = m_source.version().entity(m_source.file().classOf(index));
-    auto const& fileAttributes = mapping.entity->attributes();
+    ClassMapping const& mapping = *m_source.mappingOf(index);
     step::StepRecordParser const parser(m_source.file());
     Writer writer(*this);
     std::vector<std::pair<std::size_t, std::string>> texts;
     for (unsigned int slot = 0; slot < entity->getEntityClass().attributes.size(); ++slot) {
         if ((entity->changedSlots() >> slot & 1) == 0)
             continue;
-        auto const fileSlot = mapping.fileSlot(slot);
-        auto const value = fileSlot ? writer.value(*entity, slot, *fileAttributes[*fileSlot]) : std::nullopt;
-        auto const before = fileSlot ? parser.argumentSpan(index, *fileSlot) : std::nullopt;
+        int const fileSlot = mapping.fileSlot(slot);
+        auto const place = static_cast<std::size_t>(fileSlot);
+        auto const value = fileSlot >= 0 ? writer.value(*entity, slot, *mapping.fileAttribute(slot)) : std::nullopt;
+        auto const before = fileSlot >= 0 ? parser.argumentSpan(index, place) : std::nullopt;
         if (value && before)
-            texts.emplace_back(*fileSlot, respelled(*before, *value));
+            texts.emplace_back(place, respelled(*before, *value));
         else
             notStored.push_back(nameOf(*entity, slot));
     }
@@ -272,13 +277,13 @@ void IfcFile::patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::v
 void IfcFile::patchAddition(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored)
 {
     auto const entity = m_data->entity(index);
-    VersionEntity const* const mapping = m_source.version().entityForWriting(m_data->classNumber(index));
+    ClassMapping const* const mapping = m_source.version().forNewObject(m_data->classNumber(index));
     if (!mapping) {
         notStored.push_back(std::string(entity->getEntityName()) + " #" + std::to_string(idOf(index)));
         return;
     }
     Writer writer(*this);
-    patch.appendRecord(idOf(index), mapping->keyword,
+    patch.appendRecord(idOf(index), mapping->fileEntity().nameUpper(),
                        step::StepWriter::arguments(writer.arguments(*entity, *mapping, notStored)));
 }
 

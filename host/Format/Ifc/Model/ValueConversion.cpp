@@ -1,4 +1,4 @@
-#include "Format/Ifc/Model/ValueForm.h"
+#include "Format/Ifc/Model/ValueConversion.h"
 
 #include "Format/Ifc/Schema/DataTypeEnum.h"
 #include "Format/Ifc/Schema/DeclaredType.h"

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "ExitCode.h"
+#include "Format.h"
+#include "Objects.h"
+
+#include <filesystem>
+#include <string>
+
+/// The commands of `qev-ifc`. Each prints its result on the standard output and what went wrong on the
+/// error stream.
+namespace qev::application {
+
+struct InfoOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    bool quick = false;
+};
+
+struct SaveOptions
+{
+    std::filesystem::path file;
+    std::filesystem::path output;
+};
+
+struct ObjectsOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    std::string className;
+};
+
+struct SetsOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    ObjectSelection objects;
+};
+
+struct GridOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    ObjectSelection objects;
+    /// One grid for each object instead of one for all.
+    bool each = false;
+    bool usedOnly = false;
+};
+
+struct SetOptions
+{
+    std::filesystem::path file;
+    std::filesystem::path output;
+    ObjectSelection objects;
+    /// Set name, a dot and property name.
+    std::string property;
+    std::string value;
+};
+
+ExitCode runInfo(InfoOptions const& options);
+ExitCode runSave(SaveOptions const& options);
+ExitCode runObjects(ObjectsOptions const& options);
+ExitCode runSets(SetsOptions const& options);
+ExitCode runGrid(GridOptions const& options);
+ExitCode runSet(SetOptions const& options);
+
+} // namespace qev::application

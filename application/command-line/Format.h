@@ -1,0 +1,12 @@
+#pragma once
+
+namespace qev::application {
+
+/// For whom a command prints.
+enum class Format
+{
+    Text, ///< people
+    Json, ///< programs
+};
+
+} // namespace qev::application

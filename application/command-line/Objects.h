@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Format/Ifc/Model/IfcFile.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace qev::application {
+
+/// Which objects of a file a command is about.
+struct ObjectSelection
+{
+    std::vector<std::string> globalIds;
+    std::string className;
+    bool all = false;
+
+    [[nodiscard]] bool isGiven() const { return all || !className.empty() || !globalIds.empty(); }
+};
+
+/// The places of the selected objects: in the order of the global ids, or by class and then as in the file.
+/// What cannot be found is told on the error stream.
+std::vector<fc::EntityIndex> findObjects(ifc::IfcFile const& file, ObjectSelection const& selection);
+
+/// The class of the model with this schema name, in any case; null for an unknown one.
+fc::EntityClass const* findClass(std::string const& name);
+
+/// The structure, assembly or host that an object is part of; null when it stands alone.
+std::shared_ptr<fc::FcBase> containerOf(fc::FcBase const& object);
+
+/// The name of an entity, empty when it has none.
+std::string nameOf(fc::FcBase const& entity);
+std::string globalIdOf(fc::FcBase const& entity);
+
+} // namespace qev::application

@@ -1,0 +1,110 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+
+namespace {
+
+using namespace qev::application;
+
+void addFile(CLI::App& command, std::filesystem::path& file)
+{
+    command.add_option("FILE", file, "an IFC file")->required();
+}
+
+void addFormat(CLI::App& command, Format& format)
+{
+    std::map<std::string, Format> const names = {{"text", Format::Text}, {"json", Format::Json}};
+    command.add_option("--format", format, "text for people, json for programs")
+        ->transform(CLI::CheckedTransformer(names, CLI::ignore_case));
+}
+
+void addOutput(CLI::App& command, std::filesystem::path& output)
+{
+    command.add_option("--output", output, "the file to write; it may be FILE itself")->required();
+}
+
+void addObjects(CLI::App& command, ObjectSelection& objects, bool mayBeAll)
+{
+    auto* const group = command.add_option_group("objects", "which objects");
+    group->add_option("--object", objects.globalIds, "GlobalId of an object; may be given several times");
+    group->add_option("--class", objects.className, "all objects of a class and its subclasses, such as IfcWall");
+    if (mayBeAll)
+        group->add_flag("--all", objects.all, "every object, type and project");
+    group->require_option(1);
+}
+
+/// The subcommands and what they were given; one of them sets `run`.
+struct CommandLine
+{
+    InfoOptions info;
+    SaveOptions save;
+    ObjectsOptions objects;
+    SetsOptions sets;
+    GridOptions grid;
+    SetOptions set;
+    std::function<ExitCode()> run;
+
+    void addTo(CLI::App& app);
+};
+
+void CommandLine::addTo(CLI::App& app)
+{
+    auto* command = app.add_subcommand("info", "schema, author, counts by class, and what is wrong with the file");
+    addFile(*command, info.file);
+    addFormat(*command, info.format);
+    command->add_flag("--quick", info.quick, "only what opening finds, without reading every record");
+    command->callback([this] { run = [this] { return runInfo(info); }; });
+
+    command = app.add_subcommand("save", "open and save; without an edit the same bytes");
+    addFile(*command, save.file);
+    addOutput(*command, save.output);
+    command->callback([this] { run = [this] { return runSave(save); }; });
+
+    command = app.add_subcommand("objects", "GlobalId, class, name and container of the objects");
+    addFile(*command, objects.file);
+    addFormat(*command, objects.format);
+    command->add_option("--class", objects.className, "only this class and its subclasses");
+    command->callback([this] { run = [this] { return runObjects(objects); }; });
+
+    command = app.add_subcommand("sets", "the property and quantity sets that the objects have in common");
+    addFile(*command, sets.file);
+    addFormat(*command, sets.format);
+    addObjects(*command, sets.objects, false);
+    command->callback([this] { run = [this] { return runSets(sets); }; });
+
+    command = app.add_subcommand("grid", "the rows that the property grid shows for the objects");
+    addFile(*command, grid.file);
+    addFormat(*command, grid.format);
+    addObjects(*command, grid.objects, true);
+    command->add_flag("--each", grid.each, "one grid per object, one document a line as JSON");
+    command->add_flag("--used-only", grid.usedOnly, "leave out rows without a value");
+    command->callback([this] { run = [this] { return runGrid(grid); }; });
+
+    command = app.add_subcommand("set", "give one property a value in the objects, and save");
+    addFile(*command, set.file);
+    addOutput(*command, set.output);
+    addObjects(*command, set.objects, false);
+    command->add_option("--property", set.property, "set name, a dot and property name: Pset_WallCommon.FireRating")
+        ->required();
+    command->add_option("--value", set.value, "what to type into the row; empty clears it")->required();
+    command->callback([this] { run = [this] { return runSet(set); }; });
+
+    app.require_subcommand(1);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App app("Shows and edits the properties of IFC files.", "qev-ifc");
+    CommandLine commandLine;
+    commandLine.addTo(app);
+    try {
+        app.parse(argc, argv);
+    } catch (CLI::ParseError const& error) {
+        return app.exit(error) == 0 ? 0 : static_cast<int>(ExitCode::BadUsage);
+    }
+    return static_cast<int>(commandLine.run());
+}
