@@ -70,6 +70,38 @@ std::optional<double> readDecimalNumber(std::string_view text)
     return stream.fail() ? std::nullopt : std::optional(read);
 }
 
+/// Nothing for exponents far beyond those of any double.
+std::optional<int> readExponent(std::string_view text)
+{
+    constexpr int limit = 100000;
+    if (text.front() == '+')
+        text.remove_prefix(1);
+    int exponent = 0;
+    auto const result = std::from_chars(text.data(), text.data() + text.size(), exponent);
+    if (result.ec != std::errc() || exponent > limit || exponent < -limit)
+        return std::nullopt;
+    return exponent;
+}
+
+/// The number of the \p digits, which neither begin nor end with zero, with the point behind \p position of
+/// them.
+std::string withPointAt(std::string const& digits, int position)
+{
+    constexpr int smallestPosition = -3;
+    constexpr int largestPosition = 16;
+    int const count = static_cast<int>(digits.size());
+    if (position < smallestPosition || position > largestPosition) {
+        std::string const fraction = count > 1 ? "." + digits.substr(1) : "";
+        return digits.substr(0, 1) + fraction + "e" + std::to_string(position - 1);
+    }
+    if (position <= 0)
+        return "0." + std::string(static_cast<std::size_t>(-position), '0') + digits;
+    auto const whole = static_cast<std::size_t>(position);
+    if (position >= count)
+        return digits + std::string(whole - digits.size(), '0');
+    return digits.substr(0, whole) + "." + digits.substr(whole);
+}
+
 } // namespace
 
 std::string shortestText(double value)
@@ -117,6 +149,30 @@ std::optional<double> parseDouble(std::string_view text)
     if (text.front() == '+')
         text.remove_prefix(1);
     return readDecimalNumber(text);
+}
+
+std::optional<std::string> timesPowerOfTen(std::string_view number, int exponent)
+{
+    if (!isDecimalNumber(number))
+        return std::nullopt;
+    std::string const sign = number.front() == '-' ? "-" : "";
+    if (number.front() == '-' || number.front() == '+')
+        number.remove_prefix(1);
+    auto const end = std::min(number.find_first_of("eE"), number.size());
+    auto const ownExponent = end == number.size() ? std::optional(0) : readExponent(number.substr(end + 1));
+    if (!ownExponent)
+        return std::nullopt;
+
+    std::string digits(number.substr(0, end));
+    auto const point = std::min(digits.find('.'), digits.size());
+    int position = static_cast<int>(point) + *ownExponent + exponent;
+    std::erase(digits, '.');
+    auto const first = digits.find_first_not_of('0');
+    if (first == std::string::npos)
+        return sign + "0";
+    position -= static_cast<int>(first);
+    digits = digits.substr(first, digits.find_last_not_of('0') - first + 1);
+    return sign + withPointAt(digits, position);
 }
 
 } // namespace qev::str

@@ -29,4 +29,8 @@ HOSTCORE_EXPORT std::string significantText(double value, int digits);
 /// digits, infinity and numbers outside of the range of `double` are not.
 HOSTCORE_EXPORT std::optional<double> parseDouble(std::string_view text);
 
+/// The decimal number \p number, such as `parseDouble` reads it, times ten to the power of \p exponent: the
+/// same digits with the point elsewhere, so that nothing is rounded. Nothing when \p number is no such text.
+HOSTCORE_EXPORT std::optional<std::string> timesPowerOfTen(std::string_view number, int exponent);
+
 } // namespace qev::str

@@ -143,8 +143,8 @@ double QppSettings::dValueWithoutApplyingUnit(std::string const& text, NumberFor
         return std::numeric_limits<double>::quiet_NaN();
     std::string number = text.substr(first, text.find_last_not_of(" \t") - first + 1);
     if (!format)
-        return readUserNumber(number).value_or(std::numeric_limits<double>::quiet_NaN());
-    if (format->decimalSign != '.') {
+        number = plainNumber(number).value_or("");
+    else if (format->decimalSign != '.') {
         if (number.find('.') != std::string::npos)
             return std::numeric_limits<double>::quiet_NaN();
         std::replace(number.begin(), number.end(), format->decimalSign, '.');
@@ -154,8 +154,16 @@ double QppSettings::dValueWithoutApplyingUnit(std::string const& text, NumberFor
 
 std::string QppSettings::fullDigits(double value, UnitBase const& unit) const
 {
-    double const shown = convert(value, unit, displayUnitFor(unit));
+    UnitBase const& displayUnit = displayUnitFor(unit);
     auto const readsBack = [&](std::string const& text) { return parse(text, unit) == value; };
+    auto const from = unit.decimalExponent();
+    auto const to = displayUnit.decimalExponent();
+    if (from && to) {
+        auto const text = str::timesPowerOfTen(str::shortestText(value), *from - *to);
+        if (text && readsBack(*text))
+            return withDecimalSign(*text);
+    }
+    double const shown = convert(value, unit, displayUnit);
     for (int digits = firstDigitsTried; digits <= distinctDigits; ++digits) {
         std::string const text = plainText(shown, digits);
         if (readsBack(text))

@@ -108,13 +108,14 @@ std::optional<std::string> plainMantissa(std::string_view mantissa)
 
 } // namespace
 
-std::optional<double> readUserNumber(std::string_view text)
+std::optional<std::string> plainNumber(std::string_view text)
 {
     auto const exponent = std::min(text.find_first_of("eE"), text.size());
     auto const mantissa = plainMantissa(text.substr(0, exponent));
     if (!mantissa)
         return std::nullopt;
-    return str::parseDouble(*mantissa + std::string(text.substr(exponent)));
+    std::string number = *mantissa + std::string(text.substr(exponent));
+    return str::parseDouble(number) ? std::optional(std::move(number)) : std::nullopt;
 }
 
 QuantityTextReader::QuantityTextReader(std::string_view text, UnitBase const& displayUnit,
@@ -132,7 +133,7 @@ std::optional<double> QuantityTextReader::read()
     if (!first)
         return std::nullopt;
     if (atEnd())
-        return convert(sign * first->number, first->unit ? *first->unit : m_displayUnit, m_target);
+        return inTarget(*first, first->unit ? *first->unit : m_displayUnit, sign);
 
     double sum = 0;
     for (auto term = first; term;) {
@@ -162,38 +163,43 @@ bool QuantityTextReader::readSign()
 
 std::optional<QuantityTextReader::Term> QuantityTextReader::readTerm()
 {
-    auto const number = readNumberWithFraction();
-    if (!number)
+    Term term;
+    if (!readNumberWithFraction(term))
         return std::nullopt;
     skipBlanks();
-    Term term{*number, nullptr};
     if (atEnd())
         return term;
     term.unit = readUnit();
     if (!term.unit)
         return std::nullopt;
-    skipBlanks();
     // A hyphen often joins feet and inches.
     if (m_position + 1 < m_text.size() && m_text[m_position] == '-' && isDigit(m_text[m_position + 1]))
         ++m_position;
+    skipBlanks();
     return term;
 }
 
-std::optional<double> QuantityTextReader::readNumberWithFraction()
+bool QuantityTextReader::readNumberWithFraction(Term& term)
 {
-    if (auto const fraction = readFraction())
-        return fraction;
-    auto const number = readUserNumber(readDigits());
+    if (auto const fraction = readFraction()) {
+        term.number = *fraction;
+        return true;
+    }
+    auto number = plainNumber(readDigits());
     if (!number)
-        return std::nullopt;
+        return false;
+    term.number = *str::parseDouble(*number);
     auto const start = m_position;
     skipBlanks();
     if (m_position > start) {
-        if (auto const fraction = readFraction())
-            return *number + *fraction;
+        if (auto const fraction = readFraction()) {
+            term.number += *fraction;
+            return true;
+        }
     }
     m_position = start;
-    return number;
+    term.digits = std::move(*number);
+    return true;
 }
 
 /// Reads "1/2". Reads nothing when there is no such thing.
@@ -276,6 +282,21 @@ bool QuantityTextReader::endsUnit(std::size_t length) const
     if (end == m_text.size() || m_text[end] == ' ' || m_text[end] == '-')
         return true;
     return isDigit(m_text[end]) && !isLetter(m_text[end - 1]);
+}
+
+/// Between decimal units the digits are moved instead of being calculated with: 250.1 mm is exactly the
+/// same number as 0.2501 m.
+double QuantityTextReader::inTarget(Term const& term, UnitBase const& unit, double sign) const
+{
+    auto const from = unit.decimalExponent();
+    auto const to = m_target.decimalExponent();
+    if (from && to && !term.digits.empty()) {
+        auto const moved = str::timesPowerOfTen(term.digits, *from - *to);
+        auto const value = moved ? str::parseDouble(*moved) : std::nullopt;
+        if (value)
+            return sign * *value;
+    }
+    return convert(sign * term.number, unit, m_target);
 }
 
 void QuantityTextReader::skipBlanks()

@@ -21,18 +21,21 @@ private:
     struct Term
     {
         double number = 0;
+        /// The number as decimal digits; empty for a fraction.
+        std::string digits;
         UnitBase const* unit = nullptr;
     };
 
     bool readSign();
     std::optional<Term> readTerm();
-    std::optional<double> readNumberWithFraction();
+    bool readNumberWithFraction(Term& term);
     std::optional<double> readFraction();
     std::string_view readDigits();
     UnitBase const* readUnit();
     UnitBase const* matchUnit(bool ignoreCase, std::size_t& length) const;
     bool endsUnit(std::size_t length) const;
     void skipBlanks();
+    double inTarget(Term const& term, UnitBase const& unit, double sign) const;
     [[nodiscard]] bool atEnd() const { return m_position == m_text.size(); }
     [[nodiscard]] std::string_view rest() const { return std::string_view(m_text).substr(m_position); }
 
@@ -42,7 +45,8 @@ private:
     std::size_t m_position = 0;
 };
 
-/// Reads a number whose decimal sign is a point or a comma; thousands may be grouped by the other one.
-std::optional<double> readUserNumber(std::string_view text);
+/// The digits of a number whose decimal sign is a point or a comma, and whose thousands may be grouped by the
+/// other one, with a point alone. Nothing when \p text is no such number.
+std::optional<std::string> plainNumber(std::string_view text);
 
 } // namespace qev::unit

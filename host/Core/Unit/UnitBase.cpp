@@ -36,6 +36,21 @@ double UnitBase::fromSi(double value) const
     return value * m_facts.denominator / m_facts.numerator - m_facts.offset;
 }
 
+std::optional<int> UnitBase::decimalExponent() const
+{
+    constexpr int largestExponent = 12;
+    if (hasOffset())
+        return std::nullopt;
+    double power = 1;
+    for (int exponent = 0; exponent <= largestExponent; ++exponent, power *= 10) {
+        if (m_facts.numerator == m_facts.denominator * power)
+            return exponent;
+        if (m_facts.numerator * power == m_facts.denominator)
+            return -exponent;
+    }
+    return std::nullopt;
+}
+
 double convert(double value, UnitBase const& from, UnitBase const& to)
 {
     return &from == &to ? value : to.fromSi(from.toSi(value));

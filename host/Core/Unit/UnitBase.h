@@ -3,6 +3,7 @@
 #include "Core/Unit/UnitFacts.h"
 #include "HostCoreExport.h"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -32,6 +33,8 @@ public:
     /// Whether its zero is another one than that of the SI unit, as with degrees Celsius.
     [[nodiscard]] bool hasOffset() const { return m_facts.offset != 0; }
     [[nodiscard]] double offset() const { return m_facts.offset; }
+    /// The power of ten that the unit is of the SI unit; nothing for any other unit.
+    [[nodiscard]] std::optional<int> decimalExponent() const;
 
 protected:
     UnitBase(UnitFacts const& facts, QuantityBase const& quantity);
