@@ -24,6 +24,8 @@ struct StepOpenResult;
 /// Where a record stands in the order of the file, counted from 0.
 using RecordIndex = std::uint32_t;
 
+struct StepRecordExtent;
+
 /// A STEP file (ISO 10303-21): its bytes as they were read, and an index of its records.
 ///
 /// Nothing of a record is taken apart before somebody asks; the bytes never change. Opening
@@ -68,6 +70,9 @@ public:
     [[nodiscard]] StepHeader const& header() const;
 
     /// Finds all records, in one pass over the bytes. Calling it again makes the index anew.
+    ///
+    /// A record that is not ended is taken to end before the next line that begins one. The escape
+    /// `\S\'` hides its apostrophe, unless a text would have no end that way.
     /// \returns false when \p progress asked to stop, or without a DATA section; `messages` tells which.
     bool index(StepKeywordTable const& table, Progress const& progress = {});
 
@@ -84,6 +89,8 @@ public:
     /// From `#` up to and including `;`. A record that is cut off ends before the next one.
     [[nodiscard]] std::string_view bytesOf(RecordIndex record) const;
     [[nodiscard]] Ending endingOf(RecordIndex record) const;
+    /// All places within a record, found in one go.
+    [[nodiscard]] StepRecordExtent extentOf(RecordIndex record) const;
     /// What stands behind the opening parenthesis of the arguments, up to the end of the record:
     /// the arguments, the closing parenthesis and the rest. Empty for a record of several keywords.
     [[nodiscard]] std::string_view argumentsOf(RecordIndex record) const;
@@ -124,11 +131,26 @@ public:
 
 private:
     struct Private;
-    friend struct StepOpenResult;
 
     explicit StepFile(platform::FileBytes bytes);
 
     std::unique_ptr<Private> m_private;
+};
+
+/// Where the parts of a record stand.
+struct StepRecordExtent
+{
+    /// As `StepFile::bytesOf`.
+    std::string_view bytes;
+    /// What stands behind the equals sign.
+    std::string_view body;
+    /// As `StepFile::keywordOf` and `StepFile::argumentsOf`.
+    std::string_view keyword;
+    std::string_view arguments;
+    StepFile::Ending ending = StepFile::Ending::Complete;
+    bool isComplex = false;
+    /// False when an apostrophe behind `\S\` ends a text in this record; see `StepFile::index`.
+    bool escapesHideApostrophes = true;
 };
 
 /// What opening a file gives.

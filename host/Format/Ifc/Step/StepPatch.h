@@ -66,7 +66,7 @@ public:
 
     /// A new record; \p arguments as they stand between the parentheses.
     void appendRecord(InstanceId id, std::string_view keyword, std::string_view arguments);
-    void clearAppended() { m_appended.clear(); }
+    void clearAppended();
 
     /// An id that neither the file nor a new record uses, not even as a reference that leads nowhere.
     [[nodiscard]] InstanceId nextFreeId() const;
@@ -96,15 +96,23 @@ private:
     [[nodiscard]] Piece removal(RecordIndex record) const;
     [[nodiscard]] Piece insertion() const;
 
-    StepFile const* m_file;
-    std::map<RecordIndex, std::map<std::size_t, std::string>> m_replaced;
-    std::set<RecordIndex> m_removed;
     struct Appended
     {
         InstanceId id;
         std::string keyword;
         std::string arguments;
     };
+
+    struct Replacement
+    {
+        std::size_t position;
+        std::size_t length;
+        std::string text;
+    };
+
+    StepFile const* m_file;
+    std::map<RecordIndex, std::map<std::size_t, Replacement>> m_replaced;
+    std::set<RecordIndex> m_removed;
     std::vector<Appended> m_appended;
     InstanceId m_highestAppended = 0;
 };

@@ -33,8 +33,11 @@ public:
     bool parse(RecordIndex record, std::vector<StepValue>& values, StepMessages* messages = nullptr) const;
 
     /// The bytes of argument \p slot (from 0) without blanks and comments around it.
-    /// Nothing when the record has fewer arguments or is broken before its end.
+    /// Nothing when the record has fewer arguments or is broken before the argument's end.
     [[nodiscard]] std::optional<std::string_view> argumentSpan(RecordIndex record, std::size_t slot) const;
+
+    /// The bytes of all arguments; nothing when the record is broken or has several keywords.
+    [[nodiscard]] std::optional<std::vector<std::string_view>> argumentSpans(RecordIndex record) const;
 
     /// Reads one argument only; nothing when there is none or it is malformed.
     [[nodiscard]] std::optional<StepValue> parseArgument(RecordIndex record, std::size_t slot) const;
@@ -44,33 +47,35 @@ public:
     template <typename Function>
     void forEachReference(RecordIndex record, std::size_t slot, Function&& function) const
     {
-        char const* position = argumentStart(record, slot);
-        while (position != nullptr) {
-            InstanceId id = 0;
-            position = nextReference(position, id);
-            if (position != nullptr)
-                function(id);
-        }
+        ReferenceCursor cursor = argumentCursor(record, slot);
+        for (InstanceId id = 0; nextReference(cursor, id);)
+            function(id);
     }
 
     /// The same for all arguments of the record, of records of several keywords too.
     template <typename Function>
     void forEachReference(RecordIndex record, Function&& function) const
     {
-        char const* position = recordStart(record);
-        while (position != nullptr) {
-            InstanceId id = 0;
-            position = nextReference(position, id, true);
-            if (position != nullptr)
-                function(id);
-        }
+        ReferenceCursor cursor = recordCursor(record);
+        for (InstanceId id = 0; nextReference(cursor, id);)
+            function(id);
     }
 
 private:
-    [[nodiscard]] char const* argumentStart(RecordIndex record, std::size_t slot) const;
-    [[nodiscard]] char const* recordStart(RecordIndex record) const;
-    [[nodiscard]] static char const* nextReference(char const* position, InstanceId& id,
-                                                   bool wholeRecord = false);
+    /// Where a walk over references stands.
+    struct ReferenceCursor
+    {
+        char const* position = nullptr;
+        char const* end = nullptr;
+        bool escapesHideApostrophes = true;
+        /// Goes on behind the comma that ends the argument.
+        bool everything = false;
+        int depth = 0;
+    };
+
+    [[nodiscard]] ReferenceCursor argumentCursor(RecordIndex record, std::size_t slot) const;
+    [[nodiscard]] ReferenceCursor recordCursor(RecordIndex record) const;
+    static bool nextReference(ReferenceCursor& cursor, InstanceId& id);
 
     StepFile const* m_file;
 };
