@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HostFoundationClassesExport.h"
+
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -105,9 +107,9 @@ struct EntityClass
 
 /// The class of a type number, null when there is none. Number 0 is `FcBase`.
 /// \see generated `EntityClasses.cpp`
-EntityClass const* entityClassFromNumber(unsigned int number);
+HOSTFOUNDATIONCLASSES_EXPORT EntityClass const* entityClassFromNumber(unsigned int number);
 
 /// The slot of an attribute, or no value: `attributes.size()`.
-unsigned int slotFromName(EntityClass const& entityClass, std::string_view attribute);
+HOSTFOUNDATIONCLASSES_EXPORT unsigned int slotFromName(EntityClass const& entityClass, std::string_view attribute);
 
 } // namespace qev::fc
