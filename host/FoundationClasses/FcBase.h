@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace qev::unit {
@@ -146,20 +147,14 @@ private:
 };
 
 /// The entity as \p T, tested by its type number; null when it is of another class or null.
-template <class T>
-[[nodiscard]] std::shared_ptr<T> entityCast(std::shared_ptr<FcBase> const& entity)
+template <class T, class Entity>
+[[nodiscard]] auto entityCast(std::shared_ptr<Entity> const& entity)
 {
-    if (!entity || entity->getIdFirst() < T::idFirst || entity->getIdFirst() > T::idLast)
-        return nullptr;
-    return std::static_pointer_cast<T>(entity);
-}
-
-template <class T>
-[[nodiscard]] std::shared_ptr<T const> entityCast(std::shared_ptr<FcBase const> const& entity)
-{
-    if (!entity || entity->getIdFirst() < T::idFirst || entity->getIdFirst() > T::idLast)
-        return nullptr;
-    return std::static_pointer_cast<T const>(entity);
+    using Base = std::conditional_t<std::is_const_v<Entity>, FcBase const, FcBase>;
+    using Target = std::conditional_t<std::is_const_v<Entity>, T const, T>;
+    std::shared_ptr<Base> const base = entity;
+    bool const isTarget = base && base->getIdFirst() >= T::idFirst && base->getIdFirst() <= T::idLast;
+    return isTarget ? std::static_pointer_cast<Target>(base) : std::shared_ptr<Target>();
 }
 
 template <class T>

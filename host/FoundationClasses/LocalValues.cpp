@@ -31,7 +31,7 @@ LocalValue::Variant enumerationOf(StepValue const& value, ValueKind kind)
 LocalValue::Variant textOf(StepValue const& value, AttributeDescriptor const& descriptor)
 {
     if (descriptor.typeName == "IfcGloballyUniqueId") {
-        if (auto const guid = Guid::fromIfcString(value.textValue()))
+        if (auto const guid = Guid::fromString(value.textValue()))
             return *guid;
     }
     return value.textValue();

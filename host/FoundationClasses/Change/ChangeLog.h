@@ -59,7 +59,7 @@ private:
         Kind kind;
         std::shared_ptr<FcBase> entity;
         unsigned int slot = 0;
-        std::shared_ptr<void const> value;
+        std::shared_ptr<void const> value = nullptr;
         bool wasChangedBefore = false;
     };
     struct StepRecord

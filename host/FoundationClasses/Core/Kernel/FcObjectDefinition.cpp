@@ -3,9 +3,12 @@
 #include "Core/Id/Guid.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
+#include "FoundationClasses/Core/Kernel/FcRelNests.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
 #include "FoundationClasses/Core/ProductExtension/FcPort.h"
+#include "FoundationClasses/Core/ProductExtension/FcRelConnectsPortToElement.h"
 #include "FoundationClasses/Data.h"
+#include "FoundationClasses/Core/ProductExtension/FcDistributionElement.h"
 
 #include <algorithm>
 
@@ -42,7 +45,7 @@ void leaveOutSet(FcRelDefinesByProperties& relation, std::shared_ptr<FcPropertyS
     relation.RelatedObjects.edit([&object](auto& objects) { objects.erase(object); });
     auto const own = std::make_shared<FcRelDefinesByProperties>();
     own->setGuid(Guid::generate());
-    own->OwnerHistory = relation.OwnerHistory->get();
+    own->OwnerHistory = relation.OwnerHistory.get();
     own->RelatedObjects.edit([&object](auto& objects) { objects.push_back(object); });
     own->RelatingPropertyDefinition = definition;
     relation.getData()->entityAdd(own, false);
@@ -96,7 +99,7 @@ void FcObjectDefinition::attachNewSet(Data& data, std::shared_ptr<FcPropertySetD
     ChangeLog::Step const step(data.changes(), "Add property set");
     set->setGuid(Guid::generate());
     set->Name = name;
-    set->OwnerHistory = OwnerHistory->get();
+    set->OwnerHistory = OwnerHistory.get();
     data.entityAdd(set, false);
     if (isOfClass<FcTypeObject>(*this)) {
         static_cast<FcTypeObject&>(*this).HasPropertySets.edit([&set](auto& sets) {
@@ -108,7 +111,7 @@ void FcObjectDefinition::attachNewSet(Data& data, std::shared_ptr<FcPropertySetD
     }
     auto const relation = std::make_shared<FcRelDefinesByProperties>();
     relation->setGuid(Guid::generate());
-    relation->OwnerHistory = OwnerHistory->get();
+    relation->OwnerHistory = OwnerHistory.get();
     relation->RelatedObjects.edit([this](auto& objects) {
         objects.push_back(std::static_pointer_cast<FcObjectDefinition>(shared_from_this()));
     });
@@ -181,7 +184,30 @@ std::optional<std::string> FcObjectDefinition::ownUserDefinedType() const
 
 char const* FcObjectDefinition::getPredefinedTypeText() const { return nullptr; }
 
-std::vector<std::shared_ptr<productextension::FcPort>> FcObjectDefinition::getPorts() const { return {}; }
+std::vector<std::shared_ptr<productextension::FcPort>> FcObjectDefinition::getPorts() const
+{
+    using productextension::FcPort;
+    std::vector<std::shared_ptr<FcPort>> ports;
+    auto const add = [&ports](std::shared_ptr<FcPort> const& port) {
+        if (port && std::find(ports.begin(), ports.end(), port) == ports.end())
+            ports.push_back(port);
+    };
+    for (auto const& reference : IsNestedBy()) {
+        auto const relation = reference.lock();
+        if (!relation)
+            continue;
+        for (auto const& nested : relation->RelatedObjects->get())
+            add(entityCast<FcPort>(nested));
+    }
+    if (isOfClass<productextension::FcDistributionElement>(*this)) {
+        auto const& element = static_cast<productextension::FcDistributionElement const&>(*this);
+        for (auto const& reference : element.HasPorts()) {
+            if (auto const relation = reference.lock())
+                add(relation->RelatingPort->get());
+        }
+    }
+    return ports;
+}
 
 std::shared_ptr<FcObjectDefinition const> FcObjectDefinition::typeOfThis() const { return nullptr; }
 

@@ -2,7 +2,7 @@
 
 namespace qev::fc::core::kernel {
 
-Guid FcRoot::getGuid() const { return Guid::fromIfcString(GlobalId.get()).value_or(Guid()); }
+Guid FcRoot::getGuid() const { return Guid::fromString(GlobalId.get()).value_or(Guid()); }
 
 void FcRoot::setGuid(Guid const& guid) { GlobalId = guid.toString(); }
 

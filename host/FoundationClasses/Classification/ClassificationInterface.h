@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Core/Plugin/BaseInterface.h"
+#include "HostFoundationClassesExport.h"
+
+#include <string>
+
+namespace qev::classification {
+
+/// A plug-in that offers a system of classification.
+class HOSTFOUNDATIONCLASSES_EXPORT ClassificationInterface : public plugin::BaseInterface
+{
+public:
+    /// The key of the system, which is also the name of its classification in a model.
+    [[nodiscard]] virtual std::string getKey() const = 0;
+    /// A further text about the system, for people.
+    [[nodiscard]] virtual std::string getDescription() const = 0;
+};
+
+} // namespace qev::classification
