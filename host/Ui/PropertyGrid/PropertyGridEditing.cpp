@@ -203,7 +203,7 @@ PropertyGridEditResult PropertyGridEditing::clickCheckBox(PropertyGridRow& row)
 {
     if (!canClickCheckBox(row))
         return refusedAsReadOnly();
-    auto const keepAlive = row.shared_from_this();
+    auto const keepAlive = row.getShared();
     row.setCheckState(row.getCheckState() == CheckState::Checked ? CheckState::Unchecked
                                                                  : CheckState::Checked);
     PropertyGridCheckBoxProperty property(keepAlive);
@@ -215,7 +215,7 @@ PropertyGridEditResult PropertyGridEditing::pressButton(PropertyGridRow& row)
 {
     if (!canPressButton(row))
         return refused("This property has no button that can be pressed.");
-    auto const keepAlive = row.shared_from_this();
+    auto const keepAlive = row.getShared();
     if (row.getState().hasCustomButton) {
         PropertyGridCustomButtonProperty property(keepAlive);
         fireEvent(row.getCustomButtonClickedHandlers(), property, getDisplayedText(row));

@@ -55,7 +55,7 @@ void PropertyGridModel::notifyRowEdited(PropertyGridRow& row)
 {
     // A copy, since the handler may let go of the control and with it of the function.
     if (auto const edited = m_edited)
-        edited(row.shared_from_this());
+        edited(row.getShared());
 }
 
 } // namespace qev::ui

@@ -32,7 +32,7 @@ std::optional<double> readPlain(std::string_view text)
     std::string plain(trimmed(text));
     if (auto const comma = plain.find(','); comma != std::string::npos)
         plain[comma] = '.';
-    if (plain.starts_with('+'))
+    if (plain.starts_with('+') && !plain.starts_with("+-"))
         plain.erase(0, 1);
     double value = 0;
     auto const* const end = plain.data() + plain.size();

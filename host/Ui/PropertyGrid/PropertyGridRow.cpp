@@ -20,6 +20,11 @@ PropertyGridRow::~PropertyGridRow()
         child->setPlace(nullptr, nullptr);
 }
 
+std::shared_ptr<PropertyGridRow> PropertyGridRow::getShared()
+{
+    return std::static_pointer_cast<PropertyGridRow>(weak_from_this().lock());
+}
+
 void PropertyGridRow::setNumber(std::optional<double> number)
 {
     m_state.number = number;

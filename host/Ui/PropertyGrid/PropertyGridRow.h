@@ -18,12 +18,14 @@ class PropertyGridModel;
 ///
 /// A row is owned by the row above it or by the model it stands in. Each change of a row that stands
 /// in a model is told to the model's observers.
-class HOSTUI_EXPORT PropertyGridRow final : public PropertyGridPropertyInterface,
-                                            public std::enable_shared_from_this<PropertyGridRow>
+class HOSTUI_EXPORT PropertyGridRow final : public PropertyGridPropertyInterface
 {
 public:
     explicit PropertyGridRow(PropertyGridRowState state);
     ~PropertyGridRow() override;
+
+    /// This row, shared; null while only the handle that made it holds it.
+    [[nodiscard]] std::shared_ptr<PropertyGridRow> getShared();
 
     [[nodiscard]] PropertyGridRowState const& getState() const { return m_state; }
     /// The presentation of the number; null without one.

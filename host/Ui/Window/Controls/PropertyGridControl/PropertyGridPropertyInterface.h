@@ -23,6 +23,7 @@ class Window;
 
 /// One row of a property grid as a back end keeps it. `PropertyGridProperty` says what each operation means.
 class HOSTUI_EXPORT PropertyGridPropertyInterface
+    : public std::enable_shared_from_this<PropertyGridPropertyInterface>
 {
 public:
     using ButtonClickedHandlers = EventHandlerContainer<Window, void, PropertyGridProperty&>;
