@@ -189,6 +189,7 @@ StepValue ArgumentReader::readValue(unsigned int depth)
         }
         ++m_position;
         std::vector<StepValue> items;
+        items.reserve(3);
         readItems(items, depth + 1);
         return StepValue::list(std::move(items));
     }

@@ -41,6 +41,8 @@ std::uint64_t hashOf(char const* keyword, std::size_t length)
     return mixed ^ (mixed >> 29);
 }
 
+std::uint16_t tagOf(std::uint64_t hash) { return static_cast<std::uint16_t>(hash >> 48); }
+
 /// Both places have 64 readable bytes.
 bool equalBytes(char const* a, char const* b, std::size_t length)
 {
@@ -76,33 +78,41 @@ void StepKeywordTable::add(std::string_view keyword, ClassNumber number)
     entry.number = number;
     m_classCount = std::max<std::size_t>(m_classCount, std::size_t{number} + 1);
     std::size_t const slot = slotOf(entry.bytes.data(), entry.length);
-    if (m_slots[slot] != 0) {
-        m_entries[m_slots[slot] - 1U].number = number;
+    if (m_slots[slot].entry != 0) {
+        m_entries[m_slots[slot].entry - 1U].number = number;
         return;
     }
     if (m_entries.size() >= 0xfffe)
         return;
     m_entries.push_back(entry);
-    m_slots[slot] = static_cast<std::uint16_t>(m_entries.size());
-    if (m_entries.size() * 2 > m_slots.size())
+    m_slots[slot] = {tagOf(hashOf(entry.bytes.data(), entry.length)),
+                     static_cast<std::uint16_t>(m_entries.size())};
+    if (m_entries.size() * 4 > m_slots.size())
         grow();
 }
 
 void StepKeywordTable::grow()
 {
-    m_slots.assign(m_slots.size() * 4, 0);
-    for (std::size_t i = 0; i < m_entries.size(); ++i)
-        m_slots[slotOf(m_entries[i].bytes.data(), m_entries[i].length)] = static_cast<std::uint16_t>(i + 1);
+    m_slots.assign(m_slots.size() * 4, Slot());
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        Entry const& entry = m_entries[i];
+        m_slots[slotOf(entry.bytes.data(), entry.length)] = {tagOf(hashOf(entry.bytes.data(), entry.length)),
+                                                             static_cast<std::uint16_t>(i + 1)};
+    }
 }
 
 std::size_t StepKeywordTable::slotOf(char const* keyword, std::size_t length) const
 {
+    std::uint64_t const hash = hashOf(keyword, length);
     std::size_t const mask = m_slots.size() - 1;
-    auto slot = static_cast<std::size_t>(hashOf(keyword, length)) & mask;
-    while (m_slots[slot] != 0) {
-        Entry const& entry = m_entries[m_slots[slot] - 1U];
-        if (entry.length == length && equalBytes(entry.bytes.data(), keyword, length))
-            break;
+    std::uint16_t const tag = tagOf(hash);
+    auto slot = static_cast<std::size_t>(hash) & mask;
+    while (m_slots[slot].entry != 0) {
+        if (m_slots[slot].tag == tag) {
+            Entry const& entry = m_entries[m_slots[slot].entry - 1U];
+            if (entry.length == length && equalBytes(entry.bytes.data(), keyword, length))
+                break;
+        }
         slot = (slot + 1) & mask;
     }
     return slot;
@@ -112,7 +122,7 @@ StepKeywordTable::ClassNumber StepKeywordTable::findInBuffer(char const* keyword
 {
     if (length == 0 || length > inlineLength)
         return unknown;
-    std::uint16_t const found = m_slots[slotOf(keyword, length)];
+    std::uint16_t const found = m_slots[slotOf(keyword, length)].entry;
     return found == 0 ? unknown : m_entries[found - 1U].number;
 }
 

@@ -43,11 +43,19 @@ private:
         ClassNumber number = unknown;
     };
 
+    /// A part of the hash, so that only a match is compared byte by byte.
+    struct Slot
+    {
+        std::uint16_t tag = 0;
+        /// Index into `m_entries` plus 1; 0 is free.
+        std::uint16_t entry = 0;
+    };
+
     [[nodiscard]] std::size_t slotOf(char const* keyword, std::size_t length) const;
     void grow();
 
-    /// Indices into `m_entries` plus 1; 0 is free. A power of two, at most half full.
-    std::vector<std::uint16_t> m_slots;
+    /// A power of two, at most a quarter full.
+    std::vector<Slot> m_slots;
     std::vector<Entry> m_entries;
     std::size_t m_classCount = 1;
 };

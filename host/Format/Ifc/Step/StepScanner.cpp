@@ -133,7 +133,7 @@ std::size_t StepScanner::trimmedEnd(std::size_t begin, std::size_t end) const
     return end;
 }
 
-StepScanner::RecordEnd StepScanner::findEnd(std::size_t position)
+StepScanner::RecordEnd StepScanner::findUnusualEnd(std::size_t position)
 {
     bool hidApostrophe = false;
     RecordEnd const strict = findEnd(position, true, hidApostrophe);

@@ -65,13 +65,22 @@ public:
     RecordHead readHead(std::size_t position);
 
     /// Finds the end of a record, or of any statement that `;` ends, from a \p position outside texts.
-    RecordEnd findEnd(std::size_t position);
+    RecordEnd findEnd(std::size_t position)
+    {
+        // Most records hold numbers and references only: the first byte that matters ends them.
+        m_structural.seek(position);
+        std::size_t const first = m_structural.next();
+        if (m_data[first] == ';' && first < m_size)
+            return {first + 1, StepFile::Ending::Complete, true};
+        return findUnusualEnd(position);
+    }
 
     /// Whether a record or the end of the section begins at \p position, blanks aside.
     /// Used at the beginning of lines, to notice a record that was never ended.
     [[nodiscard]] bool startsStatement(std::size_t position) const;
 
 private:
+    RecordEnd findUnusualEnd(std::size_t position);
     RecordEnd findEnd(std::size_t position, bool escapesHideApostrophes, bool& hidApostrophe);
     /// Looks for the end of a text whose content begins at \p begin; the size without one.
     /// Stops at a line that begins a record, and then gives that line in \p brokenAt.
