@@ -25,25 +25,27 @@ struct PlainKind<std::optional<T>>
     using Type = T;
 };
 
-/// The number, truth value or text in \p value as a \p Wanted, where that keeps its meaning.
+template <class T>
+constexpr bool isInteger = std::is_integral_v<T> && !std::is_same_v<T, bool>;
+
+/// What is held as a \p Wanted, where that keeps its meaning.
+template <class Wanted, class Held>
+std::optional<Wanted> convertedTo(Held const& held)
+{
+    if constexpr (std::is_same_v<Held, Wanted>)
+        return held;
+    else if constexpr (std::is_same_v<Wanted, double> && isInteger<Held>)
+        return static_cast<double>(held);
+    else if constexpr (isInteger<Wanted> && isInteger<Held>)
+        return std::in_range<Wanted>(held) ? std::optional(static_cast<Wanted>(held)) : std::nullopt;
+    else
+        return std::nullopt;
+}
+
 template <class Wanted>
 std::optional<Wanted> converted(PropertyValue const& value)
 {
-    return std::visit(
-        [](auto const& held) -> std::optional<Wanted> {
-            using Held = std::decay_t<decltype(held)>;
-            if constexpr (std::is_same_v<Held, Wanted>)
-                return held;
-            else if constexpr (std::is_same_v<Wanted, double> && std::is_integral_v<Held> &&
-                               !std::is_same_v<Held, bool>)
-                return static_cast<double>(held);
-            else if constexpr (std::is_integral_v<Wanted> && !std::is_same_v<Wanted, bool> &&
-                               std::is_integral_v<Held> && !std::is_same_v<Held, bool>)
-                return std::in_range<Wanted>(held) ? std::optional(static_cast<Wanted>(held)) : std::nullopt;
-            else
-                return std::nullopt;
-        },
-        value.variant());
+    return std::visit([](auto const& held) { return convertedTo<Wanted>(held); }, value.variant());
 }
 
 } // namespace

@@ -35,14 +35,17 @@ void Assert::addAssert(AssertInfo const& info)
               << ")\n";
 }
 
-Assert::Handler Assert::setHandler(Handler handler) { return std::exchange(state().handler, std::move(handler)); }
+Assert::Handler Assert::setHandler(Handler handler)
+{
+    return std::exchange(state().handler, std::move(handler));
+}
 
 void report(std::string_view text, std::string_view function, std::string_view path, unsigned int kind,
-            std::source_location location)
+            unsigned int line)
 {
     if (!Assert::isEnabled())
         return;
-    Assert::addAssert({kind, std::string(text), std::string(function), std::string(path), location.line()});
+    Assert::addAssert({kind, std::string(text), std::string(function), std::string(path), line});
 }
 
 } // namespace qev::assert

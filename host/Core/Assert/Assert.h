@@ -3,7 +3,6 @@
 #include "HostCoreExport.h"
 
 #include <functional>
-#include <source_location>
 #include <string>
 #include <string_view>
 
@@ -42,9 +41,9 @@ public:
     static Handler setHandler(Handler handler);
 };
 
-/// Reports \p text for \p function in \p path, when reports are enabled.
+/// Reports \p text for \p function in \p path, when reports are enabled. The line is that of the caller;
+/// GCC, Clang and MSVC all have the builtin, while not each of them has `std::source_location`.
 HOSTCORE_EXPORT void report(std::string_view text, std::string_view function, std::string_view path,
-                            unsigned int kind = 0,
-                            std::source_location location = std::source_location::current());
+                            unsigned int kind = 0, unsigned int line = __builtin_LINE());
 
 } // namespace qev::assert

@@ -21,8 +21,8 @@ QppSettings geographicSettings(QuantityBase const& planeAngle)
 
 } // namespace
 
-QppBase::QppBase(QppSettings defaults)
-    : m_defaults(std::move(defaults))
+QppBase::QppBase(QppSettings const& defaults)
+    : m_defaults(defaults)
 {
 }
 
@@ -34,14 +34,14 @@ QppSettings const& QppBase::settingsFromContext(std::string const& context) cons
     return entry == m_settings.end() ? m_defaults : entry->second;
 }
 
-bool QppBase::setSettings(std::string const& context, QppSettings settings)
+bool QppBase::setSettings(std::string const& context, QppSettings const& settings)
 {
     if (&settings.quantity() != &quantity())
         return false;
     if (context.empty())
-        m_defaults = std::move(settings);
+        m_defaults = settings;
     else
-        m_settings.insert_or_assign(context, std::move(settings));
+        m_settings.insert_or_assign(context, settings);
     return true;
 }
 

@@ -16,7 +16,7 @@ class QppRegistration;
 class HOSTCORE_EXPORT QppBase
 {
 public:
-    explicit QppBase(QppSettings defaults);
+    explicit QppBase(QppSettings const& defaults);
     QppBase(QppBase const&) = delete;
     QppBase& operator=(QppBase const&) = delete;
     virtual ~QppBase();
@@ -28,7 +28,7 @@ public:
 
     /// Sets the settings of \p context; those of the empty one are the default.
     /// Settings of another quantity are refused. Presentations made before keep what they have.
-    bool setSettings(std::string const& context, QppSettings settings);
+    bool setSettings(std::string const& context, QppSettings const& settings);
 
     /// The parameters known to the program.
     static QppRegistration const& registration();

@@ -23,7 +23,7 @@ constexpr double offsetNoise = 1e-12;
 /// All doubles differ in this many digits.
 constexpr int distinctDigits = 17;
 constexpr int firstDigitsTried = 6;
-constexpr long long sixteenthsInFoot = 12 * 16;
+constexpr long long sixteenthsInFoot = 192;
 
 void trimZeros(std::string& text)
 {

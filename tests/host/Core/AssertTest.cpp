@@ -14,6 +14,15 @@ TEST(Assert, AReportCarriesTextFunctionAndPath)
     test::expectReport("Something is wrong.", "qev::f", "Core/F");
 }
 
+TEST(Assert, AReportCarriesTheLineOfItsCaller)
+{
+    unsigned int const line = __LINE__ + 1;
+    assert::report("Something is wrong.", "qev::f", "Core/F");
+    auto const reports = test::takeReports();
+    ASSERT_EQ(reports.size(), 1u);
+    EXPECT_EQ(reports.front().line, line);
+}
+
 TEST(Assert, ADisabledReportIsDropped)
 {
     assert::Assert::setEnabled(false);
