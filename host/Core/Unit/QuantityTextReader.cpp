@@ -216,11 +216,12 @@ std::optional<double> QuantityTextReader::readFraction()
     if (numerator.empty() || slash >= m_text.size() || m_text[slash] != '/')
         return std::nullopt;
     auto const denominator = digitsAt(slash + 1);
+    auto const dividend = str::parseDouble(numerator);
     auto const divisor = str::parseDouble(denominator);
-    if (!divisor || *divisor == 0)
+    if (!dividend || !divisor || *divisor == 0)
         return std::nullopt;
     m_position = slash + 1 + denominator.size();
-    return *str::parseDouble(numerator) / *divisor;
+    return *dividend / *divisor;
 }
 
 /// The digits, signs and exponent of a number, whether they form one or not.

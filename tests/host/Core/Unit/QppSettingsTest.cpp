@@ -8,6 +8,7 @@
 #include <limits>
 #include <numbers>
 #include <random>
+#include <string_view>
 
 namespace {
 
@@ -236,6 +237,32 @@ TEST(QppSettingsParse, OtherTextsAreRefused)
          {"",      " ",   "abc", "m",    "2.5 x",  "2.5 m x", "2.5 kg", "2..5",  "-", "--2", "1e",
           "1e999", "nan", "inf", "0x10", "2.5mm2", "2 5",     "'",      "1/2/3", ".", ","})
         EXPECT_FALSE(readLength(text)) << text;
+}
+
+TEST(QppSettingsParse, AnyTextGivesAFiniteNumberOrNothing)
+{
+    static constexpr std::string_view pieces[] = {"0", "1",  "9",  "25", ".",    ",",    "-", "+",
+                                                  "'", "\"", "/",  " ",  "e",    "E",    "m", "mm",
+                                                  "f", "t",  "in", "°",  "\xC2", "\xFF", "\0"};
+    std::mt19937 random(1);
+    std::uniform_int_distribution<std::size_t> piece(0, std::size(pieces) - 1);
+    std::uniform_int_distribution<int> count(1, 12);
+    auto const settings = settingsOf<LengthUnit>();
+    int understood = 0;
+    for (int i = 0; i < 5000; ++i) {
+        std::string text;
+        for (int left = count(random); left > 0; --left)
+            text += pieces[piece(random)];
+        auto const value = settings.parse(text, LengthUnit::get());
+        EXPECT_TRUE(!value || std::isfinite(*value)) << text;
+        understood += value.has_value() ? 1 : 0;
+    }
+    EXPECT_GT(understood, 0);
+    std::string const manyDigits(1000, '9');
+    EXPECT_FALSE(settings.parse(manyDigits, LengthUnit::get()));
+    EXPECT_FALSE(settings.parse(manyDigits + "/" + manyDigits, LengthUnit::get()));
+    EXPECT_FALSE(settings.parse("1 1/" + manyDigits + " m", LengthUnit::get()));
+    EXPECT_FALSE(settings.parse("1e" + manyDigits, LengthUnit::get()));
 }
 
 TEST(QppSettingsParse, NegativeZeroIsZero) { EXPECT_FALSE(std::signbit(*readLength("-0"))); }

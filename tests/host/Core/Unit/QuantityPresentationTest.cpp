@@ -133,6 +133,12 @@ TEST(MeasurePresentation, FollowsTheTypeOfTheMeasure)
     EXPECT_EQ(shown("WarpingMomentMeasure", 1), "1 N·m²");
 }
 
+TEST(MeasurePresentation, TheUnitIsTheOneInstanceInAllLibraries)
+{
+    EXPECT_EQ(&createPresentationForMeasure("LengthMeasure")->unit(), &LengthUnit::get());
+    EXPECT_EQ(&createPresentationForMeasure("PowerMeasure")->unit().quantity(), &PowerUnit::get().quantity());
+}
+
 TEST(MeasurePresentation, ThereIsNoneForOtherTypes)
 {
     EXPECT_EQ(createPresentationForMeasure("Label"), nullptr);
