@@ -1,0 +1,109 @@
+#include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
+
+#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
+#include "Ui/Qt/QtText.h"
+
+#include <QDataStream>
+#include <QEvent>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+namespace qev::ui {
+
+namespace {
+
+constexpr quint32 layoutMark = 0x51475231;
+
+QString getDescriptionHtml(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    auto const description = toQString(state.description).toHtmlEscaped().replace('\n', "<br>");
+    return "<b>" + toQString(state.name).toHtmlEscaped() + "</b><br>" + description;
+}
+
+} // namespace
+
+QtPropertyGrid::QtPropertyGrid(QWidget* parent)
+    : QWidget(parent)
+    , m_rows(std::make_shared<PropertyGridModel>())
+    , m_itemModel(new QtPropertyGridItemModel(m_rows, this))
+    , m_view(new QtPropertyGridView(*m_itemModel))
+    , m_description(new QTextBrowser)
+    , m_splitter(new QSplitter(Qt::Vertical))
+{
+    m_description->setOpenLinks(false);
+    m_description->setFocusPolicy(Qt::ClickFocus);
+    m_splitter->addWidget(m_view);
+    m_splitter->addWidget(m_description);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setStretchFactor(1, 0);
+    m_splitter->setCollapsible(0, false);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_splitter);
+    setFocusProxy(m_view);
+    applyFontMeasures();
+    m_view->onCurrentRowChanged.iHandlerAdd([this](QModelIndex const&) { updateDescription(); });
+    connect(m_itemModel, &QAbstractItemModel::dataChanged, this, &QtPropertyGrid::updateDescription);
+    connect(m_itemModel, &QAbstractItemModel::modelReset, this, &QtPropertyGrid::updateDescription);
+}
+
+QtPropertyGrid::~QtPropertyGrid() = default;
+
+void QtPropertyGrid::adjustLayout()
+{
+    m_view->restorePlace();
+    updateDescription();
+}
+
+QString QtPropertyGrid::getDescriptionText() const { return m_description->toPlainText(); }
+
+void QtPropertyGrid::showDescription(bool shown) { m_description->setVisible(shown); }
+
+QByteArray QtPropertyGrid::saveLayout() const
+{
+    QByteArray layout;
+    QDataStream stream(&layout, QIODevice::WriteOnly);
+    stream << layoutMark << m_view->getSplit() << m_splitter->saveState();
+    return layout;
+}
+
+bool QtPropertyGrid::restoreLayout(QByteArray const& layout)
+{
+    QDataStream stream(layout);
+    quint32 mark = 0;
+    double split = 0;
+    QByteArray splitterState;
+    stream >> mark >> split >> splitterState;
+    if (stream.status() != QDataStream::Ok || mark != layoutMark)
+        return false;
+    m_view->setSplit(split);
+    return m_splitter->restoreState(splitterState);
+}
+
+void QtPropertyGrid::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        applyFontMeasures();
+}
+
+void QtPropertyGrid::updateDescription()
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(m_view->currentIndex());
+    auto const html = row ? getDescriptionHtml(*row) : QString();
+    if (m_description->property("shownHtml").toString() == html)
+        return;
+    m_description->setProperty("shownHtml", html);
+    m_description->setHtml(html);
+}
+
+void QtPropertyGrid::applyFontMeasures()
+{
+    auto const line = fontMetrics().lineSpacing();
+    m_description->setMinimumHeight(2 * line);
+    m_splitter->setSizes({20 * line, 4 * line});
+}
+
+} // namespace qev::ui

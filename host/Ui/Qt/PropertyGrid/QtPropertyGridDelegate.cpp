@@ -1,0 +1,373 @@
+#include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
+
+#include "Ui/PropertyGrid/PropertyGridEditing.h"
+#include "Ui/PropertyGrid/PropertyGridNumber.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/QtText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QStandardItemModel>
+#include <QToolTip>
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+using Kind = PropertyGridRowState::Kind;
+
+/// The editor remembers here what it opened with, to tell an untouched one.
+constexpr auto openedWithProperty = "openedWith";
+
+QStyle* getStyle(QStyleOptionViewItem const& option)
+{
+    return option.widget ? option.widget->style() : QApplication::style();
+}
+
+QPalette::ColorGroup getColourGroup(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    if (!row.getState().enabled)
+        return QPalette::Disabled;
+    return option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+}
+
+QColor toQColor(attr::Colour const& colour) { return {colour.red, colour.green, colour.blue, colour.alpha}; }
+
+/// What lies behind the texts of a row.
+QColor getBackground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    auto const group = getColourGroup(option, row);
+    if (option.state.testFlag(QStyle::State_Selected))
+        return option.palette.color(group, QPalette::Highlight);
+    if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0)
+        return toQColor(*colour);
+    return option.palette.color(group, QPalette::Base);
+}
+
+QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    auto const group = getColourGroup(option, row);
+    if (option.state.testFlag(QStyle::State_Selected))
+        return option.palette.color(group, QPalette::HighlightedText);
+    if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0) {
+        auto const readable = QtPropertyGridDelegate::getReadableOn(toQColor(*colour));
+        return row.getState().enabled ? readable
+                                      : QtPropertyGridDelegate::getMuted(readable, toQColor(*colour));
+    }
+    return option.palette.color(group, QPalette::Text);
+}
+
+QFont getFont(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    auto font = option.font;
+    font.setBold(row.getState().bold || row.getState().kind == Kind::Group);
+    return font;
+}
+
+QString getOneLine(QString text)
+{
+    return text.replace(QLatin1String("\r\n"), QLatin1String(" "))
+        .replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+/// The shown text of a value, split into what comes before the unit and the unit.
+std::pair<QString, QString> splitUnit(PropertyGridRow const& row)
+{
+    auto const text = getOneLine(toQString(PropertyGridEditing::getDisplayedText(row)));
+    auto const unit = toQString(PropertyGridNumber::getUnit(row.getQuantityPresentation()));
+    if (unit.isEmpty() || !text.endsWith(unit))
+        return {text, {}};
+    return {text.chopped(unit.size()), unit};
+}
+
+void paintCheckBox(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row,
+                   QRect const& area)
+{
+    QStyleOptionButton box;
+    box.rect = area;
+    box.palette = option.palette;
+    if (PropertyGridEditing::canClickCheckBox(row))
+        box.state = option.state & ~QStyle::State_HasFocus & ~QStyle::State_Selected;
+    box.state.setFlag(QStyle::State_Enabled, PropertyGridEditing::canClickCheckBox(row));
+    switch (row.getState().checkState) {
+    case CheckState::Checked:
+        box.state |= QStyle::State_On;
+        break;
+    case CheckState::Unchecked:
+        box.state |= QStyle::State_Off;
+        break;
+    case CheckState::Indeterminate:
+        box.state |= QStyle::State_NoChange;
+        break;
+    }
+    getStyle(option)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
+}
+
+void paintArrow(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row,
+                QRect const& area)
+{
+    auto const size = option.fontMetrics.xHeight();
+    auto const centre = QRectF(area).center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(QtPropertyGridDelegate::getMuted(getForeground(option, row), getBackground(option, row)));
+    pen.setWidthF(std::max(1.0, size / 6.0));
+    painter.setPen(pen);
+    QPointF const points[] = {{centre.x() - size / 2.0, centre.y() - size / 4.0},
+                              {centre.x(), centre.y() + size / 4.0},
+                              {centre.x() + size / 2.0, centre.y() - size / 4.0}};
+    painter.drawPolyline(points, 3);
+    painter.restore();
+}
+
+void paintButton(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row,
+                 QRect const& area)
+{
+    QStyleOptionButton button;
+    button.rect = area.adjusted(0, 1, -1, -1);
+    button.palette = option.palette;
+    button.fontMetrics = option.fontMetrics;
+    button.text = QStringLiteral("…");
+    button.state = QStyle::State_Raised;
+    button.state.setFlag(QStyle::State_Enabled, PropertyGridEditing::canPressButton(row));
+    getStyle(option)->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
+}
+
+QString getComboText(QComboBox const& combo)
+{
+    return combo.isEditable() ? combo.currentText() : combo.itemText(combo.currentIndex());
+}
+
+} // namespace
+
+QtPropertyGridDelegate::QtPropertyGridDelegate(QObject* parent)
+    : QStyledItemDelegate(parent)
+{
+}
+
+QtPropertyGridDelegate::~QtPropertyGridDelegate() = default;
+
+QColor QtPropertyGridDelegate::getMuted(QColor const& foreground, QColor const& background)
+{
+    constexpr float share = 0.65F;
+    auto const mix = [](float front, float back) { return share * front + (1 - share) * back; };
+    return QColor::fromRgbF(mix(foreground.redF(), background.redF()),
+                            mix(foreground.greenF(), background.greenF()),
+                            mix(foreground.blueF(), background.blueF()));
+}
+
+QColor QtPropertyGridDelegate::getReadableOn(QColor const& background)
+{
+    auto const linear = [](float part) {
+        return part <= 0.04045F ? part / 12.92F : std::pow((part + 0.055F) / 1.055F, 2.4F);
+    };
+    auto const luminance = 0.2126F * linear(background.redF()) + 0.7152F * linear(background.greenF()) +
+                           0.0722F * linear(background.blueF());
+    // Here the contrast to black equals that to white.
+    constexpr float turningPoint = 0.179F;
+    return luminance > turningPoint ? QColor(Qt::black) : QColor(Qt::white);
+}
+
+void QtPropertyGridDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option,
+                                   QModelIndex const& index) const
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (!row || row->getState().kind == Kind::EmptyLine)
+        return;
+    painter->save();
+    painter->setClipRect(option.rect);
+    auto const font = getFont(option, *row);
+    painter->setFont(font);
+    auto cell = option;
+    cell.font = font;
+    cell.fontMetrics = QFontMetrics(font);
+    if (option.state.testFlag(QStyle::State_Selected))
+        painter->fillRect(option.rect, getBackground(option, *row));
+    if (index.column() == QtPropertyGridItemModel::nameColumn)
+        paintName(*painter, cell, *row);
+    else
+        paintValue(*painter, cell, *row);
+    painter->restore();
+}
+
+QSize QtPropertyGridDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const
+{
+    auto const lineHeight = option.fontMetrics.height();
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (row && row->getState().kind == Kind::EmptyLine)
+        return {0, lineHeight / 2};
+    auto const boxHeight = getStyle(option)->pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget);
+    return {10 * option.fontMetrics.averageCharWidth(), std::max(lineHeight, boxHeight) + lineHeight / 2};
+}
+
+QWidget* QtPropertyGridDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const& /*option*/,
+                                              QModelIndex const& index) const
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (!row)
+        return nullptr;
+    switch (PropertyGridEditing::getValueEditor(*row)) {
+    case PropertyGridEditor::Text:
+    case PropertyGridEditor::Number: {
+        auto* const editor = new QLineEdit(parent);
+        editor->setFrame(false);
+        return editor;
+    }
+    case PropertyGridEditor::Choice:
+        return createChoiceEditor(parent, *row);
+    default:
+        return nullptr;
+    }
+}
+
+void QtPropertyGridDelegate::setEditorData(QWidget* editor, QModelIndex const& index) const
+{
+    // A change of the row from elsewhere does not overwrite what the user has begun to type.
+    if (editor->property(openedWithProperty).isValid())
+        return;
+    auto const text = index.data(Qt::EditRole).toString();
+    editor->setProperty(openedWithProperty, text);
+    if (auto* const line = qobject_cast<QLineEdit*>(editor)) {
+        line->setText(text);
+        line->selectAll();
+    } else if (auto* const combo = qobject_cast<QComboBox*>(editor)) {
+        combo->setCurrentIndex(combo->findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+        if (combo->isEditable()) {
+            combo->setEditText(text);
+            combo->lineEdit()->selectAll();
+        } else {
+            combo->setPlaceholderText(text);
+        }
+    }
+}
+
+void QtPropertyGridDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                          QModelIndex const& index) const
+{
+    auto const openedWith = editor->property(openedWithProperty).toString();
+    QString text = openedWith;
+    if (auto const* const line = qobject_cast<QLineEdit*>(editor))
+        text = line->text();
+    else if (auto const* const combo = qobject_cast<QComboBox*>(editor))
+        text = !combo->isEditable() && combo->currentIndex() < 0 ? openedWith : getComboText(*combo);
+    if (text != openedWith)
+        model->setData(index, text, Qt::EditRole);
+}
+
+void QtPropertyGridDelegate::updateEditorGeometry(QWidget* editor, QStyleOptionViewItem const& option,
+                                                  QModelIndex const& index) const
+{
+    if (auto const* const row = QtPropertyGridItemModel::getRow(index))
+        editor->setGeometry(QtPropertyGridLayout::of(*row, option).value);
+}
+
+bool QtPropertyGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                       QStyleOptionViewItem const& option, QModelIndex const& index)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (!row || event->type() != QEvent::ToolTip)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    auto const shown = index.data(Qt::DisplayRole).toString();
+    QFontMetrics const metrics(getFont(option, *row));
+    QString text;
+    auto const room = QtPropertyGridLayout::of(*row, option).value.width();
+    if (metrics.horizontalAdvance(shown) + 2 * QtPropertyGridLayout::getTextMargin(option) > room)
+        text = shown;
+    if (index.column() == QtPropertyGridItemModel::nameColumn && !row->getState().description.empty())
+        text = toQString(row->getState().name + "\n" + row->getState().description);
+    QToolTip::showText(event->globalPos(), text.isEmpty() ? text : text.toHtmlEscaped().replace('\n', "<br>"),
+                       view);
+    return true;
+}
+
+void QtPropertyGridDelegate::initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->features &= ~QStyleOptionViewItem::HasCheckIndicator;
+}
+
+bool QtPropertyGridDelegate::editorEvent(QEvent* /*event*/, QAbstractItemModel* /*model*/,
+                                         QStyleOptionViewItem const& /*option*/, QModelIndex const& /*index*/)
+{
+    return false;
+}
+
+void QtPropertyGridDelegate::paintName(QPainter& painter, QStyleOptionViewItem const& option,
+                                       PropertyGridRow const& row) const
+{
+    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto const indentation =
+        static_cast<int>(row.getState().nameIndentationInCharacters) * option.fontMetrics.averageCharWidth();
+    auto const area = option.rect.adjusted(margin + indentation, 0, -margin, 0);
+    auto const text = option.fontMetrics.elidedText(getOneLine(toQString(row.getState().name)),
+                                                    Qt::ElideRight, area.width());
+    painter.setPen(getForeground(option, row));
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
+}
+
+void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem const& option,
+                                        PropertyGridRow const& row) const
+{
+    auto const layout = QtPropertyGridLayout::of(row, option);
+    if (!layout.checkBox.isEmpty())
+        paintCheckBox(painter, option, row, layout.checkBox);
+    if (!layout.button.isEmpty())
+        paintButton(painter, option, row, layout.button);
+    if (!layout.arrow.isEmpty())
+        paintArrow(painter, option, row, layout.arrow);
+
+    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto area = layout.value.adjusted(margin, 0, -margin, 0);
+    if (!layout.arrow.isEmpty())
+        area.setRight(layout.arrow.left() - 1);
+    auto const [value, unit] = splitUnit(row);
+    auto const& metrics = option.fontMetrics;
+    auto const unitWidth = metrics.horizontalAdvance(unit);
+    auto const elided = metrics.elidedText(value, Qt::ElideRight, std::max(0, area.width() - unitWidth));
+    auto const valueWidth = metrics.horizontalAdvance(elided);
+    auto left = area.left();
+    if (row.getState().alignment == PropertyGridAlignment::Right)
+        left = std::max(left, area.right() + 1 - valueWidth - unitWidth);
+
+    constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
+    auto const foreground = getForeground(option, row);
+    painter.setPen(foreground);
+    painter.drawText(QRect(left, area.top(), area.right() + 1 - left, area.height()), flags, elided);
+    painter.setPen(getMuted(foreground, getBackground(option, row)));
+    painter.drawText(QRect(left + valueWidth, area.top(), unitWidth + margin, area.height()), flags, unit);
+}
+
+QWidget* QtPropertyGridDelegate::createChoiceEditor(QWidget* parent, PropertyGridRow const& row) const
+{
+    auto* const combo = new QComboBox(parent);
+    combo->setFrame(false);
+    combo->setEditable(PropertyGridEditing::canTypeFreely(row));
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    if (combo->isEditable()) {
+        // What is typed stays as typed, also where it begins like an entry.
+        combo->setCompleter(nullptr);
+        combo->lineEdit()->setFrame(false);
+    }
+    for (auto const& option : row.getState().options) {
+        combo->addItem(toQString(option.text));
+        auto* const items = qobject_cast<QStandardItemModel*>(combo->model());
+        if (items && !option.enabled)
+            items->item(items->rowCount() - 1)->setEnabled(false);
+    }
+    auto* const self = const_cast<QtPropertyGridDelegate*>(this);
+    connect(combo, &QComboBox::activated, self, [self, combo] {
+        emit self->commitData(combo);
+        emit self->closeEditor(combo);
+    });
+    return combo;
+}
+
+} // namespace qev::ui

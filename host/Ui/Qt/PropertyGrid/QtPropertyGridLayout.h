@@ -1,0 +1,28 @@
+#pragma once
+
+#include "HostUiQtExport.h"
+#include "Ui/PropertyGrid/PropertyGridRow.h"
+
+#include <QRect>
+#include <QStyleOptionViewItem>
+
+namespace qev::ui {
+
+/// Where the parts of one value cell stand. Rectangles of parts that a row does not have are empty.
+struct HOSTUIQT_EXPORT QtPropertyGridLayout
+{
+    QRect checkBox;
+    /// Where the value is written and edited.
+    QRect value;
+    /// The mark of a drop list.
+    QRect arrow;
+    QRect button;
+
+    /// The parts of \p row in the cell of \p option, from the measures of the widget's style.
+    [[nodiscard]] static QtPropertyGridLayout of(PropertyGridRow const& row,
+                                                 QStyleOptionViewItem const& option);
+    /// The room to the left and right of a text in a cell.
+    [[nodiscard]] static int getTextMargin(QStyleOptionViewItem const& option);
+};
+
+} // namespace qev::ui

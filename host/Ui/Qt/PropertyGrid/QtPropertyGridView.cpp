@@ -1,0 +1,496 @@
+#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
+
+#include "Ui/PropertyGrid/PropertyGridEditing.h"
+#include "Ui/PropertyGrid/PropertyGridRowRecord.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridClipboard.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/QtText.h"
+
+#include <algorithm>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+using Kind = PropertyGridRowState::Kind;
+constexpr auto nameColumn = QtPropertyGridItemModel::nameColumn;
+constexpr auto valueColumn = QtPropertyGridItemModel::valueColumn;
+constexpr double leastSplit = 0.1;
+constexpr int messageMilliseconds = 6000;
+
+QColor mix(QColor const& front, QColor const& back, double share)
+{
+    auto const part = [share](int frontPart, int backPart) {
+        return static_cast<int>(share * frontPart + (1 - share) * backPart);
+    };
+    return {part(front.red(), back.red()), part(front.green(), back.green()),
+            part(front.blue(), back.blue())};
+}
+
+bool isEditable(QModelIndex const& index)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    return row && PropertyGridEditing::getEditor(*row) != PropertyGridEditor::None;
+}
+
+bool hasValueEditor(QModelIndex const& index)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    return row && PropertyGridEditing::getValueEditor(*row) != PropertyGridEditor::None;
+}
+
+} // namespace
+
+QtPropertyGridView::QtPropertyGridView(QtPropertyGridItemModel& rows, QWidget* parent)
+    : QTreeView(parent)
+    , m_rows(rows)
+    , m_message(new QLabel(this))
+{
+    setItemDelegate(new QtPropertyGridDelegate(this));
+    setModel(&rows);
+    setEditTriggers(EditKeyPressed | AnyKeyPressed);
+    setSelectionMode(ExtendedSelection);
+    setAllColumnsShowFocus(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideRight);
+    setMouseTracking(true);
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(true);
+    header()->setHighlightSections(false);
+    applyFontMeasures();
+
+    m_message->setObjectName(QStringLiteral("message"));
+    m_message->setWordWrap(true);
+    m_message->setAutoFillBackground(true);
+    m_message->setFrameShape(QFrame::Box);
+    m_message->hide();
+    m_messageTimer.setSingleShot(true);
+    connect(&m_messageTimer, &QTimer::timeout, this, &QtPropertyGridView::hideMessage);
+    m_restoreTimer.setSingleShot(true);
+    m_restoreTimer.setInterval(0);
+    connect(&m_restoreTimer, &QTimer::timeout, this, &QtPropertyGridView::restorePlace);
+
+    rows.onInputRefused.iHandlerAdd([this](QString const& message) { showMessage(message); });
+    connect(&rows, &QAbstractItemModel::modelAboutToBeReset, this, &QtPropertyGridView::keepPlace);
+    connect(this, &QTreeView::collapsed, this, [this](QModelIndex const& index) { setFolded(index, true); });
+    connect(this, &QTreeView::expanded, this, [this](QModelIndex const& index) { setFolded(index, false); });
+    connect(header(), &QHeaderView::sectionResized, this, &QtPropertyGridView::takeSplitFromHeader);
+}
+
+QtPropertyGridView::~QtPropertyGridView() = default;
+
+void QtPropertyGridView::setModel(QAbstractItemModel* model)
+{
+    QTreeView::setModel(model);
+    for (int position = 0; model && position < model->rowCount(); ++position)
+        dressRow(model->index(position, nameColumn));
+}
+
+void QtPropertyGridView::setSplit(double split)
+{
+    m_split = std::clamp(split, leastSplit, 1 - leastSplit);
+    applySplit();
+}
+
+void QtPropertyGridView::restorePlace()
+{
+    m_restoreTimer.stop();
+    auto const place = std::exchange(m_place, std::nullopt);
+    if (!place)
+        return;
+    if (auto const index = findIndex(place->current); index.isValid())
+        setCurrentIndex(index);
+    executeDelayedItemsLayout();
+    updateGeometries();
+    verticalScrollBar()->setValue(place->scroll);
+}
+
+void QtPropertyGridView::copySelection()
+{
+    auto indexes = selectionModel()->selectedRows();
+    if (indexes.isEmpty())
+        return;
+    std::sort(indexes.begin(), indexes.end(), [this](QModelIndex const& left, QModelIndex const& right) {
+        return visualRect(left).top() < visualRect(right).top();
+    });
+    std::vector<PropertyGridRow const*> rows;
+    for (auto const& index : std::as_const(indexes))
+        rows.push_back(QtPropertyGridItemModel::getRow(index));
+    QApplication::clipboard()->setMimeData(QtPropertyGridClipboard::make(rows).release());
+}
+
+bool QtPropertyGridView::openEditor(QModelIndex const& index, bool withChoices)
+{
+    auto const value = index.siblingAtColumn(valueColumn);
+    if (!edit(value, AllEditTriggers, nullptr))
+        return false;
+    if (auto* const combo = qobject_cast<QComboBox*>(indexWidget(value)); combo && withChoices)
+        combo->showPopup();
+    return true;
+}
+
+QString QtPropertyGridView::getMessage() const
+{
+    return m_message->isHidden() ? QString() : m_message->text();
+}
+
+bool QtPropertyGridView::edit(QModelIndex const& index, EditTrigger trigger, QEvent* event)
+{
+    // Rows are edited, whichever of their cells is current.
+    auto const value = index.siblingAtColumn(valueColumn);
+    if (!QTreeView::edit(value, trigger, event))
+        return false;
+    if (state() == EditingState) {
+        hideMessage();
+        m_edited = getPath(value);
+    }
+    return true;
+}
+
+void QtPropertyGridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    using Delegate = QAbstractItemDelegate;
+    auto const isMove = hint == Delegate::EditNextItem || hint == Delegate::EditPreviousItem;
+    QTreeView::closeEditor(editor, isMove ? Delegate::NoHint : hint);
+    if (!isMove)
+        return;
+    // The commit may have made the rows anew.
+    restorePlace();
+    setFocus();
+    moveToEditableRow(findIndex(m_edited), hint == Delegate::EditNextItem, true);
+}
+
+void QtPropertyGridView::currentChanged(QModelIndex const& current, QModelIndex const& previous)
+{
+    QTreeView::currentChanged(current, previous);
+    fireEvents(onCurrentRowChanged, current);
+}
+
+void QtPropertyGridView::rowsInserted(QModelIndex const& parent, int start, int end)
+{
+    QTreeView::rowsInserted(parent, start, end);
+    if (parent.isValid())
+        dressRow(parent);
+    for (int position = start; position <= end; ++position)
+        dressRow(m_rows.index(position, nameColumn, parent));
+    if (m_place)
+        m_restoreTimer.start();
+}
+
+void QtPropertyGridView::drawRow(QPainter* painter, QStyleOptionViewItem const& option,
+                                 QModelIndex const& index) const
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (!row)
+        return;
+    auto const& rowState = row->getState();
+    auto const base = palette().color(QPalette::Base);
+    auto const text = palette().color(QPalette::Text);
+    if (auto const colour = rowState.backgroundColour)
+        painter->fillRect(option.rect, QColor(colour->red, colour->green, colour->blue, colour->alpha));
+    else if (rowState.kind == Kind::Group)
+        painter->fillRect(option.rect, mix(text, base, 0.07));
+    QTreeView::drawRow(painter, option, index);
+    if (rowState.kind == Kind::EmptyLine)
+        return;
+
+    painter->save();
+    painter->setPen(mix(text, base, 0.14));
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    if (rowState.kind != Kind::Group) {
+        auto const x = columnViewportPosition(valueColumn) - 1;
+        painter->drawLine(x, option.rect.top(), x, option.rect.bottom());
+    }
+    if (rowState.horizontalLine) {
+        painter->setPen(QPen(mix(text, base, 0.6), 1));
+        if (*rowState.horizontalLine != PropertyGridHorizontalLine::Below)
+            painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+        if (*rowState.horizontalLine != PropertyGridHorizontalLine::Above)
+            painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+    painter->restore();
+}
+
+void QtPropertyGridView::keyPressEvent(QKeyEvent* event)
+{
+    hideMessage();
+    if (handleKey(*event))
+        event->accept();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+bool QtPropertyGridView::focusNextPrevChild(bool next)
+{
+    return moveToEditableRow(currentIndex(), next, false) || QTreeView::focusNextPrevChild(next);
+}
+
+void QtPropertyGridView::mousePressEvent(QMouseEvent* event)
+{
+    hideMessage();
+    if (event->button() == Qt::LeftButton && isOnSplit(event->pos())) {
+        m_isDraggingSplit = true;
+        return;
+    }
+    QTreeView::mousePressEvent(event);
+    m_pressed = event->button() == Qt::LeftButton ? indexAt(event->pos()) : QModelIndex();
+}
+
+void QtPropertyGridView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_isDraggingSplit) {
+        header()->resizeSection(nameColumn, event->pos().x() - columnViewportPosition(nameColumn));
+        return;
+    }
+    if (isOnSplit(event->pos()))
+        viewport()->setCursor(Qt::SplitHCursor);
+    else
+        viewport()->unsetCursor();
+    QTreeView::mouseMoveEvent(event);
+}
+
+void QtPropertyGridView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (std::exchange(m_isDraggingSplit, false))
+        return;
+    QTreeView::mouseReleaseEvent(event);
+    QPersistentModelIndex const pressed = std::exchange(m_pressed, {});
+    auto const index = indexAt(event->pos());
+    if (index.isValid() && index == pressed && index.column() == valueColumn &&
+        event->modifiers() == Qt::NoModifier)
+        clickValue(index, event->pos());
+}
+
+void QtPropertyGridView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    auto const index = indexAt(event->pos());
+    // In the value cell a double click is two clicks, as on any check box or button.
+    if (index.isValid() && index.column() == valueColumn)
+        m_pressed = index;
+    else
+        QTreeView::mouseDoubleClickEvent(event);
+}
+
+void QtPropertyGridView::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    applySplit();
+}
+
+void QtPropertyGridView::changeEvent(QEvent* event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        applyFontMeasures();
+}
+
+QtPropertyGridView::Path QtPropertyGridView::getPath(QModelIndex const& index)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    return row ? PropertyGridRowRecord::getPath(*row) : Path();
+}
+
+QModelIndex QtPropertyGridView::findIndex(Path const& path) const
+{
+    QModelIndex found;
+    for (auto const& name : path) {
+        QModelIndex next;
+        for (int position = 0; !next.isValid() && position < m_rows.rowCount(found); ++position) {
+            auto const candidate = m_rows.index(position, nameColumn, found);
+            if (QtPropertyGridItemModel::getRow(candidate)->getName() == name)
+                next = candidate;
+        }
+        if (!next.isValid())
+            return {};
+        found = next;
+    }
+    return found;
+}
+
+QModelIndex QtPropertyGridView::getCurrentValueIndex() const
+{
+    return currentIndex().siblingAtColumn(valueColumn);
+}
+
+void QtPropertyGridView::keepPlace()
+{
+    hideMessage();
+    m_pressed = QModelIndex();
+    // Emptied twice in a row, the grid still means the place of the rows that were there.
+    if (m_rows.rowCount() != 0)
+        m_place = Place{getPath(currentIndex()), verticalScrollBar()->value()};
+}
+
+void QtPropertyGridView::dressRow(QModelIndex const& index)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (row->getState().kind == Kind::Group)
+        setFirstColumnSpanned(index.row(), index.parent(), true);
+    if (row->getChildren().empty())
+        return;
+    m_isDressing = true;
+    setExpanded(index, !m_folded.contains(getPath(index)));
+    m_isDressing = false;
+    for (int position = 0; position < m_rows.rowCount(index); ++position)
+        dressRow(m_rows.index(position, nameColumn, index));
+}
+
+void QtPropertyGridView::setFolded(QModelIndex const& index, bool folded)
+{
+    if (m_isDressing)
+        return;
+    if (folded)
+        m_folded.insert(getPath(index));
+    else
+        m_folded.erase(getPath(index));
+}
+
+void QtPropertyGridView::applyFontMeasures()
+{
+    setIndentation(fontMetrics().height());
+    header()->setMinimumSectionSize(4 * fontMetrics().averageCharWidth());
+}
+
+void QtPropertyGridView::applySplit()
+{
+    if (m_isDraggingSplit)
+        return;
+    m_isApplyingSplit = true;
+    header()->resizeSection(nameColumn, static_cast<int>(m_split * viewport()->width() + 0.5));
+    m_isApplyingSplit = false;
+}
+
+void QtPropertyGridView::takeSplitFromHeader()
+{
+    if (m_isApplyingSplit || viewport()->width() <= 0)
+        return;
+    auto const split = static_cast<double>(header()->sectionSize(nameColumn)) / viewport()->width();
+    auto const limited = std::clamp(split, leastSplit, 1 - leastSplit);
+    if (limited == m_split)
+        return;
+    m_split = limited;
+    if (split != limited)
+        applySplit();
+    viewport()->update();
+}
+
+bool QtPropertyGridView::isOnSplit(QPoint const& position) const
+{
+    auto const reach = std::max(3, fontMetrics().averageCharWidth() / 2);
+    auto const* const row = QtPropertyGridItemModel::getRow(indexAt(position));
+    return row && row->getState().kind != Kind::Group &&
+           std::abs(position.x() - columnViewportPosition(valueColumn)) <= reach;
+}
+
+QStyleOptionViewItem QtPropertyGridView::getCellOption(QModelIndex const& index) const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    return option;
+}
+
+void QtPropertyGridView::clickValue(QModelIndex const& index, QPoint const& position)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    auto const layout = QtPropertyGridLayout::of(*row, getCellOption(index));
+    if (layout.checkBox.contains(position))
+        m_rows.clickCheckBox(index);
+    else if (layout.button.contains(position))
+        m_rows.pressButton(index);
+    else if (hasValueEditor(index))
+        openEditor(index, layout.arrow.contains(position) || !PropertyGridEditing::canTypeFreely(*row));
+}
+
+bool QtPropertyGridView::handleKey(QKeyEvent const& event)
+{
+    auto const index = getCurrentValueIndex();
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    if (event.matches(QKeySequence::Copy)) {
+        copySelection();
+        return true;
+    }
+    if (!row)
+        return false;
+    if (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier))
+        return openEditor(index, true);
+    if (event.modifiers() & ~Qt::KeypadModifier)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Space:
+        return PropertyGridEditing::hasCheckBox(*row) && (m_rows.clickCheckBox(index), true);
+    case Qt::Key_Delete:
+        return row->getState().kind != Kind::Group && (m_rows.clear(index), true);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return activateCurrentRow();
+    default:
+        return false;
+    }
+}
+
+bool QtPropertyGridView::activateCurrentRow()
+{
+    auto const index = getCurrentValueIndex();
+    if (hasValueEditor(index))
+        return openEditor(index, false);
+    auto const first = index.siblingAtColumn(nameColumn);
+    if (m_rows.rowCount(first) == 0)
+        return false;
+    setExpanded(first, !isExpanded(first));
+    return true;
+}
+
+bool QtPropertyGridView::moveToEditableRow(QModelIndex const& from, bool forwards, bool withEditor)
+{
+    auto index = from.siblingAtColumn(nameColumn);
+    if (!index.isValid())
+        return false;
+    do
+        index = forwards ? indexBelow(index) : indexAbove(index);
+    while (index.isValid() && !isEditable(index));
+    if (!index.isValid())
+        return false;
+    setCurrentIndex(index);
+    if (withEditor)
+        openEditor(index, false);
+    return true;
+}
+
+void QtPropertyGridView::showMessage(QString const& message)
+{
+    auto const row = visualRect(currentIndex());
+    m_message->setPalette(QToolTip::palette());
+    m_message->setText(message);
+    m_message->setMargin(fontMetrics().averageCharWidth() / 2);
+    auto const width = std::min(viewport()->width(), fontMetrics().horizontalAdvance(message) +
+                                                         4 * fontMetrics().averageCharWidth());
+    m_message->resize(width, m_message->heightForWidth(width));
+    auto const below = viewport()->mapToParent(QPoint(0, row.bottom() + 1)).y();
+    auto const above = viewport()->mapToParent(QPoint(0, row.top())).y() - m_message->height();
+    auto const hasRoomBelow = below + m_message->height() <= height();
+    m_message->move(viewport()->x() + viewport()->width() - width, hasRoomBelow ? below : std::max(0, above));
+    m_message->show();
+    m_message->raise();
+    m_messageTimer.start(messageMilliseconds);
+}
+
+void QtPropertyGridView::hideMessage()
+{
+    m_messageTimer.stop();
+    m_message->hide();
+}
+
+} // namespace qev::ui

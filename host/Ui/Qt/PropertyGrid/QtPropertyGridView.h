@@ -1,0 +1,105 @@
+#pragma once
+
+#include "HostUiQtExport.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
+
+#include <optional>
+#include <QLabel>
+#include <QPersistentModelIndex>
+#include <QTimer>
+#include <QTreeView>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace qev::ui {
+
+/// The tree of rows: draws them, and turns keys and clicks into inputs.
+///
+/// When the rows are made anew, what the user has folded stays folded, the current row stays current and
+/// nothing scrolls; rows are known by their names from the top level down.
+class HOSTUIQT_EXPORT QtPropertyGridView final : public QTreeView
+{
+public:
+    explicit QtPropertyGridView(QtPropertyGridItemModel& rows, QWidget* parent = nullptr);
+    ~QtPropertyGridView() override;
+
+    /// How much of the width the name column has, from 0 to 1.
+    [[nodiscard]] double getSplit() const { return m_split; }
+    void setSplit(double split);
+
+    /// Puts back what was current and where the view was scrolled to before the rows were made anew.
+    void restorePlace();
+    /// Copies the selected rows to the clipboard.
+    void copySelection();
+    /// Opens the editor of a row, with its drop list open if it has one and \p withChoices.
+    bool openEditor(QModelIndex const& index, bool withChoices);
+    /// What the message beside a refused input says; empty when none is shown.
+    [[nodiscard]] QString getMessage() const;
+
+    void setModel(QAbstractItemModel* model) override;
+
+    /// Fired with the index that has become current; an invalid one when none is.
+    EventHandlerContainer<void, void, QModelIndex const&> onCurrentRowChanged;
+
+protected:
+    using QTreeView::edit;
+    bool edit(QModelIndex const& index, EditTrigger trigger, QEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
+    void rowsInserted(QModelIndex const& parent, int start, int end) override;
+    void drawRow(QPainter* painter, QStyleOptionViewItem const& option,
+                 QModelIndex const& index) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    using Path = std::vector<std::string>;
+
+    [[nodiscard]] static Path getPath(QModelIndex const& index);
+    [[nodiscard]] QModelIndex findIndex(Path const& path) const;
+    [[nodiscard]] QModelIndex getCurrentValueIndex() const;
+    void keepPlace();
+    void dressRow(QModelIndex const& index);
+    void setFolded(QModelIndex const& index, bool folded);
+    void applyFontMeasures();
+    void applySplit();
+    void takeSplitFromHeader();
+    [[nodiscard]] bool isOnSplit(QPoint const& position) const;
+    [[nodiscard]] QStyleOptionViewItem getCellOption(QModelIndex const& index) const;
+    void clickValue(QModelIndex const& index, QPoint const& position);
+    bool handleKey(QKeyEvent const& event);
+    bool activateCurrentRow();
+    /// Makes the next row that can be changed current, and opens its editor if \p withEditor.
+    bool moveToEditableRow(QModelIndex const& from, bool forwards, bool withEditor);
+    void showMessage(QString const& message);
+    void hideMessage();
+
+    QtPropertyGridItemModel& m_rows;
+    double m_split = 0.45;
+    bool m_isApplyingSplit = false;
+    bool m_isDraggingSplit = false;
+    QPersistentModelIndex m_pressed;
+    /// The names down to each row that the user has folded.
+    std::set<Path> m_folded;
+    bool m_isDressing = false;
+    struct Place
+    {
+        Path current;
+        int scroll = 0;
+    };
+    std::optional<Place> m_place;
+    /// The row of the open editor.
+    Path m_edited;
+    QTimer m_restoreTimer;
+    QLabel* m_message;
+    QTimer m_messageTimer;
+};
+
+} // namespace qev::ui
