@@ -333,8 +333,10 @@ bool HeadlessListControl::openEditor(std::vector<ListControl::ItemInfo> items)
         return false;
     if (m_edit)
         cancelEdit();
+    // The owner may end the list instead of answering.
+    auto const keepAlive = shared_from_this();
     auto editor = fireEvent(control->onLabelEditBegin, ListControl::LabelEditBeginParams{items});
-    if (editor.editType == ListControl::NoEdit)
+    if (editor.editType == ListControl::NoEdit || isDestroyed())
         return false;
     auto const first = items.front();
     auto text = *first.item < m_rowCount ? getText(*first.item, *first.column) : std::string();

@@ -3,7 +3,7 @@
 namespace qev::ui {
 
 /// Where a window stands: its edges in pixels, relative to the client area of its
-/// owner, or to the screen for a window without one. Right and bottom lie just
+/// owner, or to the screen for a popup and a window without owner. Right and bottom lie just
 /// outside the window.
 struct WindowPlacement
 {
