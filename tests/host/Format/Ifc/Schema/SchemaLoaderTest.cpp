@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(
         ClassRange{"IfcPropertyEnumeratedValue", 170, 170}, ClassRange{"IfcPropertyListValue", 171, 171},
         ClassRange{"IfcPropertySingleValue", 173, 173}, ClassRange{"IfcPropertyTableValue", 174, 174},
         ClassRange{"IfcDirection", 241, 241}, ClassRange{"IfcCartesianPoint", 264, 264},
-        ClassRange{"IfcRoot", 354, 838}, ClassRange{"IfcObjectDefinition", 355, 769},
+        ClassRange{"IfcRoot", 354, 837}, ClassRange{"IfcObjectDefinition", 355, 769},
         ClassRange{"IfcObject", 359, 611}, ClassRange{"IfcPort", 556, 557},
         ClassRange{"IfcDistributionPort", 557, 557}, ClassRange{"IfcTypeObject", 612, 769},
         ClassRange{"IfcPropertySetDefinition", 771, 781}, ClassRange{"IfcPropertySet", 779, 779},
