@@ -1,0 +1,7 @@
+#include "UI/FoundationClasses/Controls/Formatters/PropertyFormatterStrategyInterface.h"
+
+namespace qev::fc::ui {
+
+PropertyFormatterStrategyInterface::~PropertyFormatterStrategyInterface() = default;
+
+} // namespace qev::fc::ui

@@ -1,0 +1,7 @@
+#include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatterInterface.h"
+
+namespace qev::fc::ui {
+
+PropertyGridControlPropertyFormatterInterface::~PropertyGridControlPropertyFormatterInterface() = default;
+
+} // namespace qev::fc::ui

@@ -1,0 +1,8 @@
+#include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatterStrategyInterface.h"
+
+namespace qev::fc::ui {
+
+PropertyGridControlPropertyFormatterStrategyInterface::
+    ~PropertyGridControlPropertyFormatterStrategyInterface() = default;
+
+} // namespace qev::fc::ui

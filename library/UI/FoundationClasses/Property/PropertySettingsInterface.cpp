@@ -1,0 +1,7 @@
+#include "UI/FoundationClasses/Property/PropertySettingsInterface.h"
+
+namespace qev::fc::ui {
+
+PropertySettingsInterface::~PropertySettingsInterface() = default;
+
+} // namespace qev::fc::ui
