@@ -1,0 +1,349 @@
+#include "Format/Ifc/Model/IfcFile.h"
+
+#include "FoundationClasses/Core/Kernel/FcObject.h"
+#include "FoundationClasses/Core/Kernel/FcProject.h"
+#include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "FoundationClasses/Core/ProductExtension/FcElementQuantity.h"
+#include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
+#include "FoundationClasses/Resource/Utility/FcOwnerHistory.h"
+#include "FoundationClasses/Shared/SharedBldgElements/FcDoorType.h"
+#include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
+#include "IfcText.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using namespace qev;
+using fc::core::kernel::FcPropertySet;
+using fc::resource::property::FcPropertySingleValue;
+using fc::shared::sharedbldgelements::FcWall;
+using testing::HasSubstr;
+using testing::Not;
+
+std::string const wallWithSet =
+    "#1=IFCPROJECT('0YvctVUKr0kugbFTf53O9L',$,'P',$,$,$,$,$,$);\n"
+    "#5 = IFCWALL ( '2YvctVUKr0kugbFTf53O9L' , $ , 'W1' , $ , $ , $ , $ , 'tag' , .SOLIDWALL. ) ;\n"
+    "#6=IFCPROPERTYSET('3YvctVUKr0kugbFTf53O9L',$,'Pset_WallCommon',$,(#7,#8));\n"
+    "#7=IFCPROPERTYSINGLEVALUE('FireRating',$,IFCLABEL('F30'),$);\n"
+    "#8=IFCPROPERTYSINGLEVALUE('LoadBearing',$,IFCBOOLEAN(.T.),$);\n"
+    "#9=IFCRELDEFINESBYPROPERTIES('4YvctVUKr0kugbFTf53O9L',$,$,$,(#5),#6);\n";
+
+std::unique_ptr<ifc::IfcFile> open(std::string const& records, std::string const& schema = "IFC4")
+{
+    return std::move(ifc::IfcFile::fromText(test::ifcText(schema, records)).file);
+}
+
+std::shared_ptr<FcWall> wallOf(ifc::IfcFile const& file) { return fc::entityCast<FcWall>(file.entityFromId(5)); }
+
+std::shared_ptr<FcPropertySingleValue> propertyOf(FcWall& wall, std::string const& name)
+{
+    auto const set = wall.getPropertySetDefinitionNonConst<FcPropertySet>("Pset_WallCommon");
+    for (auto const& property : set->HasProperties.getProperties()) {
+        if (property->Name.get() == name)
+            return fc::entityCast<FcPropertySingleValue>(property);
+    }
+    return nullptr;
+}
+
+/// The lines that two texts do not share, "-" before those of the first.
+std::vector<std::string> difference(std::string const& before, std::string const& after)
+{
+    auto const linesOf = [](std::string const& text) {
+        std::vector<std::string> lines;
+        std::istringstream stream(text);
+        for (std::string line; std::getline(stream, line);)
+            lines.push_back(line);
+        return lines;
+    };
+    auto old = linesOf(before);
+    auto now = linesOf(after);
+    std::vector<std::string> result;
+    for (auto const& line : old) {
+        if (std::find(now.begin(), now.end(), line) == now.end())
+            result.push_back("-" + line);
+    }
+    for (auto const& line : now) {
+        if (std::find(old.begin(), old.end(), line) == old.end())
+            result.push_back("+" + line);
+    }
+    return result;
+}
+
+TEST(IfcFile, ReadsAttributesOfAnEntity)
+{
+    auto const file = open(wallWithSet);
+    auto const wall = wallOf(*file);
+    ASSERT_TRUE(wall);
+    EXPECT_EQ(wall->Name.get(), "W1");
+    EXPECT_EQ(wall->Tag.get(), "tag");
+    EXPECT_STREQ(wall->getPredefinedTypeText(), "SOLIDWALL");
+    EXPECT_EQ(wall->Description.get(), std::nullopt);
+}
+
+TEST(IfcFile, MakesOnlyTheObjectsThatAreAskedFor)
+{
+    auto const file = open(wallWithSet);
+    EXPECT_EQ(file->data()->objectCount(), 0u);
+    auto const wall = wallOf(*file);
+    EXPECT_EQ(file->data()->objectCount(), 1u);
+}
+
+TEST(IfcFile, FindsTheSetsOfAnObjectThroughTheRelation)
+{
+    auto const file = open(wallWithSet);
+    auto const property = propertyOf(*wallOf(*file), "FireRating");
+    ASSERT_TRUE(property);
+    EXPECT_EQ(property->NominalValue->getAsString(false), "F30");
+}
+
+TEST(IfcFile, FindsAnObjectByItsGlobalId)
+{
+    auto const file = open(wallWithSet);
+    EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), file->entityFromId(5));
+    EXPECT_EQ(file->entityFromGlobalId("unknown"), nullptr);
+}
+
+TEST(IfcFile, WithoutAnEditTheTextIsTheSame)
+{
+    auto const file = open(wallWithSet);
+    propertyOf(*wallOf(*file), "FireRating");
+    EXPECT_EQ(file->toText(), test::ifcText("IFC4", wallWithSet));
+}
+
+TEST(IfcFile, AnEditedValueChangesItsArgumentOnly)
+{
+    auto const file = open(wallWithSet);
+    propertyOf(*wallOf(*file), "FireRating")->NominalValue.edit([](auto& value) {
+        return value.setValueOnTypeFromString("It's F90");
+    });
+    EXPECT_THAT(difference(test::ifcText("IFC4", wallWithSet), file->toText()),
+                testing::ElementsAre("-#7=IFCPROPERTYSINGLEVALUE('FireRating',$,IFCLABEL('F30'),$);",
+                                     "+#7=IFCPROPERTYSINGLEVALUE('FireRating',$,IFCLABEL('It''s F90'),$);"));
+}
+
+TEST(IfcFile, AnEditedArgumentLeavesTheBlanksAroundIt)
+{
+    auto const file = open(wallWithSet);
+    wallOf(*file)->Name = "W2";
+    EXPECT_THAT(file->toText(), HasSubstr("#5 = IFCWALL ( '2YvctVUKr0kugbFTf53O9L' , $ , 'W2' , $ ,"));
+}
+
+TEST(IfcFile, AnUndoneEditLeavesTheTextAsItWas)
+{
+    auto const file = open(wallWithSet);
+    wallOf(*file)->Name = "W2";
+    file->data()->changes().undo();
+    EXPECT_EQ(file->toText(), test::ifcText("IFC4", wallWithSet));
+}
+
+TEST(IfcFile, NewRecordsFollowTheLastOneWithTheNextIds)
+{
+    auto const file = open(wallWithSet);
+    auto const wall = wallOf(*file);
+    auto const set = wall->getOrCreatePropertySetDefinition<FcPropertySet>(*file->data(), "My set");
+    auto const property = std::make_shared<FcPropertySingleValue>();
+    property->Name = "Colour";
+    property->NominalValue = fc::resource::measure::FcValue(fc::resource::measure::FcSimpleValue(std::string("red")));
+    set->HasProperties.addProperty(property);
+    auto const text = file->toText();
+    EXPECT_THAT(text, HasSubstr("IFCPROPERTYSINGLEVALUE('Colour',$,IFCLABEL('red'),$);"));
+    auto const reopened = ifc::IfcFile::fromText(text);
+    EXPECT_TRUE(reopened.messages.empty());
+    auto const again = wallOf(*reopened.file);
+    auto const found = again->getPropertySetDefinitionNonConst<FcPropertySet>("My set");
+    ASSERT_TRUE(found);
+    EXPECT_TRUE(found->hasProperty("Colour"));
+    EXPECT_EQ(reopened.file->recordCount(), 9u);
+}
+
+TEST(IfcFile, ADeletedSetGoesWithItsRelationAndProperties)
+{
+    auto const file = open(wallWithSet);
+    EXPECT_TRUE(wallOf(*file)->deletePropertySetDefinition("Pset_WallCommon"));
+    auto const text = file->toText();
+    for (char const* const record : {"#6=", "#7=", "#8=", "#9="})
+        EXPECT_THAT(text, Not(HasSubstr(record)));
+    EXPECT_THAT(text, HasSubstr("#5 = IFCWALL"));
+}
+
+TEST(IfcFile, ARemovedPropertyLeavesTheOthersWhereTheyAre)
+{
+    auto const file = open(wallWithSet);
+    auto const set = wallOf(*file)->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_WallCommon");
+    EXPECT_TRUE(set->HasProperties.removeProperty("FireRating"));
+    EXPECT_THAT(file->toText(), HasSubstr("'Pset_WallCommon',$,(#8));"));
+    EXPECT_THAT(file->toText(), Not(HasSubstr("#7=")));
+}
+
+TEST(IfcFile, ClassesThatLaterVersionsDroppedBecomeTheirNearestAndKeepTheirName)
+{
+    std::string const style = "#2=IFCDOORSTYLE('2YvctVUKr0kugbFTf53O9L',$,'D',$,$,$,$,$,.SINGLE_SWING_LEFT.,.WOOD.,.F.,.F.);\n";
+    auto const file = open(style, "IFC2X3");
+    auto const type = fc::entityCast<fc::shared::sharedbldgelements::FcDoorType>(file->entityFromId(2));
+    ASSERT_TRUE(type);
+    EXPECT_EQ(type->Name.get(), "D");
+    type->Name = "E";
+    EXPECT_THAT(file->toText(), HasSubstr("#2=IFCDOORSTYLE('2YvctVUKr0kugbFTf53O9L',$,'E',$,$,$,$,$,.SINGLE_SWING_LEFT.,.WOOD.,.F.,.F.);"));
+    EXPECT_EQ(file->countsByClass().at("IfcDoorStyle"), 1u);
+}
+
+TEST(IfcFile, UnknownEntitiesAreKeptAndTold)
+{
+    auto const file = open("#2=IFCNOTHINGKNOWN('x',#3);\n#3=IFCLABELLED($);\n" + wallWithSet);
+    EXPECT_TRUE(wallOf(*file));
+    file->check();
+    auto const messages = file->messages();
+    ASSERT_FALSE(messages.empty());
+    EXPECT_THAT(messages.front().text, HasSubstr("IFCNOTHINGKNOWN"));
+    EXPECT_EQ(messages.front().record, 2u);
+    EXPECT_EQ(messages.front().line, 8u);
+    EXPECT_THAT(file->toText(), HasSubstr("#2=IFCNOTHINGKNOWN('x',#3);"));
+}
+
+TEST(IfcFile, ADanglingReferenceIsUnsetAndTold)
+{
+    auto const file = open("#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',#99,'W1',$,$,$,$,$,$);\n");
+    auto const wall = wallOf(*file);
+    ASSERT_TRUE(wall);
+    EXPECT_EQ(wall->OwnerHistory->get(), nullptr);
+    ASSERT_EQ(file->messages().size(), 1u);
+    EXPECT_THAT(file->messages().front().text, HasSubstr("OwnerHistory: expected a reference to an existing record, found #99"));
+}
+
+TEST(IfcFile, AReferenceToTheWrongClassIsUnsetAndTold)
+{
+    auto const file = open("#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',#5,'W1',$,$,$,$,$,$);\n");
+    EXPECT_EQ(wallOf(*file)->OwnerHistory->get(), nullptr);
+    ASSERT_EQ(file->messages().size(), 1u);
+    EXPECT_THAT(file->messages().front().text, HasSubstr("IfcOwnerHistory"));
+}
+
+TEST(IfcFile, AWrongNumberOfArgumentsIsTold)
+{
+    auto const file = open("#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,'W1');\n");
+    EXPECT_EQ(wallOf(*file)->Name.get(), "W1");
+    ASSERT_EQ(file->messages().size(), 1u);
+    EXPECT_THAT(file->messages().front().text, HasSubstr("expected 9 arguments of IfcWall, found 3"));
+}
+
+TEST(IfcFile, AValueOfTheWrongKindIsUnsetAndTold)
+{
+    auto const file = open("#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,7,$,$,$,$,$,.NOSUCHITEM.);\n");
+    EXPECT_EQ(wallOf(*file)->Name.get(), std::nullopt);
+    ASSERT_EQ(file->messages().size(), 2u);
+    EXPECT_THAT(file->messages()[0].text, HasSubstr("Name: expected a text"));
+    EXPECT_THAT(file->messages()[1].text, HasSubstr("PredefinedType: expected an item of IfcWallTypeEnum, found .NOSUCHITEM."));
+}
+
+TEST(IfcFile, MessagesOfARecordComeOnce)
+{
+    auto const file = open("#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,7,$,$,$,$,$,$);\n");
+    EXPECT_TRUE(wallOf(*file));
+    file->data()->releaseUnused();
+    EXPECT_TRUE(wallOf(*file));
+    file->check();
+    EXPECT_EQ(file->messages().size(), 1u);
+}
+
+TEST(IfcFile, ASchemaThatNobodyKnowsIsTold)
+{
+    auto const opened = ifc::IfcFile::fromText(test::ifcText("NO_SUCH_SCHEMA", wallWithSet));
+    ASSERT_TRUE(opened.file);
+    ASSERT_FALSE(opened.messages.empty());
+    EXPECT_THAT(opened.messages.front().text, HasSubstr("NO_SUCH_SCHEMA"));
+}
+
+TEST(IfcFile, ATextThatIsNoStepFileIsRefused)
+{
+    auto const opened = ifc::IfcFile::fromText("PK\x03\x04 something else");
+    EXPECT_FALSE(opened.file);
+    ASSERT_FALSE(opened.messages.empty());
+    EXPECT_EQ(opened.messages.front().severity, step::StepMessage::Severity::Refused);
+}
+
+TEST(IfcFile, ADateRecordOfAnOlderVersionReadsAsText)
+{
+    auto const file = open("#2=IFCCLASSIFICATION('S','1',#3,'Uniclass');\n#3=IFCCALENDARDATE(5,3,2009);\n", "IFC2X3");
+    auto const classification = file->entityFromId(2);
+    ASSERT_TRUE(classification);
+    EXPECT_EQ(classification->getAttributeAsString("EditionDate"), "2009-03-05");
+}
+
+class SavedFile : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_folder = std::filesystem::temp_directory_path() / "qev-ifc-file-test";
+        std::filesystem::remove_all(m_folder);
+        std::filesystem::create_directories(m_folder);
+        std::ofstream(path(), std::ios::binary) << test::ifcText("IFC4", wallWithSet);
+    }
+    void TearDown() override { std::filesystem::remove_all(m_folder); }
+
+    [[nodiscard]] std::filesystem::path path() const { return m_folder / "model.ifc"; }
+    [[nodiscard]] std::string content() const
+    {
+        std::ifstream stream(path(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+private:
+    std::filesystem::path m_folder;
+};
+
+TEST_F(SavedFile, TakesThePlaceOfTheOldOneAndMayBeSavedAgain)
+{
+    auto const file = std::move(ifc::IfcFile::open(path()).file);
+    wallOf(*file)->Name = "W2";
+    EXPECT_TRUE(file->data()->changes().isModified());
+    EXPECT_TRUE(file->save(path()).saved());
+    EXPECT_FALSE(file->data()->changes().isModified());
+    EXPECT_THAT(content(), HasSubstr("'W2'"));
+    wallOf(*file)->Name = "W3";
+    EXPECT_TRUE(file->save(path()).saved());
+    EXPECT_THAT(content(), HasSubstr("'W3'"));
+    EXPECT_THAT(content(), Not(HasSubstr("'W2'")));
+}
+
+TEST_F(SavedFile, KeepsTheIdsOfNewRecordsFromSaveToSave)
+{
+    auto const file = std::move(ifc::IfcFile::open(path()).file);
+    EXPECT_TRUE(wallOf(*file)->getOrCreatePropertySetDefinition<FcPropertySet>(*file->data(), "My set"));
+    EXPECT_TRUE(file->save(path()).saved());
+    auto const first = content();
+    wallOf(*file)->Name = "W2";
+    EXPECT_TRUE(file->save(path()).saved());
+    EXPECT_EQ(difference(first, content()).size(), 2u);
+}
+
+TEST_F(SavedFile, IsRefusedWhenAnotherProgramWroteTheFileMeanwhile)
+{
+    auto const file = std::move(ifc::IfcFile::open(path()).file);
+    wallOf(*file)->Name = "W2";
+    std::ofstream(path(), std::ios::binary | std::ios::app) << "\n";
+    EXPECT_TRUE(file->changedOnDisk());
+    EXPECT_EQ(file->save(path()).status, step::StepSaveResult::Status::ChangedMeanwhile);
+    EXPECT_THAT(content(), Not(HasSubstr("'W2'")));
+    EXPECT_TRUE(file->data()->changes().isModified());
+    EXPECT_TRUE(file->save(path(), step::StepPatch::IfChanged::Overwrite).saved());
+    EXPECT_THAT(content(), HasSubstr("'W2'"));
+}
+
+TEST_F(SavedFile, StaysAsItWasWhenTheFolderOfTheTargetIsMissing)
+{
+    auto const file = std::move(ifc::IfcFile::open(path()).file);
+    wallOf(*file)->Name = "W2";
+    auto const result = file->save(path().parent_path() / "missing" / "model.ifc");
+    EXPECT_EQ(result.status, step::StepSaveResult::Status::Failed);
+    EXPECT_FALSE(result.text.empty());
+    EXPECT_TRUE(file->data()->changes().isModified());
+}
+
+} // namespace
