@@ -6,6 +6,20 @@
 
 namespace qev::test {
 
+namespace {
+
+class UnexpectedReports : public testing::EmptyTestEventListener
+{
+    void OnTestEnd(testing::TestInfo const&) override
+    {
+        for (auto const& info : takeReports())
+            ADD_FAILURE() << "unexpected report: " << info.text << " (" << info.function << ", " << info.path
+                          << ':' << info.line << ')';
+    }
+};
+
+} // namespace
+
 ReportRecorder& ReportRecorder::instance()
 {
     static ReportRecorder recorder;
@@ -27,6 +41,12 @@ std::vector<std::string> takeReportTexts()
     for (auto const& info : takeReports())
         texts.push_back(info.text);
     return texts;
+}
+
+void failTestsOnUnexpectedReports()
+{
+    ReportRecorder::instance().install();
+    testing::UnitTest::GetInstance()->listeners().Append(new UnexpectedReports);
 }
 
 void expectReport(std::string const& text, std::string const& function, std::string const& path)

@@ -30,6 +30,9 @@ std::vector<assert::AssertInfo> takeReports();
 /// The texts alone of `takeReports()`.
 std::vector<std::string> takeReportTexts();
 
+/// Installs the recorder, and fails from now on each test that leaves a report behind.
+void failTestsOnUnexpectedReports();
+
 /// Expects that exactly one report was raised, with this text, function and path.
 void expectReport(std::string const& text, std::string const& function, std::string const& path);
 

@@ -35,7 +35,7 @@ void RecordLookup::buildAscending(CompactColumn const& ids)
     std::size_t const count = ids.size();
     InstanceId const span = m_highest - m_lowest;
     m_shift = 0;
-    while ((span >> m_shift) > count / recordsPerRange)
+    while ((span >> m_shift) > count / recordsPerRange + 1)
         ++m_shift;
     auto const ranges = static_cast<std::size_t>(span >> m_shift) + 1;
     m_table.assign(ranges + 1, static_cast<RecordIndex>(count));

@@ -53,29 +53,33 @@ std::size_t StepScanner::skipBlanks(std::size_t position)
 
 StepScanner::RecordHead StepScanner::readHead(std::size_t position)
 {
+    using Problem = RecordHead::Problem;
     RecordHead head;
+    // Where something is missing, the next record may begin behind the blanks: reading stops before them.
+    head.arguments = position + 1;
     std::size_t p = skipBlanks(position + 1);
     std::size_t const digits = p;
     while (isDigit(m_data[p])) {
         auto const digit = static_cast<InstanceId>(m_data[p] - '0');
         if (head.id > (~InstanceId{0} - digit) / 10)
-            head.problem = RecordHead::Problem::IdTooLarge;
+            head.problem = Problem::IdTooLarge;
         head.id = head.id * 10 + digit;
         ++p;
     }
-    head.arguments = p;
     if (p == digits)
-        head.problem = RecordHead::Problem::NoId;
-    if (head.problem != RecordHead::Problem::None)
+        head.problem = Problem::NoId;
+    else
+        head.arguments = p;
+    if (head.problem != Problem::None)
         return head;
 
     p = skipBlanks(p);
     if (m_data[p] != '=') {
-        head.problem = RecordHead::Problem::NoEqualsSign;
+        head.problem = Problem::NoEqualsSign;
         return head;
     }
+    head.arguments = p + 1;
     p = skipBlanks(p + 1);
-    head.arguments = p;
     if (m_data[p] == '(') {
         head.isComplex = true;
         head.arguments = p + 1;
@@ -87,17 +91,16 @@ StepScanner::RecordHead StepScanner::readHead(std::size_t position)
     while (p > keyword && isKeywordCharacter(m_data[p]))
         ++p;
     if (p == keyword) {
-        head.problem = RecordHead::Problem::NoKeyword;
+        head.problem = Problem::NoKeyword;
         return head;
     }
     head.keyword = {m_data + keyword, p - keyword};
+    head.arguments = p;
     p = skipBlanks(p);
-    if (m_data[p] != '(') {
-        head.problem = RecordHead::Problem::NoParenthesis;
-        head.arguments = p;
-        return head;
-    }
-    head.arguments = p + 1;
+    if (m_data[p] == '(')
+        head.arguments = p + 1;
+    else
+        head.problem = Problem::NoParenthesis;
     return head;
 }
 
