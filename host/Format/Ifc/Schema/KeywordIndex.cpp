@@ -7,23 +7,32 @@ namespace qev::ifc {
 
 namespace {
 
-std::uint64_t load(char const* bytes, std::size_t count)
+template <class Word>
+std::uint64_t load(char const* bytes)
 {
-    std::uint64_t word = 0;
-    std::memcpy(&word, bytes, count);
+    Word word = 0;
+    std::memcpy(&word, bytes, sizeof(Word));
     return word;
 }
 
 // Both ends of the keyword and its length. Keywords begin alike, so that the end counts as much as the start.
 std::size_t hashOf(std::string_view keyword)
 {
-    if (keyword.empty())
-        return 0;
-    constexpr std::size_t wordSize = sizeof(std::uint64_t);
-    std::size_t const count = keyword.size() < wordSize ? keyword.size() : wordSize;
-    std::uint64_t const start = load(keyword.data(), count);
-    std::uint64_t const end = load(keyword.data() + keyword.size() - count, count);
-    std::uint64_t hash = (start ^ (keyword.size() << 56U)) * 0x9E3779B97F4A7C15U;
+    char const* const first = keyword.data();
+    char const* const last = first + keyword.size();
+    std::uint64_t start = 0;
+    std::uint64_t end = 0;
+    if (keyword.size() >= 8) {
+        start = load<std::uint64_t>(first);
+        end = load<std::uint64_t>(last - 8);
+    } else if (keyword.size() >= 4) {
+        start = load<std::uint32_t>(first);
+        end = load<std::uint32_t>(last - 4);
+    } else if (!keyword.empty()) {
+        start = load<std::uint8_t>(first);
+        end = load<std::uint8_t>(last - 1);
+    }
+    std::uint64_t hash = (start ^ (std::uint64_t(keyword.size()) << 56U)) * 0x9E3779B97F4A7C15U;
     hash = (hash ^ (hash >> 32U) ^ end) * 0xD6E8FEB86659FD93U;
     return static_cast<std::size_t>(hash >> 32U);
 }
