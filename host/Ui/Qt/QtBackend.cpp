@@ -140,9 +140,9 @@ std::shared_ptr<Dialog> QtBackend::createDialog(Size const& size, std::string co
     return dialog;
 }
 
-void QtBackend::attachDialog(Dialog& dialog, QWidget& widget)
+WindowHandle QtBackend::addDialogWidget(QWidget& widget)
 {
-    dialog.attach(registerWidget(widget, WindowClass::Dialog, 0));
+    return registerWidget(widget, WindowClass::Dialog, 0);
 }
 
 void QtBackend::addPlaceholder(std::shared_ptr<Dialog> const& dialog, int controlId,

@@ -38,8 +38,9 @@ public:
 
     /// A new dialog with a window of its own, shown. The caller holds it.
     [[nodiscard]] std::shared_ptr<Dialog> createDialog(Size const& size, std::string const& title = {});
-    /// Puts \p dialog on \p widget, which stands somewhere among other widgets and stays owned there.
-    void attachDialog(Dialog& dialog, QWidget& widget);
+    /// A handle for \p widget, which stands somewhere among other widgets and stays owned there, as one that
+    /// a dialog can be attached to (`Window::attachTo`).
+    [[nodiscard]] WindowHandle addDialogWidget(QWidget& widget);
     /// A child as a dialog's layout has it, to be replaced by a control of that id.
     void addPlaceholder(std::shared_ptr<Dialog> const& dialog, int controlId,
                         WindowPlacement const& placement);

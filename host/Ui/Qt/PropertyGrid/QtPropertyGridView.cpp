@@ -86,7 +86,11 @@ QtPropertyGridView::QtPropertyGridView(QtPropertyGridItemModel& rows, QWidget* p
     connect(&rows, &QAbstractItemModel::modelAboutToBeReset, this, &QtPropertyGridView::keepPlace);
     connect(this, &QTreeView::collapsed, this, [this](QModelIndex const& index) { setFolded(index, true); });
     connect(this, &QTreeView::expanded, this, [this](QModelIndex const& index) { setFolded(index, false); });
-    connect(header(), &QHeaderView::sectionResized, this, &QtPropertyGridView::takeSplitFromHeader);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int section) {
+        // The value column takes what is left; its size says nothing of what the user wants.
+        if (section == nameColumn)
+            takeSplitFromHeader();
+    });
 }
 
 QtPropertyGridView::~QtPropertyGridView() = default;
@@ -111,7 +115,7 @@ void QtPropertyGridView::restorePlace()
     if (!place)
         return;
     if (auto const index = findIndex(place->current); index.isValid())
-        setCurrentIndex(index);
+        makeCurrent(index);
     executeDelayedItemsLayout();
     updateGeometries();
     verticalScrollBar()->setValue(place->scroll);
@@ -155,6 +159,7 @@ bool QtPropertyGridView::edit(QModelIndex const& index, EditTrigger trigger, QEv
     if (state() == EditingState) {
         hideMessage();
         m_edited = getPath(value);
+        m_editor = indexWidget(value);
     }
     return true;
 }
@@ -163,10 +168,13 @@ void QtPropertyGridView::closeEditor(QWidget* editor, QAbstractItemDelegate::End
 {
     using Delegate = QAbstractItemDelegate;
     auto const isMove = hint == Delegate::EditNextItem || hint == Delegate::EditPreviousItem;
-    QTreeView::closeEditor(editor, isMove ? Delegate::NoHint : hint);
+    // The rows may have been made anew by the commit; the view has let go of the editor then.
+    if (editor == m_editor)
+        QTreeView::closeEditor(editor, isMove ? Delegate::NoHint : hint);
+    else if (editor->hasFocus())
+        setFocus();
     if (!isMove)
         return;
-    // The commit may have made the rows anew.
     restorePlace();
     setFocus();
     moveToEditableRow(findIndex(m_edited), hint == Delegate::EditNextItem, true);
@@ -328,9 +336,15 @@ void QtPropertyGridView::keepPlace()
 {
     hideMessage();
     m_pressed = QModelIndex();
+    m_editor.clear();
     // Emptied twice in a row, the grid still means the place of the rows that were there.
     if (m_rows.rowCount() != 0)
         m_place = Place{getPath(currentIndex()), verticalScrollBar()->value()};
+}
+
+void QtPropertyGridView::makeCurrent(QModelIndex const& index)
+{
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void QtPropertyGridView::dressRow(QModelIndex const& index)
@@ -463,7 +477,7 @@ bool QtPropertyGridView::moveToEditableRow(QModelIndex const& from, bool forward
     while (index.isValid() && !isEditable(index));
     if (!index.isValid())
         return false;
-    setCurrentIndex(index);
+    makeCurrent(index);
     if (withEditor)
         openEditor(index, false);
     return true;

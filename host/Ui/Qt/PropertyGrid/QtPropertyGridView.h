@@ -6,6 +6,7 @@
 #include <optional>
 #include <QLabel>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QTimer>
 #include <QTreeView>
 #include <set>
@@ -66,6 +67,8 @@ private:
     [[nodiscard]] QModelIndex findIndex(Path const& path) const;
     [[nodiscard]] QModelIndex getCurrentValueIndex() const;
     void keepPlace();
+    /// Makes a row current, and it alone selected.
+    void makeCurrent(QModelIndex const& index);
     void dressRow(QModelIndex const& index);
     void setFolded(QModelIndex const& index, bool folded);
     void applyFontMeasures();
@@ -97,6 +100,8 @@ private:
     std::optional<Place> m_place;
     /// The row of the open editor.
     Path m_edited;
+    /// The open editor; null once the view has let go of it.
+    QPointer<QWidget> m_editor;
     QTimer m_restoreTimer;
     QLabel* m_message;
     QTimer m_messageTimer;

@@ -1,0 +1,165 @@
+#include "QtUiTest.h"
+#include "Ui/Qt/QtDialog.h"
+#include "Ui/Window/Controls/ListControl/ListControl.h"
+#include "Ui/Window/GroupBox.h"
+#include "Ui/Window/PopupMenu.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+namespace qev::test {
+namespace {
+
+using namespace ui;
+using testing::ElementsAre;
+
+class QtBackendTest : public QtUiTest
+{
+protected:
+    ~QtBackendTest() override { dialog.reset(); }
+
+    /// Outlives the windows that tell of it.
+    std::vector<bool> told;
+};
+
+class SizeWatchingDialog final : public Dialog
+{
+public:
+    void onSizeChanged(Size const& size) override { sizes.push_back(size); }
+    std::vector<Size> sizes;
+};
+
+TEST_F(QtBackendTest, DialogHasTitleSizeAndIsShown)
+{
+    auto* const widget = backend->getWidget(dialog->getHandle());
+    ASSERT_NE(widget, nullptr);
+    EXPECT_EQ(widget->windowTitle(), "Test");
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->getClientAreaSize(), Size(500, 400));
+}
+
+TEST_F(QtBackendTest, ControlIsMadeInsideItsOwnerAtItsPlace)
+{
+    auto const grid = Window::create<PropertyGridControl>(dialog, 0, 0, {10, 20, 210, 320}, 77);
+    ASSERT_NE(grid, nullptr);
+    auto const* const widget = backend->getPropertyGrid(*grid);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_EQ(widget->parentWidget(), backend->getWidget(dialog->getHandle()));
+    EXPECT_EQ(widget->geometry(), QRect(10, 20, 200, 300));
+    EXPECT_EQ(grid->getPlacement(), (WindowPlacement{10, 20, 210, 320}));
+    EXPECT_EQ(grid->getDialogControlId(), 77);
+    EXPECT_TRUE(grid->isVisible());
+    EXPECT_TRUE(grid->getHandle().isDescendantOf(dialog->getHandle()));
+    EXPECT_FALSE(dialog->getHandle().isDescendantOf(grid->getHandle()));
+}
+
+TEST_F(QtBackendTest, PlaceholderGivesItsPlaceToTheControlThatReplacesIt)
+{
+    backend->addPlaceholder(dialog, 101, {5, 6, 305, 206});
+    auto const placeholder = dialog->getChildWindow(101);
+    ASSERT_NE(placeholder, nullptr);
+    auto const placement = placeholder->getPlacement();
+    EXPECT_EQ(placement, (WindowPlacement{5, 6, 305, 206}));
+    placeholder->detach(true);
+    auto const grid = Window::create<PropertyGridControl>(dialog, 0, 0, placement, 101);
+    EXPECT_EQ(dialog->getChildWindow(101), grid);
+    EXPECT_EQ(grid->getPlacement(), placement);
+}
+
+TEST_F(QtBackendTest, WindowsOfUnknownClassAreRefused)
+{
+    EXPECT_EQ(Window::create<ListControl>(dialog, 0, 0, {0, 0, 10, 10}), nullptr);
+    expectReport("Unable to create window", "qev::ui::Window::createWindow", "Ui/Window/Window");
+}
+
+TEST_F(QtBackendTest, DetachedControlTakesItsWidgetWithIt)
+{
+    auto grid = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 100, 100});
+    QPointer<QWidget> const widget = backend->getPropertyGrid(*grid);
+    grid->detach(true);
+    EXPECT_FALSE(widget->isVisible());
+    settle();
+    EXPECT_TRUE(widget.isNull());
+    EXPECT_FALSE(grid->hasInterface());
+}
+
+TEST_F(QtBackendTest, ControlOutlivesItsWidgetHarmlessly)
+{
+    auto const grid = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 100, 100});
+    delete backend->getPropertyGrid(*grid);
+    EXPECT_FALSE(grid->getHandle().isValid());
+    EXPECT_FALSE(grid->isVisible());
+    grid->addProperty(std::make_unique<PropertyGridProperty>("Group"));
+    grid->adjustLayout();
+    EXPECT_EQ(grid->getModel()->getRows().size(), 1u);
+}
+
+TEST_F(QtBackendTest, AttachedDialogHearsOfNewSizes)
+{
+    QWidget surroundings;
+    auto* const area = new QtDialog(&surroundings);
+    auto const attached = Window::attachTo<SizeWatchingDialog>(backend->addDialogWidget(*area));
+    surroundings.show();
+    area->resize(320, 240);
+    EXPECT_THAT(attached->sizes, testing::Contains(Size(320, 240)));
+}
+
+TEST_F(QtBackendTest, FocusIsToldToTheWindowAroundTheWidget)
+{
+    auto const grid = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 200, 200});
+    auto const box = Window::create<GroupBox>(dialog, 0, 0, {0, 200, 200, 300});
+    grid->onFocus.iHandlerAdd([&](auto&, bool hasFocus) { told.push_back(hasFocus); });
+    QApplication::setActiveWindow(backend->getWidget(dialog->getHandle()));
+    grid->setFocus();
+    EXPECT_EQ(WindowHandle::getFocusedWindow(), grid->getHandle());
+    box->setFocus();
+    EXPECT_THAT(told, ElementsAre(true, false));
+}
+
+TEST_F(QtBackendTest, MessageCallsBackWhenItIsClosed)
+{
+    bool closed = false;
+    MessageBox::vShowOk("Text", "Title", MessageBox::Icon::Warning, MessageBox::DefaultButton::First,
+                        [&] { closed = true; });
+    QPointer<QMessageBox> box;
+    for (auto* const widget : QApplication::topLevelWidgets())
+        if (auto* const candidate = qobject_cast<QMessageBox*>(widget))
+            box = candidate;
+    ASSERT_FALSE(box.isNull());
+    EXPECT_EQ(box->text(), "Text");
+    EXPECT_FALSE(closed);
+    box->accept();
+    EXPECT_TRUE(closed);
+}
+
+TEST_F(QtBackendTest, MenuGivesTheChosenEntry)
+{
+    PopupMenu menu;
+    menu.iMenuElemAdd(std::make_unique<MenuEntry>("First"));
+    menu.iMenuElemAdd(std::make_unique<MenuEntry>("Second"));
+    QTimer::singleShot(0, [] {
+        auto* const widget = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(widget, nullptr);
+        widget->setActiveAction(widget->actions().at(1));
+        QTest::keyClick(widget, Qt::Key_Return);
+    });
+    EXPECT_EQ(menu.show({10, 10}), 1u);
+}
+
+TEST_F(QtBackendTest, RedrawStopsUntilTheGuardEnds)
+{
+    auto const grid = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 200, 200});
+    auto const* const widget = backend->getPropertyGrid(*grid);
+    {
+        auto const outer = grid->suspendRedraw();
+        auto const inner = grid->suspendRedraw();
+        EXPECT_FALSE(widget->updatesEnabled());
+    }
+    EXPECT_TRUE(widget->updatesEnabled());
+}
+
+} // namespace
+} // namespace qev::test
