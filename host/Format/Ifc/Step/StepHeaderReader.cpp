@@ -2,6 +2,7 @@
 
 #include "Format/Ifc/Step/ArgumentReader.h"
 
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -88,29 +89,39 @@ bool StepHeaderReader::readStart()
 
 bool StepHeaderReader::readSections()
 {
-    bool inHeader = false;
+    enum class Section : std::uint8_t
+    {
+        None,
+        Header,
+        Other
+    };
+    Section section = Section::None;
     while (true) {
         m_position = m_scanner.skipBlanks(m_position);
         std::string const word = wordAt(m_scanner, m_position);
-        bool const isRecord = m_scanner.at(m_position) == '#' && (inHeader || word.empty());
-        if (word == "DATA" || (isRecord && m_scanner.startsStatement(m_position))) {
-            if (inHeader)
+        bool const isRecord = section != Section::Other && m_scanner.at(m_position) == '#' &&
+                              m_scanner.startsStatement(m_position);
+        if (word == "DATA" || isRecord) {
+            if (section != Section::None)
                 m_report(StepMessage::Severity::Warning, m_position,
-                         "Expected \"ENDSEC;\" at the end of the header, found " +
+                         "Expected \"ENDSEC;\" at the end of the section, found " +
                              foundAt(m_scanner, m_position) + ".");
             return m_hasHeader || refuse("Expected a HEADER section before the data, found none.");
         }
         if (m_position >= m_scanner.size() || word == "END-ISO-10303-21")
-            return refuse(m_hasHeader
-                              ? "Expected a DATA section, found " + foundAt(m_scanner, m_position) + "."
-                              : "Expected a HEADER section, found " + foundAt(m_scanner, m_position) + ".");
+            return refuse("Expected a " + std::string(m_hasHeader ? "DATA" : "HEADER") + " section, found " +
+                          foundAt(m_scanner, m_position) + ".");
         std::size_t const end = m_scanner.findEnd(m_position).end;
-        if (word == "HEADER")
-            inHeader = m_hasHeader = true;
-        else if (word == "ENDSEC")
-            inHeader = false;
-        else if (inHeader)
+        if (word == "HEADER") {
+            section = Section::Header;
+            m_hasHeader = true;
+        } else if (word == "ENDSEC") {
+            section = Section::None;
+        } else if (section == Section::Header) {
             readHeaderRecord(word, m_position + word.size(), end);
+        } else {
+            section = Section::Other;
+        }
         m_position = end;
     }
 }
