@@ -25,9 +25,10 @@ public:
 
     /// The class as the file knows it; it carries the keyword and the attributes with their types.
     [[nodiscard]] def::schema::Entity const& fileEntity() const { return *m_fileEntity; }
-    /// The nearest class of the model that can be instantiated; null when there is none.
+    /// The nearest class of the model; null when there is none. Abstract only for a class that is abstract in
+    /// the file's version too.
     [[nodiscard]] def::schema::Entity const* modelEntity() const { return m_modelEntity; }
-    /// The number of `modelEntity`; 0 when there is none.
+    /// The number of `modelEntity`; 0 when there is none, or when it cannot be instantiated.
     [[nodiscard]] std::uint16_t classNumber() const { return m_classNumber; }
     [[nodiscard]] Grade grade() const { return m_grade; }
     /// True when every slot of the file is the same slot of the model and the other way round.

@@ -82,8 +82,12 @@ void VersionSchema::addClasses(Source const& source)
         assert::report(source.schema->name() + ", line " + std::to_string(error.line) + ": " + error.message,
                        "qev::ifc::VersionSchema::addClasses", "Format/Ifc/Schema/VersionSchema");
     for (def::schema::Entity const* const entity : source.schema->entities()) {
-        if (m_keywords.add(entity->nameUpper(), static_cast<std::uint16_t>(m_mappings.size())))
+        std::uint16_t const known = m_keywords.find(entity->nameUpper());
+        if (known == KeywordIndex::notFound) {
+            m_keywords.add(entity->nameUpper(), static_cast<std::uint16_t>(m_mappings.size()));
             m_mappings.push_back(mappingOf(*entity, table));
+        } else if (m_mappings[known].fileEntity().isAbstract() && !entity->isAbstract())
+            m_mappings[known] = mappingOf(*entity, table);
     }
 }
 
@@ -98,7 +102,7 @@ ClassMapping VersionSchema::mappingOf(def::schema::Entity const& entity, Mapping
         mapping.m_modelEntity = m_model.findEntityByName(nearest->second.name);
         mapping.m_grade = nearest->second.grade;
     }
-    if (mapping.m_modelEntity)
+    if (mapping.m_modelEntity && !mapping.m_modelEntity->isAbstract())
         mapping.m_classNumber = static_cast<std::uint16_t>(mapping.m_modelEntity->firstNumber());
     pairSlots(mapping, table);
     return mapping;

@@ -22,8 +22,9 @@ public:
         std::string_view mappingText;
     };
 
-    /// \p sources has at least one element. Classes that the first one does not know are looked for in those
-    /// behind it: drafts of a version mix names of several. All schemas have to outlive this object.
+    /// \p sources has at least one element. Classes that the first one does not know, or that are abstract
+    /// there, are looked for in those behind it: drafts of a version mix classes of several. All schemas have
+    /// to outlive this object.
     VersionSchema(def::schema::Schema const& model, std::vector<Source> const& sources);
     ~VersionSchema();
     VersionSchema(VersionSchema const&) = delete;
