@@ -40,6 +40,34 @@ std::set<std::string> allHeaders(ClassModel const& model)
     return headers;
 }
 
+/// A macro with one line for each of \p lines.
+void emitListMacro(std::string const& comment, std::string const& head, std::vector<std::string> const& lines,
+                   SourceText& text)
+{
+    text.blank().line(comment).line("#define " + head + " \\");
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        text.line("    " + lines[i] + (i + 1 < lines.size() ? " \\" : ""));
+}
+
+std::string entityList(ClassModel const& model)
+{
+    std::vector<std::string> entities;
+    std::vector<std::string> attributes;
+    for (EntityModel const& entity : model.entities) {
+        std::string const names = groupNamespace(entity.group) + ", " + className(entity.name);
+        entities.push_back("ENTITY(" + names + ")");
+        for (AttributeModel const& attribute : entity.attributes)
+            attributes.push_back("ATTRIBUTE(" + names + ", " + attribute.name + ")");
+    }
+    SourceText text(model.source);
+    text.line("#pragma once");
+    emitListMacro("/// Every class by type number: its namespace inside `qev::fc`, and its name.",
+                  "QEV_FC_ENTITIES(ENTITY)", entities, text);
+    emitListMacro("/// Every attribute with the class that declares it: namespace, class, attribute.",
+                  "QEV_FC_ATTRIBUTES(ATTRIBUTE)", attributes, text);
+    return text.text();
+}
+
 std::string entityClassesSource(ClassModel const& model)
 {
     SourceText text(model.source);
@@ -67,6 +95,7 @@ void emitClassLists(ClassModel const& model, GeneratedFiles& files)
     SourceText all(model.source);
     all.line("#pragma once").blank().includes(allHeaders(model));
     files.add("FoundationClasses/AllEntities.h", all.text());
+    files.add("FoundationClasses/EntityList.h", entityList(model));
     files.add("EntityClasses.cpp", entityClassesSource(model));
 }
 

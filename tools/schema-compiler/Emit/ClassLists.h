@@ -5,7 +5,8 @@
 
 namespace qev::schemacompiler {
 
-/// What goes over all classes: `ForwardDeclarations.h`, `AllEntities.h` and `EntityClasses.cpp`.
+/// What goes over all classes: `ForwardDeclarations.h`, `AllEntities.h`, `EntityList.h` and
+/// `EntityClasses.cpp`.
 void emitClassLists(ClassModel const& model, GeneratedFiles& files);
 
 } // namespace qev::schemacompiler

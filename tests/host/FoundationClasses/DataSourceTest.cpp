@@ -1,0 +1,218 @@
+#include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "FoundationClasses/Core/Kernel/FcProduct.h"
+#include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
+#include "FoundationClasses/Data.h"
+#include "FoundationClasses/Resource/Property/FcComplexProperty.h"
+#include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
+#include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
+#include "host/FoundationClasses/FakeSource.h"
+#include "kit/ModelBuilder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace qev;
+using namespace qev::test;
+using fc::Data;
+using fc::EntityIndex;
+using fc::core::kernel::FcPropertySet;
+using fc::core::kernel::FcRelDefinesByProperties;
+using fc::resource::property::FcComplexProperty;
+using fc::resource::property::FcPropertySingleValue;
+using fc::shared::sharedbldgelements::FcWall;
+using step::StepValue;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+StepValue references(std::vector<step::InstanceId> const& ids)
+{
+    std::vector<StepValue> items;
+    for (step::InstanceId const id : ids)
+        items.push_back(StepValue::reference(id));
+    return StepValue::list(std::move(items));
+}
+
+StepValue text(char const* value) { return StepValue::text(value); }
+
+/// Two walls that share a set with one property.
+struct ReadModel : testing::Test
+{
+    FakeSource* source = nullptr;
+    std::shared_ptr<Data> data;
+
+    ReadModel()
+    {
+        auto records = std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
+            {FcWall::idFirst, {{"Name", text("W1")}}},
+            {FcRelDefinesByProperties::idFirst,
+             {{"RelatedObjects", references({1, 5})}, {"RelatingPropertyDefinition", StepValue::reference(3)}}},
+            {FcPropertySet::idFirst, {{"Name", text("Pset_X")}, {"HasProperties", references({4})}}},
+            {FcPropertySingleValue::idFirst,
+             {{"Name", text("FireRating")}, {"NominalValue", StepValue::typed("IFCLABEL", text("F30"))}}},
+            {FcWall::idFirst, {{"Name", text("W2")}}},
+            {0, {}},
+            {fc::core::kernel::FcProduct::idFirst, {}},
+        });
+        source = records.get();
+        data = Data::create(std::move(records));
+    }
+
+    template <class T>
+    std::shared_ptr<T> at(EntityIndex index) const
+    {
+        return fc::entityCast<T>(data->entity(index));
+    }
+};
+
+TEST_F(ReadModel, MakesNoObjectsAtFirst)
+{
+    EXPECT_EQ(data->entityCount(), 7u);
+    EXPECT_EQ(data->objectCount(), 0u);
+    EXPECT_EQ(data->countFromId(FcWall::idFirst, FcWall::idLast), 2u);
+    EXPECT_THAT(source->reads(), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+    EXPECT_FALSE(data->changes().isModified());
+}
+
+TEST_F(ReadModel, MakesAnObjectWhenItIsFirstAskedFor)
+{
+    auto const wall = at<FcWall>(0);
+    ASSERT_NE(wall, nullptr);
+    EXPECT_EQ(wall->Name.get(), "W1");
+    EXPECT_EQ(wall->getIndex(), 0u);
+    EXPECT_EQ(at<FcWall>(0), wall);
+    EXPECT_THAT(source->reads(), ElementsAre(1, 0, 0, 0, 0, 0, 0));
+    EXPECT_EQ(data->existingObject(0), wall.get());
+    EXPECT_EQ(data->existingObject(1), nullptr);
+}
+
+TEST_F(ReadModel, WhatIsReadIsNoChange)
+{
+    auto const wall = at<FcWall>(0);
+    EXPECT_EQ(wall->changedSlots(), 0u);
+    EXPECT_FALSE(data->changes().isModified());
+    EXPECT_THAT(data->touchedEntities(), IsEmpty());
+    EXPECT_FALSE(data->isCreated(0));
+}
+
+TEST_F(ReadModel, FollowsReferencesWhenTheyAreUsed)
+{
+    auto const wall = at<FcWall>(0);
+    auto const set = wall->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X");
+    ASSERT_NE(set, nullptr);
+    EXPECT_THAT(source->reads(), ElementsAre(1, 1, 1, 0, 0, 0, 0));
+    auto const property = fc::entityCast<FcPropertySingleValue>(set->HasProperties.getProperties().at(0));
+    EXPECT_EQ(property->NominalValue->getAsString(true), "IfcLabel(F30)");
+    EXPECT_THAT(source->reads(), ElementsAre(1, 1, 1, 1, 0, 0, 0));
+}
+
+TEST_F(ReadModel, FindsRelationsWithoutMakingObjectsOfAll)
+{
+    EXPECT_THAT(data->relating(4, FcRelDefinesByProperties::idFirst, FcRelDefinesByProperties::idLast,
+                               fc::slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects")),
+                ElementsAre(1u));
+    EXPECT_EQ(data->objectCount(), 0u);
+}
+
+TEST_F(ReadModel, RecordsWithoutAClassThatHasObjectsAreNobody)
+{
+    EXPECT_EQ(data->entity(5), nullptr);
+    EXPECT_EQ(data->entity(6), nullptr);
+    EXPECT_EQ(data->entity(7), nullptr);
+    EXPECT_EQ(data->entity(fc::noEntity), nullptr);
+    for (auto const& product : data->entities<fc::core::kernel::FcProduct>())
+        EXPECT_NE(product, nullptr);
+}
+
+TEST_F(ReadModel, ReleasesObjectsThatNobodyUses)
+{
+    auto const held = at<FcWall>(0);
+    (void)at<FcWall>(4)->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X")->HasProperties.getProperties();
+    EXPECT_EQ(data->objectCount(), 5u);
+    data->releaseUnused();
+    EXPECT_EQ(data->objectCount(), 1u);
+    EXPECT_EQ(data->existingObject(0), held.get());
+    EXPECT_EQ(at<FcWall>(4)->Name.get(), "W2");
+    EXPECT_THAT(source->reads(), ElementsAre(1, 1, 1, 1, 2, 0, 0));
+}
+
+TEST_F(ReadModel, KeepsChangedCreatedAndDeletedObjects)
+{
+    at<FcWall>(0)->Name = "Changed";
+    data->entityAdd(std::make_shared<FcWall>(), false);
+    data->entityDelete(at<FcWall>(4));
+    data->releaseUnused();
+    EXPECT_EQ(data->objectCount(), 3u);
+    EXPECT_EQ(at<FcWall>(0)->Name.get(), "Changed");
+    EXPECT_THAT(data->touchedEntities(), ElementsAre(0u, 4u, 7u));
+    data->changes().undo();
+    EXPECT_EQ(at<FcWall>(4)->Name.get(), "W2");
+}
+
+TEST_F(ReadModel, KnowsWhichAttributesAnEditChanged)
+{
+    auto const wall = at<FcWall>(0);
+    unsigned int const slot = wall->Name.slot();
+    wall->Name = "W1";
+    EXPECT_EQ(wall->changedSlots(), 0u);
+    wall->Name = "Other";
+    EXPECT_EQ(wall->changedSlots(), std::uint64_t{1} << slot);
+    EXPECT_THAT(data->touchedEntities(), ElementsAre(0u));
+    data->changes().undo();
+    EXPECT_EQ(wall->changedSlots(), 0u);
+    EXPECT_THAT(data->touchedEntities(), IsEmpty());
+    data->changes().redo();
+    EXPECT_EQ(wall->changedSlots(), std::uint64_t{1} << slot);
+}
+
+TEST_F(ReadModel, SharedSetsAreDetachedFromOneObjectAlone)
+{
+    EXPECT_TRUE(at<FcWall>(0)->deletePropertySetDefinition("Pset_X"));
+    EXPECT_EQ(at<FcWall>(0)->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X"), nullptr);
+    EXPECT_NE(at<FcWall>(4)->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X"), nullptr);
+    EXPECT_THAT(data->touchedEntities(), ElementsAre(1u));
+}
+
+TEST_F(ReadModel, HeldObjectsOutliveIt)
+{
+    auto const wall = at<FcWall>(0);
+    auto const set = wall->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X");
+    data.reset();
+    EXPECT_EQ(wall->Name.get(), "W1");
+    EXPECT_TRUE(set->HasProperties.getProperties().empty());
+    EXPECT_TRUE(wall->IsDefinedBy().empty());
+}
+
+TEST(BrokenRecords, ReferencesOfTheWrongKindAreLeftOutAndTold)
+{
+    auto records = std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
+        {FcPropertySet::idFirst, {{"Name", StepValue::integer(7)}, {"HasProperties", references({2, 1, 99})}}},
+        {FcPropertySingleValue::idFirst, {{"Name", text("A")}, {"NominalValue", StepValue::integer(1)}}},
+    });
+    auto const& source = *records;
+    auto const data = Data::create(std::move(records));
+    auto const set = fc::entityCast<FcPropertySet>(data->entity(0));
+    EXPECT_EQ(set->Name.get(), std::nullopt);
+    ASSERT_EQ(set->HasProperties.getProperties().size(), 1u);
+    EXPECT_TRUE(fc::entityCast<FcPropertySingleValue>(data->entity(1))->NominalValue->isEmpty());
+    EXPECT_THAT(source.mismatches(),
+                ElementsAre("HasProperties: a reference to IfcProperty", "HasProperties: a reference to an existing record",
+                            "Name: a text", "NominalValue: a typed value such as IFCLABEL('text')"));
+}
+
+TEST(BrokenRecords, APropertyThatHoldsItselfIsReadAndFreed)
+{
+    std::weak_ptr<fc::FcBase> watched;
+    {
+        auto const data = Data::create(std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
+            {FcComplexProperty::idFirst, {{"Name", text("A")}, {"HasProperties", references({1})}}},
+        }));
+        auto const property = fc::entityCast<FcComplexProperty>(data->entity(0));
+        EXPECT_EQ(property->HasProperties->get().at(0), property);
+        watched = property;
+    }
+    EXPECT_TRUE(watched.expired());
+}
+
+} // namespace
