@@ -38,6 +38,11 @@ else()
         $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict>)
 endif()
 
+if(QEV_BUILD_FUZZERS)
+    # Lets the fuzzer see which branches of the libraries an input reaches.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(QEV_SANITIZE)
     add_compile_options(-fsanitize=${QEV_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${QEV_SANITIZE})
