@@ -222,6 +222,8 @@ bool read(FcValue& value, AttributeDescriptor const& attribute, StepValue const&
 std::optional<std::uint16_t> readItem(AttributeDescriptor const& attribute, StepValue const& from,
                                       AttributeReader& reader)
 {
+    if (from.isUnset() || from.kind() == Kind::Derived)
+        return std::nullopt;
     if (from.kind() == Kind::Enumeration) {
         auto const items = attribute.enumeration->items;
         auto const found = std::find(items.begin(), items.end(), std::string_view(from.textValue()));
@@ -292,9 +294,14 @@ StepValue write(FcValue const& value, AttributeDescriptor const&, AttributeWrite
     return StepValue::typed(upperName(info->schemaName), writePayload(info->schemaName, value.payload(), writer));
 }
 
-StepValue writeItem(std::uint16_t item, AttributeDescriptor const& attribute)
+StepValue writeItem(std::optional<std::uint16_t> item, AttributeDescriptor const& attribute)
 {
-    return StepValue::enumeration(std::string(attribute.enumeration->items[item]));
+    return item ? StepValue::enumeration(std::string(attribute.enumeration->items[*item])) : StepValue();
+}
+
+Text textOfItem(std::optional<std::uint16_t> item, AttributeDescriptor const& attribute)
+{
+    return item ? Text(attribute.enumeration->items[*item]) : std::nullopt;
 }
 
 Text text(std::string const& value, AttributeDescriptor const&) { return value; }

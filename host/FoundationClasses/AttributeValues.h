@@ -24,33 +24,44 @@ using step::StepValue;
 
 // --- Plain values -------------------------------------------------------------------------------
 
-HOSTFOUNDATIONCLASSES_EXPORT bool read(std::string&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(double&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(std::int64_t&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(bool&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(Logical&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(Binary&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(ReferenceBase&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(ReferenceListBase&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(SelectBase&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
-HOSTFOUNDATIONCLASSES_EXPORT bool read(resource::measure::FcValue&, AttributeDescriptor const&, StepValue const&,
+HOSTFOUNDATIONCLASSES_EXPORT bool read(std::string&, AttributeDescriptor const&, StepValue const&,
                                        AttributeReader&);
-/// The position of an enumeration item in \p attribute.enumeration; no value when there is no such item.
-HOSTFOUNDATIONCLASSES_EXPORT std::optional<std::uint16_t> readItem(AttributeDescriptor const&, StepValue const&,
-                                                                   AttributeReader&);
-
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(std::string const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(double const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(std::int64_t const&, AttributeDescriptor const&, AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(double&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(std::int64_t&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(bool&, AttributeDescriptor const&, StepValue const&, AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(Logical&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(Binary&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(ReferenceBase&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(ReferenceListBase&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(SelectBase&, AttributeDescriptor const&, StepValue const&,
+                                       AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT bool read(resource::measure::FcValue&, AttributeDescriptor const&,
+                                       StepValue const&, AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(std::string const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(double const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(std::int64_t const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
 HOSTFOUNDATIONCLASSES_EXPORT StepValue write(bool const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(Logical const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(Binary const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(ReferenceBase const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(ReferenceListBase const&, AttributeDescriptor const&, AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue write(SelectBase const&, AttributeDescriptor const&, AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(Logical const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(Binary const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(ReferenceBase const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(ReferenceListBase const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue write(SelectBase const&, AttributeDescriptor const&,
+                                             AttributeWriter const&);
 HOSTFOUNDATIONCLASSES_EXPORT StepValue write(resource::measure::FcValue const&, AttributeDescriptor const&,
                                              AttributeWriter const&);
-HOSTFOUNDATIONCLASSES_EXPORT StepValue writeItem(std::uint16_t item, AttributeDescriptor const&);
 
 using Text = std::optional<std::string>;
 HOSTFOUNDATIONCLASSES_EXPORT Text text(std::string const&, AttributeDescriptor const&);
@@ -70,7 +81,11 @@ HOSTFOUNDATIONCLASSES_EXPORT void visitReferences(ReferenceListBase const&, Visi
 HOSTFOUNDATIONCLASSES_EXPORT void visitReferences(SelectBase const&, Visit const&);
 
 inline void leaveModel(ReferenceBase& reference) { reference.leaveModel(); }
-inline void leaveModel(ReferenceListBase& list) { list.leaveModel(); }
+template <class T>
+void leaveModel(ReferenceList<T>& list)
+{
+    list.leaveModel();
+}
 inline void leaveModel(SelectBase& select) { select.leaveModel(); }
 
 inline bool isUnset(ReferenceBase const& reference) { return !reference.isSet(); }
@@ -81,42 +96,43 @@ inline bool isUnset(resource::measure::FcValue const& value) { return value.isEm
 
 template <class T>
 concept EntityLink = std::derived_from<T, ReferenceBase> || std::derived_from<T, ReferenceListBase> ||
-                     std::derived_from<T, SelectBase>;
+    std::derived_from<T, SelectBase>;
 
 template <class T>
-    requires(!EntityLink<T>)
-void visitReferences(T const&, Visit const&)
-{}
+requires(!EntityLink<T>) void visitReferences(T const&, Visit const&) {}
 template <class T>
-    requires(!EntityLink<T>)
-void leaveModel(T&)
-{}
+requires(!EntityLink<T>) void leaveModel(T&) {}
 template <class T>
-    requires(!std::derived_from<T, ReferenceBase> && !std::derived_from<T, SelectBase>)
-bool isUnset(T const&)
+requires(!std::derived_from<T, ReferenceBase> && !std::derived_from<T, SelectBase>) bool isUnset(T const&)
 {
     return false;
 }
 
-// --- Enumerations, optionals and aggregates ------------------------------------------------------
+// --- Items of enumerations, by their position in the schema -----------------------------------------
 
-template <class E>
-    requires(std::is_enum_v<E> && !std::same_as<E, Logical>)
-bool read(E& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader);
-template <class E>
-    requires(std::is_enum_v<E> && !std::same_as<E, Logical>)
-StepValue write(E const& value, AttributeDescriptor const& attribute, AttributeWriter const& writer);
-template <class E>
-    requires(std::is_enum_v<E> && !std::same_as<E, Logical>)
-Text text(E const& value, AttributeDescriptor const& attribute);
+/// No value when the record has none, or has no item of \p attribute.enumeration.
+HOSTFOUNDATIONCLASSES_EXPORT std::optional<std::uint16_t> readItem(AttributeDescriptor const& attribute,
+                                                                   StepValue const&, AttributeReader&);
+HOSTFOUNDATIONCLASSES_EXPORT StepValue writeItem(std::optional<std::uint16_t> item,
+                                                 AttributeDescriptor const&);
+HOSTFOUNDATIONCLASSES_EXPORT Text textOfItem(std::optional<std::uint16_t> item, AttributeDescriptor const&);
+inline void visitNoReferences(AttributeBase const&, Visit const&) {}
+inline void leaveNoModel(AttributeBase&) {}
+
+// --- Optionals and aggregates --------------------------------------------------------------------
+
 template <class T>
-bool read(std::optional<T>& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader);
+bool read(std::optional<T>& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader);
 template <class T>
-bool read(std::vector<T>& values, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader);
+bool read(std::vector<T>& values, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader);
 template <class T>
-StepValue write(std::optional<T> const& value, AttributeDescriptor const& attribute, AttributeWriter const& writer);
+StepValue write(std::optional<T> const& value, AttributeDescriptor const& attribute,
+                AttributeWriter const& writer);
 template <class T>
-StepValue write(std::vector<T> const& values, AttributeDescriptor const& attribute, AttributeWriter const& writer);
+StepValue write(std::vector<T> const& values, AttributeDescriptor const& attribute,
+                AttributeWriter const& writer);
 template <class T>
 Text text(std::optional<T> const& value, AttributeDescriptor const& attribute);
 template <class T>
@@ -135,32 +151,9 @@ bool isUnset(std::optional<T> const& value)
     return !value.has_value();
 }
 
-template <class E>
-    requires(std::is_enum_v<E> && !std::same_as<E, Logical>)
-StepValue write(E const& value, AttributeDescriptor const& attribute, AttributeWriter const&)
-{
-    return writeItem(static_cast<std::uint16_t>(value), attribute);
-}
-
-template <class E>
-    requires(std::is_enum_v<E> && !std::same_as<E, Logical>)
-bool read(E& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
-{
-    auto const item = readItem(attribute, from, reader);
-    if (item)
-        value = static_cast<E>(*item);
-    return item.has_value();
-}
-
-template <class E>
-    requires(std::is_enum_v<E> && !std::same_as<E, Logical>)
-Text text(E const& value, AttributeDescriptor const& attribute)
-{
-    return std::string(attribute.enumeration->items[static_cast<std::size_t>(value)]);
-}
-
 template <class T>
-bool read(std::optional<T>& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(std::optional<T>& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     T element{};
     if (!read(element, attribute, from, reader))
@@ -170,7 +163,8 @@ bool read(std::optional<T>& value, AttributeDescriptor const& attribute, StepVal
 }
 
 template <class T>
-bool read(std::vector<T>& values, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(std::vector<T>& values, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     if (from.kind() != StepValue::Kind::List) {
         reader.mismatch(attribute, "a list", from);
@@ -186,13 +180,15 @@ bool read(std::vector<T>& values, AttributeDescriptor const& attribute, StepValu
 }
 
 template <class T>
-StepValue write(std::optional<T> const& value, AttributeDescriptor const& attribute, AttributeWriter const& writer)
+StepValue write(std::optional<T> const& value, AttributeDescriptor const& attribute,
+                AttributeWriter const& writer)
 {
     return value ? write(*value, attribute, writer) : StepValue();
 }
 
 template <class T>
-StepValue write(std::vector<T> const& values, AttributeDescriptor const& attribute, AttributeWriter const& writer)
+StepValue write(std::vector<T> const& values, AttributeDescriptor const& attribute,
+                AttributeWriter const& writer)
 {
     std::vector<StepValue> items;
     items.reserve(values.size());
