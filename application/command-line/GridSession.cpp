@@ -1,0 +1,196 @@
+#include "GridSession.h"
+
+#include "Format/Ifc/Schema/SchemaLoader.h"
+#include "FoundationClasses/Core/Kernel/FcObject.h"
+#include "FoundationClasses/Core/Kernel/FcTypeObject.h"
+#include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter.h"
+#include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatterStrategyInterface.h"
+#include "UI/FoundationClasses/Property/PropertyInterface.h"
+#include "UI/FoundationClasses/Set/PropertySetDefinition.h"
+
+#include <algorithm>
+
+namespace qev::application {
+
+namespace {
+
+using fc::ui::PropertySetDefinition;
+using fc::ui::PropertySetDefinitionType;
+
+constexpr int gridId = 101;
+
+} // namespace
+
+/// Listens while the control builds its rows: rows of attributes carry no hint of their own of what they show.
+class GridSession::Recorder final : public fc::ui::PropertySetDefinitionFilterInterface,
+                                    public fc::ui::PropertyGridControlPropertyFormatterStrategyInterface
+{
+public:
+    /// The attributes of one object or type, as their rows come into being.
+    struct AttributeGroup
+    {
+        std::string kind;
+        std::vector<std::string> names;
+    };
+
+    explicit Recorder(RowFilter filter) : m_filter(std::move(filter)) {}
+
+    void clear() { m_groups.clear(); }
+    [[nodiscard]] std::vector<AttributeGroup> const& attributeGroups() const { return m_groups; }
+
+    void setObject(std::shared_ptr<fc::FcBase>) override {}
+    bool isSetIncluded(std::string const& setName) const override
+    {
+        m_isAttributeGroup = setName == "Instance Attributes" || setName == "Type Attributes";
+        if (m_isAttributeGroup && !m_filter)
+            m_groups.push_back({setName == "Instance Attributes" ? "instance attributes" : "type attributes", {}});
+        return !m_isAttributeGroup || !m_filter;
+    }
+    bool isPropertyIncluded(std::string const& setName, std::string const& propertyName) const override
+    {
+        return !m_filter || m_filter(setName, propertyName);
+    }
+
+    std::optional<bool> wantCustomButtonProperties() const override { return std::nullopt; }
+    std::optional<bool> wantButton(std::string const&, std::string const&) const override { return std::nullopt; }
+    void onButtonClicked(std::string const&, std::string const&) override {}
+    void setObject(std::shared_ptr<fc::Data>, std::shared_ptr<fc::FcBase>) override {}
+    void onPropertyCreated(std::string const&, std::string const& propertyName, ui::PropertyGridProperty&) override
+    {
+        if (m_isAttributeGroup)
+            m_groups.back().names.push_back(propertyName);
+    }
+    std::optional<Alignment> getAlignment(std::string const&, std::string const&) const override { return std::nullopt; }
+    std::optional<EmptyLineState> getEmptyLineState(std::string const&, std::string const&) const override
+    {
+        return std::nullopt;
+    }
+    std::optional<HorizontalLineState> getHorizontalLineState(std::string const&, std::string const&) const override
+    {
+        return std::nullopt;
+    }
+    std::optional<bool> wantBoldFontStyleForNameAndValue(std::string const&, std::string const&) const override
+    {
+        return std::nullopt;
+    }
+    std::optional<unsigned int> getPropertyNameIndentationInCharacters(std::string const&,
+                                                                       std::string const&) const override
+    {
+        return std::nullopt;
+    }
+    std::optional<std::vector<std::string>> getPropertySetOrder() const override { return std::nullopt; }
+
+private:
+    RowFilter m_filter;
+    // The control asks for a group just before it builds it, through a const interface.
+    mutable bool m_isAttributeGroup = false;
+    mutable std::vector<AttributeGroup> m_groups;
+};
+
+GridSession::GridSession(std::shared_ptr<fc::Data> data, bool showUnused, RowFilter filter)
+    : m_data(std::move(data))
+    , m_backend(ui::HeadlessBackend::install())
+    , m_dialog(m_backend->createDialog({800, 600}))
+    , m_recorder(std::make_shared<Recorder>(std::move(filter)))
+{
+    auto const formatter = std::make_shared<fc::ui::PropertyGridControlPropertyFormatter>();
+    formatter->addStrategy(m_recorder);
+    std::vector<std::string> const contexts = {"IfcProperties", "Ifc", "FoundationClassesUi"};
+    m_control = std::make_shared<fc::ui::PropertySetGridControl>(
+        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_data, m_dialog, m_recorder,
+        fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>{nullptr, formatter},
+        contexts, nullptr);
+    if (!showUnused)
+        m_control->hideUnusedProperties();
+    m_control->init(gridId, std::nullopt, true);
+}
+
+GridSession::~GridSession() = default;
+
+void GridSession::show(std::vector<std::shared_ptr<fc::FcBase>> const& objects)
+{
+    m_recorder->clear();
+    m_control->setObjects(m_data, objects);
+}
+
+ui::HeadlessPropertyGrid& GridSession::grid() const
+{
+    return *m_backend->getPropertyGrid(*m_control->getPropertyGridControl());
+}
+
+std::vector<std::unique_ptr<PropertySetDefinition>> const& GridSession::definitions() const
+{
+    return m_control->getDefinitions();
+}
+
+std::vector<GridGroup> GridSession::groups() const
+{
+    std::vector<GridGroup> groups;
+    std::size_t attributeGroup = 0;
+    for (auto const& top : grid().getModel()->getRows())
+        groups.push_back(groupOf(*top, attributeGroup));
+    return groups;
+}
+
+GridGroup GridSession::groupOf(ui::PropertyGridRow const& top, std::size_t& attributeGroup) const
+{
+    GridGroup group;
+    group.label = top.getName();
+    Recorder::AttributeGroup const* attributes = nullptr;
+    if (auto const* const definition = static_cast<PropertySetDefinition const*>(top.getUserData())) {
+        bool const isQuantitySet = definition->getType() == PropertySetDefinitionType::QuantitySet;
+        group.kind = isQuantitySet ? "quantity set" : "property set";
+        group.name = definition->getName();
+    } else {
+        auto const& recorded = m_recorder->attributeGroups();
+        while (recorded[attributeGroup].names.size() != top.getChildren().size())
+            ++attributeGroup;
+        attributes = &recorded[attributeGroup++];
+        group.kind = attributes->kind;
+        group.name = group.label;
+    }
+    for (std::size_t i = 0; i < top.getChildren().size(); ++i) {
+        auto const& row = top.getChildren()[i];
+        auto* const property = static_cast<fc::ui::PropertyInterface*>(row->getUserData());
+        std::string name = attributes ? attributes->names[i] : property ? property->getName() : row->getName();
+        group.rows.push_back({std::move(name), row->getName(), row, ui::PropertyGridRowRecord::of(*row)});
+    }
+    return group;
+}
+
+bool GridSession::type(GridGroup::Row const& row, std::string const& text)
+{
+    ui::HeadlessPropertyGrid& window = grid();
+    bool isAccepted = false;
+    if (row.record.editor == "none")
+        m_message = "it cannot be edited";
+    else if (text.empty())
+        isAccepted = window.clear(row.row);
+    else if (row.record.editor == "check box")
+        return setCheckBox(row, text);
+    else if (row.record.editor == "choice")
+        isAccepted = window.choose(row.row, text) || window.type(row.row, text);
+    else
+        isAccepted = window.type(row.row, text);
+    if (!isAccepted && row.record.editor != "none")
+        m_message = window.getMessage().empty() ? "it does not take this value" : window.getMessage();
+    return isAccepted;
+}
+
+bool GridSession::setCheckBox(GridGroup::Row const& row, std::string const& text)
+{
+    bool const isTrue = text == "true" || text == "1";
+    if (!isTrue && text != "false" && text != "0") {
+        m_message = "expected true or false";
+        return false;
+    }
+    bool const isChecked = row.row->getCheckState() == ui::CheckState::Checked;
+    bool isAccepted = grid().clickCheckBox(row.row);
+    // A box that shows what is wanted may stand for a value that is not there yet; a second click stores it.
+    if (isAccepted && isChecked == isTrue)
+        isAccepted = grid().clickCheckBox(row.row);
+    m_message = isAccepted ? std::string() : "it cannot be edited";
+    return isAccepted;
+}
+
+} // namespace qev::application

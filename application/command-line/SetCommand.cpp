@@ -1,0 +1,93 @@
+#include "Commands.h"
+#include "FileAccess.h"
+#include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+#include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
+#include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
+#include "GridSession.h"
+
+#include <iostream>
+
+namespace qev::application {
+
+namespace {
+
+using fc::core::kernel::FcObjectDefinition;
+using fc::core::kernel::FcPropertySetDefinition;
+
+/// The first row of a grid that shows only the property wanted; null when the object does not offer it.
+GridGroup::Row const* firstRow(std::vector<GridGroup> const& groups)
+{
+    for (GridGroup const& group : groups) {
+        if (!group.rows.empty())
+            return &group.rows.front();
+    }
+    return nullptr;
+}
+
+/// How many further objects share the set, so that an edit of one does not change the others unnoticed.
+std::size_t countSharing(FcObjectDefinition& object, std::string const& setName)
+{
+    auto const set = object.getPropertySetDefinitionNonConst<FcPropertySetDefinition>(setName);
+    std::size_t count = 0;
+    for (auto const& reference : set ? set->DefinesOccurrence() : std::vector<std::weak_ptr<fc::core::kernel::FcRelDefinesByProperties>>()) {
+        if (auto const relation = reference.lock())
+            count += relation->RelatedObjects->size();
+    }
+    return count > 1 ? count - 1 : 0;
+}
+
+std::string describe(fc::FcBase const& object)
+{
+    return globalIdOf(object) + " " + object.getEntityName() + " '" + nameOf(object) + "'";
+}
+
+/// What came of the edit over all objects.
+struct Outcome
+{
+    std::size_t offered = 0;
+    std::size_t refused = 0;
+};
+
+void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetOptions const& options, Outcome& outcome)
+{
+    session.show({object});
+    auto const groups = session.groups();
+    GridGroup::Row const* const row = firstRow(groups);
+    if (!row)
+        return;
+    ++outcome.offered;
+    auto const definition = fc::entityCast<FcObjectDefinition>(object);
+    if (std::size_t const others = countSharing(*definition, groups.front().name); others > 0)
+        std::cerr << "qev-ifc: the set is shared: " << others << " further objects change with " << describe(*object) << '\n';
+    if (session.type(*row, options.value))
+        return;
+    ++outcome.refused;
+    std::cout << "refused: " << describe(*object) << ": " << session.message() << '\n';
+}
+
+} // namespace
+
+ExitCode runSet(SetOptions const& options)
+{
+    auto const file = openFile(options.file);
+    if (!file)
+        return ExitCode::UnreadableFile;
+    auto const places = findObjects(*file, options.objects);
+    // Names may hold dots themselves, so the two are put together and never taken apart.
+    GridSession session(file->data(), true, [&options](std::string const& setName, std::string const& propertyName) {
+        return setName + "." + propertyName == options.property;
+    });
+    Outcome outcome;
+    for (fc::EntityIndex const place : places) {
+        if (auto const object = file->data()->entity(place))
+            setIn(object, session, options, outcome);
+    }
+    if (outcome.offered == 0) {
+        std::cerr << "qev-ifc: none of the objects has or may have the property " << options.property << '\n';
+        return ExitCode::NothingFound;
+    }
+    ExitCode const saved = saveFile(*file, options.output);
+    return saved != ExitCode::Success ? saved : outcome.refused > 0 ? ExitCode::RefusedEdit : ExitCode::Success;
+}
+
+} // namespace qev::application
