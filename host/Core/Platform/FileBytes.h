@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,9 +31,6 @@ public:
     FileBytes() = default;
     FileBytes(FileBytes&& other) noexcept;
     FileBytes& operator=(FileBytes&& other) noexcept;
-    FileBytes(FileBytes const&) = delete;
-    FileBytes& operator=(FileBytes const&) = delete;
-    ~FileBytes();
 
     /// Reads all of \p path. On failure the result says why and names the file.
     static FileReadResult read(std::filesystem::path const& path, Progress const& progress = {});
@@ -47,13 +45,9 @@ public:
 
 private:
     static FileBytes allocate(std::size_t size);
-    void release();
 
-    char* m_data = nullptr;
+    std::unique_ptr<char[]> m_data;
     std::size_t m_size = 0;
-    /// Start and length of what the system gave; the length is 0 for memory from the heap.
-    void* m_mapping = nullptr;
-    std::size_t m_mappingLength = 0;
 };
 
 /// What `FileBytes::read` gives.
