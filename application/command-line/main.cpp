@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "Core/Assert/Assert.h"
 
 #include <CLI/CLI.hpp>
 
@@ -44,6 +45,7 @@ struct CommandLine
     SetsOptions sets;
     GridOptions grid;
     SetOptions set;
+    bool showReports = false;
     std::function<ExitCode()> run;
 
     void addTo(CLI::App& app);
@@ -91,6 +93,7 @@ void CommandLine::addTo(CLI::App& app)
     command->add_option("--value", set.value, "what to type into the row; empty clears it")->required();
     command->callback([this] { run = [this] { return runSet(set); }; });
 
+    app.add_flag("--reports", showReports, "print reports of programming errors on the error stream");
     app.require_subcommand(1);
 }
 
@@ -106,5 +109,7 @@ int main(int argc, char** argv)
     } catch (CLI::ParseError const& error) {
         return app.exit(error) == 0 ? 0 : static_cast<int>(ExitCode::BadUsage);
     }
+    // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers only.
+    qev::assert::Assert::setEnabled(commandLine.showReports);
     return static_cast<int>(commandLine.run());
 }

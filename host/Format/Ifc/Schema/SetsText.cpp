@@ -129,9 +129,12 @@ private:
         std::unique_ptr<pset::PropertyType> type = readPropertyType(words);
         if (!type)
             fail("The kind of a property with its types is expected.");
-        else
-            m_propertySet->propertyDefs.push_back(
-                std::make_unique<pset::PropertyDef>(*m_propertySet, std::string(name), std::move(type)));
+        else {
+            auto property = std::make_unique<pset::PropertyDef>(*m_propertySet, std::string(name), std::move(type));
+            // The names of the standard are English; without a dictionary they are what people should see.
+            property->nameAliases.set(locale::Locale::get(1), name);
+            m_propertySet->propertyDefs.push_back(std::move(property));
+        }
     }
 
     std::unique_ptr<pset::PropertyType> readPropertyType(WordScanner& words)

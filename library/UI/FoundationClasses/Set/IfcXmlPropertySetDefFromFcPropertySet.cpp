@@ -92,6 +92,7 @@ IfcXmlPropertySetDefFromFcPropertySet::get(core::kernel::FcPropertySet const* se
         return nullptr;
     }
     auto definition = std::make_unique<PropertySetDef>(set->Name.get().value_or(std::string()));
+    definition->conceptPrefix.clear();
     for (auto const& property : set->HasProperties.getProperties()) {
         if (!property) {
             reportFrom("get", "Property not set.");

@@ -10,7 +10,7 @@ Def::Def(SetDef const& owner, std::string const& entryName)
 
 Def::~Def() = default;
 
-std::string Def::getConcept() const { return m_set.name + "." + name; }
+std::string Def::getConcept() const { return m_set.conceptPrefix + name; }
 
 bool Def::checkForErrors(schema::Schema const& schema, XmlSetErrors& errors) const
 {

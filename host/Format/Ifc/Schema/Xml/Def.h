@@ -13,7 +13,7 @@ public:
     Def(Def const&) = delete;
     Def& operator=(Def const&) = delete;
 
-    /// The key under which the texts of the entry are localised: the names of set and entry, joined by ".".
+    /// The key under which the texts of the entry are localised: the set's `conceptPrefix` and the name.
     [[nodiscard]] std::string getConcept() const;
     /// The set that the entry belongs to, which outlives it.
     [[nodiscard]] SetDef const& set() const { return m_set; }

@@ -35,6 +35,7 @@ void checkApplicableClass(ApplicableClass const& applicable, schema::Schema cons
 
 SetDef::SetDef(std::string const& setName)
     : DefBase(setName)
+    , conceptPrefix(setName + ".")
 {
 }
 

@@ -36,6 +36,9 @@ public:
     /// The entry of that name; null when there is none.
     [[nodiscard]] Def const* findEntry(std::string_view entryName) const;
 
+    /// What stands before the name of an entry in the key of its texts: the set's name and a dot. Empty for
+    /// a set of a model's own, which no dictionary can know: its entries then go by their names.
+    std::string conceptPrefix;
     /// The classes the set applies to; when empty, it applies to everything.
     std::vector<ApplicableClass> applicableClasses;
     TemplateType templateType = TemplateType::NotDefined;
