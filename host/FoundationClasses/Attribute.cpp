@@ -1,5 +1,6 @@
 #include "FoundationClasses/Attribute.h"
 
+#include "Core/Utilities/ScopeGuard.h"
 #include "FoundationClasses/Data.h"
 #include "FoundationClasses/FcBase.h"
 
@@ -19,8 +20,8 @@ FcBase& AttributeBase::owner() const
 void AttributeBase::change(std::function<void()> const& change)
 {
     willChange();
+    ScopeGuard const guard([this] { didChange(); });
     change();
-    didChange();
 }
 
 void AttributeBase::willChange()

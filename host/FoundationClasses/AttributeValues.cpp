@@ -3,6 +3,7 @@
 #include "FoundationClasses/Data.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace qev::fc::values {
 
@@ -148,9 +149,12 @@ bool read(double& value, AttributeDescriptor const& attribute, StepValue const& 
 bool read(std::int64_t& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
 {
     double number = 0.0;
+    // Counts were plain numbers before IFC4X3, so older files may hold "4." or "4.5".
     if (from.kind() == Kind::Real && readAs(number, ValueKind::Real, "a whole number", attribute, from, reader)) {
-        value = static_cast<std::int64_t>(number);
-        return true;
+        if (std::abs(number) < 9.0e18) {
+            value = static_cast<std::int64_t>(number);
+            return true;
+        }
     }
     return readAs(value, ValueKind::Integer, "a whole number", attribute, from, reader);
 }

@@ -35,8 +35,7 @@ bool mayRefer(AttributeDescriptor const& attribute, EntityClass const& target)
            target.idFirst <= attribute.targetLast;
 }
 
-/// The attributes, each at the class that declares it, by which \p target may be referred to.
-std::vector<ReferringAttribute> referringAttributes(EntityClass const& target)
+std::vector<ReferringAttribute> findReferringAttributes(EntityClass const& target)
 {
     std::vector<ReferringAttribute> result;
     for (unsigned int number = 1; number <= FcBase::idLast; ++number) {
@@ -48,6 +47,28 @@ std::vector<ReferringAttribute> referringAttributes(EntityClass const& target)
         }
     }
     return result;
+}
+
+/// The attributes, each at the class that declares it, by which \p target may be referred to.
+std::vector<ReferringAttribute> const& referringAttributes(EntityClass const& target)
+{
+    static std::map<unsigned int, std::vector<ReferringAttribute>> known;
+    auto const [position, isNew] = known.try_emplace(target.idFirst);
+    if (isNew)
+        position->second = findReferringAttributes(target);
+    return position->second;
+}
+
+/// The number of a class that has entities, 0 for others: a broken file may name an abstract class.
+std::uint16_t instantiable(std::uint16_t number)
+{
+    static std::vector<bool> const hasEntities = [] {
+        std::vector<bool> result(FcBase::idLast + 1);
+        for (unsigned int i = 1; i <= FcBase::idLast; ++i)
+            result[i] = entityClassFromNumber(i)->create != nullptr;
+        return result;
+    }();
+    return number < hasEntities.size() && hasEntities[number] ? number : 0;
 }
 
 } // namespace
@@ -64,7 +85,7 @@ Data::Data(std::unique_ptr<EntitySource> source) : m_source(std::move(source)), 
     m_sourceCount = m_source->count();
     m_classes.resize(m_sourceCount);
     for (std::size_t i = 0; i < m_sourceCount; ++i)
-        m_classes[i] = m_source->classNumber(static_cast<EntityIndex>(i));
+        m_classes[i] = instantiable(m_source->classNumber(static_cast<EntityIndex>(i)));
     m_deleted.resize(m_sourceCount);
     m_pages.resize((m_sourceCount + pageSize - 1) / pageSize);
 }
@@ -187,6 +208,8 @@ void Data::setState(EntityIndex index, State state)
     bool const isDeletion = state == Deleted;
     if (m_deleted[index] == isDeletion)
         return;
+    // What refers from a deleted entity does not count, so the indexes are brought up to date while it is present.
+    m_deleted[index] = false;
     FcBase const* const object = existingObject(index);
     for (unsigned int slot = 0; object && slot < object->getEntityClass().attributes.size(); ++slot)
         indexReferences(*object, slot, !isDeletion);
@@ -276,7 +299,7 @@ bool Data::isReferenced(EntityIndex target) const
     EntityClass const* const targetClass = entityClassFromNumber(classNumber(target));
     if (!targetClass)
         return false;
-    auto const attributes = referringAttributes(*targetClass);
+    auto const& attributes = referringAttributes(*targetClass);
     return std::any_of(attributes.begin(), attributes.end(), [&](ReferringAttribute const& attribute) {
         EntityClass const& referring = *attribute.entityClass;
         return !relating(target, referring.idFirst, referring.idLast, attribute.slot).empty();
@@ -292,6 +315,8 @@ void Data::clearInverseIndexes() { m_inverseIndexes.clear(); }
 
 void Data::indexReferences(FcBase const& entity, unsigned int slot, bool add) const
 {
+    if (m_deleted[entity.m_index])
+        return;
     unsigned int const number = entity.getIdFirst();
     for (auto& [key, index] : m_inverseIndexes) {
         if (key.slot != slot || number < key.relationFirst || number > key.relationLast)

@@ -120,18 +120,26 @@ struct StepOfLocalValue
 
 } // namespace
 
+namespace {
+
+/// What a reference, or a select that holds one, leads to; null for a set of entities.
+std::shared_ptr<FcBase> onlyEntityOf(AttributeBase const& attribute, AttributeOperations const& operations)
+{
+    std::vector<std::shared_ptr<FcBase>> entities;
+    operations.visitReferences(
+        attribute, [&entities](ReferenceBase const& reference) { entities.push_back(reference.entity()); });
+    return entities.size() == 1 ? entities.front() : nullptr;
+}
+
+} // namespace
+
 LocalValue localValueOf(AttributeBase const& attribute, AttributeDescriptor const& descriptor)
 {
     AttributeOperations const& operations = *descriptor.operations;
-    if (descriptor.kind == ValueKind::Reference && descriptor.depth == 0) {
-        std::shared_ptr<FcBase> entity;
-        operations.visitReferences(attribute, [&entity](ReferenceBase const& reference) { entity = reference.entity(); });
-        if (entity)
-            return {{entity, std::nullopt}};
-        return {{LocalValue::Unset(), std::nullopt}};
-    }
     if (operations.isUnset(attribute))
         return {{LocalValue::Unset(), std::nullopt}};
+    if (auto const entity = descriptor.depth == 0 ? onlyEntityOf(attribute, operations) : nullptr)
+        return {{entity, std::nullopt}};
     StepValue const value = operations.write(attribute, descriptor, PlainWriter());
     if (value.kind() == Kind::List && descriptor.kind == ValueKind::Integer && descriptor.depth == 1)
         return {{integersOf(value), std::nullopt}};

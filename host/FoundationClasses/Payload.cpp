@@ -44,6 +44,36 @@ std::optional<std::int64_t> parseInteger(std::string_view text)
     return number;
 }
 
+std::optional<double> parseReal(std::string_view text) { return str::parseDouble(trimmed(text)); }
+
+/// The form that `payloadText` gives of a list: "(48, 8, 0)".
+template <class Number, class Parse>
+std::optional<Payload> parseList(std::string_view text, Parse parse)
+{
+    text = trimmed(text);
+    if (text.size() < 2 || text.front() != '(' || text.back() != ')')
+        return std::nullopt;
+    text = text.substr(1, text.size() - 2);
+    std::vector<Number> numbers;
+    while (true) {
+        auto const comma = text.find(',');
+        auto const number = parse(text.substr(0, comma));
+        if (!number)
+            return std::nullopt;
+        numbers.push_back(*number);
+        if (comma == std::string_view::npos)
+            return Payload(std::move(numbers));
+        text.remove_prefix(comma + 1);
+    }
+}
+
+/// The first digit tells how many bits of the second are unused.
+bool isBinary(std::string_view digits)
+{
+    return !digits.empty() && digits.front() >= '0' && digits.front() <= '3' &&
+           digits.find_first_not_of("0123456789ABCDEF") == std::string_view::npos;
+}
+
 std::optional<Payload> parseTruth(ValueKind kind, std::string_view text)
 {
     std::string const word = lowered(trimmed(text));
@@ -165,7 +195,7 @@ Payload defaultPayload(ValueKind kind, bool isAggregate)
     case ValueKind::Integer: return std::int64_t{0};
     case ValueKind::Real: return 0.0;
     case ValueKind::Text: return std::string();
-    case ValueKind::Binary: return Binary();
+    case ValueKind::Binary: return Binary{"0"};
     default: return {};
     }
 }
@@ -184,7 +214,7 @@ std::optional<double> payloadNumber(Payload const& payload)
 std::optional<Payload> parsePayload(ValueKind kind, bool isAggregate, std::string_view text)
 {
     if (isAggregate)
-        return std::nullopt;
+        return kind == ValueKind::Integer ? parseList<std::int64_t>(text, parseInteger) : parseList<double>(text, parseReal);
     switch (kind) {
     case ValueKind::Boolean:
     case ValueKind::Logical: return parseTruth(kind, text);
@@ -193,11 +223,11 @@ std::optional<Payload> parsePayload(ValueKind kind, bool isAggregate, std::strin
             return Payload(*number);
         return std::nullopt;
     case ValueKind::Real:
-        if (auto const number = str::parseDouble(trimmed(text)))
+        if (auto const number = parseReal(text))
             return Payload(*number);
         return std::nullopt;
     case ValueKind::Text: return Payload(std::string(text));
-    case ValueKind::Binary: return Payload(Binary{std::string(text)});
+    case ValueKind::Binary: return isBinary(text) ? std::optional<Payload>(Binary{std::string(text)}) : std::nullopt;
     default: return std::nullopt;
     }
 }

@@ -37,6 +37,7 @@ EntityIndex ReferenceBase::index() const { return m_entity ? m_entity->getIndex(
 
 void ReferenceBase::leaveModel()
 {
+    m_entity.reset();
     m_data = nullptr;
     m_index = noEntity;
 }

@@ -112,6 +112,12 @@ public:
         return m_entities;
     }
 
+    void leaveModel()
+    {
+        // Entities may hold each other by these lists.
+        m_entities.clear();
+        ReferenceListBase::leaveModel();
+    }
     void push_back(std::shared_ptr<T> const& entity) { append(ReferenceBase(entity)); }
     /// Takes out the reference to \p entity; false when there is none.
     bool erase(std::shared_ptr<T> const& entity)

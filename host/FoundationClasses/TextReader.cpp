@@ -1,5 +1,6 @@
 #include "FoundationClasses/TextReader.h"
 
+#include "Core/Id/Guid.h"
 #include "FoundationClasses/Attribute.h"
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/EntityClass.h"
@@ -26,6 +27,8 @@ std::optional<StepValue> stepValueOfText(AttributeDescriptor const& descriptor, 
         bool const isItem = std::find(items.begin(), items.end(), std::string_view(text)) != items.end();
         return isItem ? std::optional(StepValue::enumeration(text)) : std::nullopt;
     }
+    if (descriptor.typeName == "IfcGloballyUniqueId" && !Guid::fromString(text))
+        return std::nullopt;
     auto const payload = parsePayload(descriptor.kind, false, text);
     return payload ? std::optional(writePayload(descriptor.typeName, *payload, PlainWriter())) : std::nullopt;
 }

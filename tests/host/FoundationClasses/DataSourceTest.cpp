@@ -1,5 +1,5 @@
-#include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "FoundationClasses/Core/Kernel/FcProduct.h"
+#include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "FoundationClasses/Data.h"
 #include "FoundationClasses/Resource/Property/FcComplexProperty.h"
@@ -47,7 +47,8 @@ struct ReadModel : testing::Test
         auto records = std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
             {FcWall::idFirst, {{"Name", text("W1")}}},
             {FcRelDefinesByProperties::idFirst,
-             {{"RelatedObjects", references({1, 5})}, {"RelatingPropertyDefinition", StepValue::reference(3)}}},
+             {{"RelatedObjects", references({1, 5})},
+              {"RelatingPropertyDefinition", StepValue::reference(3)}}},
             {FcPropertySet::idFirst, {{"Name", text("Pset_X")}, {"HasProperties", references({4})}}},
             {FcPropertySingleValue::idFirst,
              {{"Name", text("FireRating")}, {"NominalValue", StepValue::typed("IFCLABEL", text("F30"))}}},
@@ -109,9 +110,10 @@ TEST_F(ReadModel, FollowsReferencesWhenTheyAreUsed)
 
 TEST_F(ReadModel, FindsRelationsWithoutMakingObjectsOfAll)
 {
-    EXPECT_THAT(data->relating(4, FcRelDefinesByProperties::idFirst, FcRelDefinesByProperties::idLast,
-                               fc::slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects")),
-                ElementsAre(1u));
+    EXPECT_THAT(
+        data->relating(4, FcRelDefinesByProperties::idFirst, FcRelDefinesByProperties::idLast,
+                       fc::slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects")),
+        ElementsAre(1u));
     EXPECT_EQ(data->objectCount(), 0u);
 }
 
@@ -128,7 +130,9 @@ TEST_F(ReadModel, RecordsWithoutAClassThatHasObjectsAreNobody)
 TEST_F(ReadModel, ReleasesObjectsThatNobodyUses)
 {
     auto const held = at<FcWall>(0);
-    (void)at<FcWall>(4)->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X")->HasProperties.getProperties();
+    (void)at<FcWall>(4)
+        ->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X")
+        ->HasProperties.getProperties();
     EXPECT_EQ(data->objectCount(), 5u);
     data->releaseUnused();
     EXPECT_EQ(data->objectCount(), 1u);
@@ -187,7 +191,8 @@ TEST_F(ReadModel, HeldObjectsOutliveIt)
 TEST(BrokenRecords, ReferencesOfTheWrongKindAreLeftOutAndTold)
 {
     auto records = std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
-        {FcPropertySet::idFirst, {{"Name", StepValue::integer(7)}, {"HasProperties", references({2, 1, 99})}}},
+        {FcPropertySet::idFirst,
+         {{"Name", StepValue::integer(7)}, {"HasProperties", references({2, 1, 99})}}},
         {FcPropertySingleValue::idFirst, {{"Name", text("A")}, {"NominalValue", StepValue::integer(1)}}},
     });
     auto const& source = *records;
@@ -197,8 +202,9 @@ TEST(BrokenRecords, ReferencesOfTheWrongKindAreLeftOutAndTold)
     ASSERT_EQ(set->HasProperties.getProperties().size(), 1u);
     EXPECT_TRUE(fc::entityCast<FcPropertySingleValue>(data->entity(1))->NominalValue->isEmpty());
     EXPECT_THAT(source.mismatches(),
-                ElementsAre("HasProperties: a reference to IfcProperty", "HasProperties: a reference to an existing record",
-                            "Name: a text", "NominalValue: a typed value such as IFCLABEL('text')"));
+                ElementsAre("HasProperties: a reference to IfcProperty",
+                            "HasProperties: a reference to an existing record", "Name: a text",
+                            "NominalValue: a typed value such as IFCLABEL('text')"));
 }
 
 TEST(BrokenRecords, APropertyThatHoldsItselfIsReadAndFreed)

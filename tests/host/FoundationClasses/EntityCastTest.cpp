@@ -59,9 +59,9 @@ TEST(EntityCast, TheClassTestTakesSubclassesIn)
 
 TEST(EntityNames, AreThoseOfTheExactClass)
 {
-    FcBase const& wall = *std::make_shared<FcWallStandardCase>();
-    EXPECT_STREQ(wall.getEntityName(), "IfcWallStandardCase");
-    EXPECT_STREQ(wall.getEntityNameUpper(), "IFCWALLSTANDARDCASE");
+    std::shared_ptr<FcBase const> const wall = std::make_shared<FcWallStandardCase>();
+    EXPECT_STREQ(wall->getEntityName(), "IfcWallStandardCase");
+    EXPECT_STREQ(wall->getEntityNameUpper(), "IFCWALLSTANDARDCASE");
 }
 
 TEST(EntityNames, ComeWithTheirHash)

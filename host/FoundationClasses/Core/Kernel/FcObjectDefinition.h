@@ -67,12 +67,13 @@ public:
 
     /// The item of the predefined type, this object's own or else its type object's; "NOTDEFINED" when neither has one.
     [[nodiscard]] std::string predefinedTypeDerived() const;
-    /// The user's own type text where the predefined type is USERDEFINED: this object's own or else its type object's.
+    /// The user's own type text: the object's ObjectType, the type's ElementType and so on; this object's own or
+    /// else its type object's.
     [[nodiscard]] std::optional<std::string> userDefinedTypeDerived() const;
 
     /// The object's own predefined type; null or empty when there is none.
     [[nodiscard]] virtual char const* getPredefinedTypeText() const;
-    /// The object's ports, those nested in it and those attached to it by the older relation. Empty by default.
+    /// The object's ports, each once: those nested in it, then those attached to it by the older relation.
     [[nodiscard]] virtual std::vector<std::shared_ptr<productextension::FcPort>> getPorts() const;
 
 protected:

@@ -29,6 +29,9 @@ bool FcElementQuantity::removeQuantity(std::string const& name)
     if (found == quantities.end())
         return quantities.empty();
     auto const quantity = *found;
+    std::optional<ChangeLog::Step> step;
+    if (getData())
+        step.emplace(getData()->changes(), "Remove quantity");
     Quantities.edit([&quantity](auto& list) { list.erase(quantity); });
     if (getData())
         getData()->deleteIfUnreferenced(quantity);

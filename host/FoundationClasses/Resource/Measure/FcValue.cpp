@@ -5,6 +5,7 @@
 #include "Object/PropertyValue.h"
 
 #include <cmath>
+#include <utility>
 
 namespace qev::fc::resource::measure {
 
@@ -39,6 +40,11 @@ FcValue valueOfType(std::string_view ValueTypeInfo::*field, std::string_view nam
     if (auto const type = typeFromName<FcDerivedMeasureValue>(derivedMeasureValueTypes(), field, name))
         return FcDerivedMeasureValue(*type);
     return {};
+}
+
+bool isTruth(ValueTypeInfo const* info)
+{
+    return info && (info->kind == ValueKind::Boolean || info->kind == ValueKind::Logical);
 }
 
 bool isWhole(double number) { return number == std::floor(number) && std::abs(number) < 9.0e15; }
@@ -159,7 +165,7 @@ object::PropertyValue FcValue::getAsPropertyValue() const
     Payload const& content = payload();
     if (auto const* const truth = std::get_if<bool>(&content))
         return object::PropertyValue(*truth);
-    if (auto const* const integer = std::get_if<std::int64_t>(&content))
+    if (auto const* const integer = std::get_if<std::int64_t>(&content); integer && std::in_range<int>(*integer))
         return object::PropertyValue(static_cast<int>(*integer));
     if (auto const* const real = std::get_if<double>(&content))
         return object::PropertyValue(*real);
@@ -177,8 +183,10 @@ bool FcValue::updateValueFromPropertyValue(object::PropertyValue const& value)
         return setDoubleValue(plain->get<double>());
     if (plain->is<int>())
         return setDoubleValue(plain->get<int>());
+    if (plain->is<std::uint32_t>())
+        return setDoubleValue(plain->get<std::uint32_t>());
     if (plain->is<bool>())
-        return setValueOnTypeFromString(plain->get<bool>() ? "true" : "false");
+        return isTruth(typeInfo()) && setValueOnTypeFromString(plain->get<bool>() ? "true" : "false");
     return plain->is<std::string>() && setValueOnTypeFromString(plain->get<std::string>());
 }
 

@@ -71,6 +71,7 @@ public:
     [[nodiscard]] std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentation() const;
 
     /// The value for the generic editor: a number, integer, truth value or text; nothing for the empty value.
+    /// An integer that the editor's kind cannot hold is a text.
     [[nodiscard]] object::PropertyValue getAsPropertyValue() const;
     /// Stores a value of the generic editor; false when it does not fit the type.
     bool updateValueFromPropertyValue(object::PropertyValue const& value);

@@ -5,8 +5,28 @@
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "FoundationClasses/Data.h"
 #include "FoundationClasses/Resource/Property/FcComplexProperty.h"
+#include "FoundationClasses/Resource/Property/FcExtendedProperties.h"
+
+#include <utility>
 
 namespace qev::fc::resource::property {
+
+namespace {
+
+/// Material and profile properties hold properties too; the standard has no inverse attribute for them.
+std::vector<std::shared_ptr<FcExtendedProperties>> extendedPropertiesOf(Data& data, EntityIndex property)
+{
+    static unsigned int const slot = slotFromName(FcExtendedProperties::staticEntityClass(), "Properties");
+    std::vector<std::shared_ptr<FcExtendedProperties>> holders;
+    for (EntityIndex const index :
+         data.relating(property, FcExtendedProperties::idFirst, FcExtendedProperties::idLast, slot)) {
+        if (auto holder = entityCast<FcExtendedProperties>(data.entity(index)))
+            holders.push_back(std::move(holder));
+    }
+    return holders;
+}
+
+} // namespace
 
 void FcProperty::deleteProperty(Data& data, bool deleteEmptySets)
 {
@@ -16,6 +36,8 @@ void FcProperty::deleteProperty(Data& data, bool deleteEmptySets)
         if (auto const complex = reference.lock())
             complex->HasProperties.edit([&self](auto& list) { list.erase(self); });
     }
+    for (auto const& holder : extendedPropertiesOf(data, getIndex()))
+        holder->Properties.edit([&self](auto& list) { list.erase(self); });
     for (auto const& reference : PartOfPset()) {
         auto const set = reference.lock();
         if (!set)

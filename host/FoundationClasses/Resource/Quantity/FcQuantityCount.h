@@ -9,7 +9,7 @@ class HOSTFOUNDATIONCLASSES_EXPORT FcQuantityCount : public FcQuantityCountAttri
 {
 public:
     [[nodiscard]] double getValue() const override;
-    /// The number is cut towards zero.
+    /// The number is cut towards zero. One that is not finite or too large for a count changes nothing.
     void setValue(double value) override;
     [[nodiscard]] std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentation() const override;
 };

@@ -216,7 +216,8 @@ TEST_F(Changes, WhatWasSavedIsLostOnceItsStepsAre)
 TEST_F(Changes, AreToldOnceForEachStepUndoAndRedo)
 {
     std::vector<std::vector<EntityIndex>> told;
-    model.data()->changed.vHandlerAdd([&told](std::vector<EntityIndex> const& places) { told.push_back(places); });
+    model.data()->changed.iHandlerAdd(
+        [&told](std::vector<EntityIndex> const& places) { told.push_back(places); });
     auto const other = wall->getIndex() + 1;
     {
         ChangeLog::Step const step(log, "Two");
@@ -233,7 +234,7 @@ TEST_F(Changes, AreToldOnceForEachStepUndoAndRedo)
 
 TEST_F(Changes, AHandlerMayChangeTheModelItself)
 {
-    model.data()->changed.vHandlerAdd([this](std::vector<EntityIndex> const&) { wall->Tag = "seen"; });
+    model.data()->changed.iHandlerAdd([this](std::vector<EntityIndex> const&) { wall->Tag = "seen"; });
     wall->Name = "W2";
     EXPECT_EQ(wall->Tag.get(), "seen");
     log.undo();

@@ -4,6 +4,7 @@
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
 #include "FoundationClasses/Domain/Architecture/FcDoorPanelProperties.h"
+#include "FoundationClasses/Resource/Property/FcProperty.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWallType.h"
 #include "kit/ModelBuilder.h"
@@ -202,7 +203,7 @@ TEST(DeleteObjectSet, TakesTheSetItsPropertiesAndTheRelationOutOfTheModel)
     Model model;
     auto const wall = model.wall("W1");
     auto const set = model.addSet(wall, "Pset_X", {{"A", label("1")}});
-    auto const property = fc::entityCast<fc::FcBase>(set->HasProperties.getProperties()[0]);
+    auto const property = set->HasProperties.getProperties()[0];
     EXPECT_TRUE(wall->deletePropertySetDefinition("Pset_X"));
     EXPECT_TRUE(model.data()->isDeleted(set->getIndex()));
     EXPECT_TRUE(model.data()->isDeleted(property->getIndex()));
@@ -302,7 +303,7 @@ TEST(CreateObjectSet, IsTakenBackByOneUndo)
 {
     Model model;
     auto const wall = model.wall("W1");
-    wall->getOrCreatePropertySetDefinition<FcPropertySet>(*model.data(), "Pset_X");
+    model.addSet(wall, "Pset_X");
     model.data()->changes().undo();
     EXPECT_THAT(setNames(*wall), IsEmpty());
     EXPECT_EQ(relationCount(model), 0u);

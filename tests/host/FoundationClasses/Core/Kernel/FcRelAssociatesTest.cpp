@@ -55,7 +55,8 @@ TEST_F(DocumentRelation, SettingObjectsReplacesTheFormerOnes)
 
 TEST_F(DocumentRelation, ErasesOneObject)
 {
-    relation->setRelatedObjects({FcDefinitionSelect(wall), FcDefinitionSelect(door), FcDefinitionSelect(wall)});
+    relation->setRelatedObjects(
+        {FcDefinitionSelect(wall), FcDefinitionSelect(door), FcDefinitionSelect(wall)});
     relation->eraseRelatedObjects(FcDefinitionSelect(wall));
     ASSERT_EQ(relation->RelatedObjects->size(), 1u);
     EXPECT_EQ(relation->RelatedObjects->front().getObjectDefinition(), door);

@@ -1,8 +1,8 @@
 #include "FoundationClasses/Resource/Measure/FcValue.h"
 
 #include "Core/Unit/QuantityPresentation.h"
-#include "Object/PropertyValue.h"
 #include "kit/ModelBuilder.h"
+#include "Object/PropertyValue.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -78,7 +78,8 @@ TEST(FcValue, NamesItsTypesWithoutPrefix)
 {
     EXPECT_EQ(FcSimpleValue::nameFromEnum(Simple::Label), "Label");
     EXPECT_EQ(FcMeasureValue::nameFromEnum(FcMeasureValue::Types::LengthMeasure), "LengthMeasure");
-    EXPECT_EQ(FcDerivedMeasureValue::nameFromEnum(FcDerivedMeasureValue::Types::PowerMeasure), "PowerMeasure");
+    EXPECT_EQ(FcDerivedMeasureValue::nameFromEnum(FcDerivedMeasureValue::Types::PowerMeasure),
+              "PowerMeasure");
     EXPECT_EQ(FcSimpleValue::nameFromEnum(Simple::None), "");
 }
 
@@ -149,8 +150,9 @@ TEST(FcValue, OrderIsByFamilyThenTypeThenPayload)
 
 TEST(FcValue, OrderIsStrict)
 {
-    std::vector<FcValue> const values{FcValue(), label("a"), label("b"), text("a"), boolean(true), length(1),
-                                      length(2), number("PowerMeasure", 1), integer(1), real(1)};
+    std::vector<FcValue> const values{FcValue(),     label("a"), label("b"), text("a"),
+                                      boolean(true), length(1),  length(2),  number("PowerMeasure", 1),
+                                      integer(1),    real(1)};
     for (FcValue const& a : values) {
         EXPECT_FALSE(a < a);
         for (FcValue const& b : values) {
@@ -191,8 +193,9 @@ TEST(FcValue, EveryTypeReadsBackTheTextItGives)
     for (ValueTypeInfo const& info : allTypes()) {
         FcValue value;
         ASSERT_TRUE(value.setTypeFromString(std::string(info.name))) << info.name;
-        if (info.isAggregate)
+        if (info.isAggregate) {
             ASSERT_TRUE(value.setValueOnTypeFromString("(1, -2, 3)")) << info.name;
+        }
         FcValue again;
         ASSERT_TRUE(again.setTypeFromString(std::string(info.name)));
         EXPECT_TRUE(again.setValueOnTypeFromString(value.getAsString(false).value_or("none"))) << info.name;
@@ -222,7 +225,9 @@ TEST(FcValue, EveryTypeTakesTextsOfItsKind)
     for (ValueTypeInfo const& info : allTypes()) {
         FcValue value;
         ASSERT_TRUE(value.setTypeFromString(std::string(info.name)));
-        auto const takes = [&value](std::string const& typed) { return value.setValueOnTypeFromString(typed); };
+        auto const takes = [&value](std::string const& typed) {
+            return value.setValueOnTypeFromString(typed);
+        };
         if (info.isAggregate)
             continue;
         bool const isTruth = info.kind == ValueKind::Boolean || info.kind == ValueKind::Logical;
@@ -357,11 +362,12 @@ TEST(FcValue, GoesToTheGenericEditorByItsKind)
 
 TEST(FcValue, ComesBackFromTheGenericEditor)
 {
-    for (FcValue const& value : {label("a"), length(2.5), integer(7), boolean(true), logical(Logical::Unknown),
-                                 integer(5000000000), number("PowerMeasure", 4)}) {
+    for (FcValue const& value : {label("a"), length(2.5), integer(7), boolean(true),
+                                 logical(Logical::Unknown), integer(5000000000), number("PowerMeasure", 4)}) {
         FcValue target;
         ASSERT_TRUE(target.setTypeFromString(std::string(value.typeInfo()->name)));
-        EXPECT_TRUE(target.updateValueFromPropertyValue(value.getAsPropertyValue())) << *value.getAsString(true);
+        EXPECT_TRUE(target.updateValueFromPropertyValue(value.getAsPropertyValue()))
+            << *value.getAsString(true);
         EXPECT_TRUE(areEqual(target, value)) << *value.getAsString(true);
     }
 }

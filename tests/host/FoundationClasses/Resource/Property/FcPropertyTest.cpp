@@ -12,8 +12,8 @@
 #include "FoundationClasses/Resource/Property/FcPropertyListValue.h"
 #include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
-#include "Object/PropertyValue.h"
 #include "kit/ModelBuilder.h"
+#include "Object/PropertyValue.h"
 
 #include <gtest/gtest.h>
 
@@ -143,8 +143,7 @@ TEST(SetFromPropertyValue, ARefusedValueIsNoChangeOfTheModel)
 {
     Model model;
     auto const set = model.addSet(model.wall("W1"), "Pset_X", {{"Width", length(2.5)}});
-    auto const property =
-        fc::entityCast<FcPropertySingleValue>(set->HasProperties.getProperties()[0]);
+    auto const property = fc::entityCast<FcPropertySingleValue>(set->HasProperties.getProperties()[0]);
     model.data()->changes().setSaved();
     EXPECT_FALSE(property->setFromPropertyValue(PropertyValue("wide")));
     EXPECT_FALSE(model.data()->changes().isModified());

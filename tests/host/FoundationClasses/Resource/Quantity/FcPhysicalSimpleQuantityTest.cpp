@@ -92,7 +92,8 @@ TEST(Quantities, ACountTakesNoNumberThatIsTooLarge)
 TEST(QuantitySet, KeepsQuantitiesInStoredOrder)
 {
     Model model;
-    auto const set = model.addQuantities(model.wall("W1"), "Qto_X", {{"B", 1.0}, {"A", 2.0, QuantityKind::Area}});
+    auto const set =
+        model.addQuantities(model.wall("W1"), "Qto_X", {{"B", 1.0}, {"A", 2.0, QuantityKind::Area}});
     ASSERT_EQ(set->Quantities->size(), 2u);
     EXPECT_EQ(set->Quantities->get()[0]->Name.get(), "B");
     EXPECT_TRUE(set->hasProperty("A"));
