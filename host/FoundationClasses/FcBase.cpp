@@ -27,6 +27,15 @@ std::uint32_t fnv1a(std::string_view text)
     return hash;
 }
 
+/// By class number.
+std::vector<std::uint32_t> hashesOfNames(char const* EntityClass::*name)
+{
+    std::vector<std::uint32_t> hashes;
+    for (unsigned int number = 0; number <= FcBase::idLast; ++number)
+        hashes.push_back(fnv1a(entityClassFromNumber(number)->*name));
+    return hashes;
+}
+
 std::string_view withoutPrefix(std::string_view schemaName)
 {
     return schemaName.substr(0, 3) == "Ifc" ? schemaName.substr(3) : schemaName;
@@ -61,9 +70,14 @@ char const* FcBase::getEntityNameUpper() const { return getEntityClass().nameUpp
 char const* FcBase::getEntityName() const { return getEntityClass().name; }
 FcBase::HashedName FcBase::getEntityNameUpperHashed() const
 {
-    return {getEntityNameUpper(), fnv1a(getEntityNameUpper())};
+    static std::vector<std::uint32_t> const hashes = hashesOfNames(&EntityClass::nameUpper);
+    return {getEntityNameUpper(), hashes[getIdFirst()]};
 }
-FcBase::HashedName FcBase::getEntityNameHashed() const { return {getEntityName(), fnv1a(getEntityName())}; }
+FcBase::HashedName FcBase::getEntityNameHashed() const
+{
+    static std::vector<std::uint32_t> const hashes = hashesOfNames(&EntityClass::name);
+    return {getEntityName(), hashes[getIdFirst()]};
+}
 char const* FcBase::getGroupName() const { return getEntityClass().group; }
 char const* FcBase::getQualifiedGroupName() const { return getEntityClass().qualifiedGroup; }
 unsigned int FcBase::getIdFirst() const { return getEntityClass().idFirst; }

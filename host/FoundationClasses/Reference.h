@@ -15,9 +15,9 @@ class FcBase;
 
 /// A reference from one entity to another, without its type.
 ///
-/// A reference read from a file is a place in the model and becomes an object when asked for;
-/// it does not keep the entity alive, the model does. A reference to an entity that is not in
-/// any model holds the entity itself.
+/// A reference into a model is a place there and becomes an object when asked for; the model keeps the entity
+/// alive, and has to outlive whatever refers into it from outside. A reference to an entity that is not in any
+/// model holds the entity itself. At the end of a model its own references let go.
 class HOSTFOUNDATIONCLASSES_EXPORT ReferenceBase
 {
 public:
