@@ -121,6 +121,12 @@ void QtPropertyGridView::restorePlace()
     verticalScrollBar()->setValue(place->scroll);
 }
 
+void QtPropertyGridView::setAllFolded(bool folded)
+{
+    for (int position = 0; position < m_rows.rowCount(); ++position)
+        setExpanded(m_rows.index(position, nameColumn), !folded);
+}
+
 void QtPropertyGridView::copySelection()
 {
     auto indexes = selectionModel()->selectedRows();

@@ -31,6 +31,8 @@ public:
 
     /// Puts back what was current and where the view was scrolled to before the rows were made anew.
     void restorePlace();
+    /// Folds or unfolds all groups there are.
+    void setAllFolded(bool folded);
     /// Copies the selected rows to the clipboard.
     void copySelection();
     /// Opens the editor of a row, with its drop list open if it has one and \p withChoices.

@@ -1,0 +1,175 @@
+#include "PropertyPane.h"
+
+#include "Core/Localization/Dictionaries.h"
+#include "Format/Ifc/Schema/SchemaLoader.h"
+#include "ObjectLabel.h"
+#include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControl.h"
+#include "UI/FoundationClasses/Property/PropertyInterface.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
+#include "Ui/Qt/QtBackend.h"
+#include "Ui/Qt/QtDialog.h"
+#include "Ui/Qt/QtText.h"
+#include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
+
+#include <QVBoxLayout>
+
+namespace qev::application {
+
+namespace {
+
+using fc::ui::PropertySetGridControl;
+using GridFormatters =
+    fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>;
+
+/// A dialog whose children take all of its area.
+class FilledDialog final : public ui::Dialog
+{
+public:
+    void onSizeChanged(ui::Size const& size) override
+    {
+        for (auto const& child : getChildWindowManager()->getWindows())
+            child->setPlacement({0, 0, static_cast<int>(size.first), static_cast<int>(size.second)});
+    }
+};
+
+} // namespace
+
+PropertyPane::PropertyPane(std::shared_ptr<ui::QtBackend> backend, InspectorSession& session, QWidget* parent)
+    : QWidget(parent)
+    , m_backend(std::move(backend))
+    , m_session(session)
+    , m_title(new QLabel)
+    , m_pages(new QStackedWidget)
+    , m_hint(new QLabel)
+{
+    auto* const area = new ui::QtDialog;
+    m_dialog = ui::Window::attachTo<FilledDialog>(m_backend->addDialogWidget(*area));
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    m_title->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_title->setWordWrap(true);
+    m_title->setMargin(fontMetrics().averageCharWidth());
+    m_pages->addWidget(m_hint);
+    m_pages->addWidget(area);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_title);
+    layout->addWidget(m_pages);
+    showFile();
+}
+
+PropertyPane::~PropertyPane() { leaveFile(); }
+
+void PropertyPane::showFile()
+{
+    if (m_session.isOpen() && !m_control)
+        createControl();
+    showSelection();
+}
+
+void PropertyPane::leaveFile()
+{
+    if (!m_control)
+        return;
+    m_gridLayout = getGridLayout();
+    // The rows lead to what the control is about to forget, so they go first.
+    auto const window = m_control->getPropertyGridControl();
+    window->removeAllProperties();
+    m_control->reset();
+    m_control.reset();
+    window->detach(true);
+}
+
+void PropertyPane::showSelection()
+{
+    auto const& object = m_session.getSelection();
+    m_title->setVisible(object != nullptr);
+    if (!m_session.isOpen()) {
+        showHint(tr("Open an IFC file by File > Open (Ctrl+O), or drop one here."));
+        return;
+    }
+    auto const model = m_session.getData();
+    if (!object) {
+        m_control->setObjects(model, {});
+        showHint(tr("Select an object in the structure on the left, or find one by Ctrl+F."));
+        return;
+    }
+    auto const label = ObjectLabel::of(*model, object->getIndex());
+    m_title->setText("<b>" + ui::toQString(label.getTitle()).toHtmlEscaped() + "</b>&nbsp;&nbsp; " +
+                     ui::toQString(label.className).toHtmlEscaped() + "&nbsp;&nbsp; " +
+                     ui::toQString(label.globalId).toHtmlEscaped());
+    if (m_control->getObjects() != std::vector{object}) {
+        // Between two objects is the time to let go of what nobody looks at any more.
+        m_control->setObjects(model, {});
+        model->releaseUnused();
+    }
+    m_control->setObject(model, object);
+    m_pages->setCurrentIndex(1);
+}
+
+void PropertyPane::setUnusedShown(bool shown)
+{
+    m_isUnusedShown = shown;
+    if (!m_control)
+        return;
+    if (shown)
+        m_control->showUnusedProperties();
+    else
+        m_control->hideUnusedProperties();
+}
+
+ui::QtPropertyGrid* PropertyPane::getGrid() const
+{
+    return m_control ? m_backend->getPropertyGrid(*m_control->getPropertyGridControl()) : nullptr;
+}
+
+QString PropertyPane::getHint() const { return m_pages->currentIndex() == 0 ? m_hint->text() : QString(); }
+
+std::string PropertyPane::getCurrentSetName() const
+{
+    auto const* const grid = getGrid();
+    auto const* const row =
+        grid ? ui::QtPropertyGridItemModel::getRow(grid->getView().currentIndex()) : nullptr;
+    if (!row || row->getState().kind == ui::PropertyGridRowState::Kind::Group || !row->getUserData())
+        return {};
+    return static_cast<fc::ui::PropertyInterface const*>(row->getUserData())->getPropertySetName();
+}
+
+QByteArray PropertyPane::getGridLayout() const
+{
+    auto const* const grid = getGrid();
+    return grid ? grid->saveLayout() : m_gridLayout;
+}
+
+void PropertyPane::setGridLayout(QByteArray const& layout)
+{
+    m_gridLayout = layout;
+    if (auto* const grid = getGrid())
+        grid->restoreLayout(layout);
+}
+
+void PropertyPane::showHint(QString const& hint)
+{
+    m_hint->setText(hint);
+    m_pages->setCurrentIndex(0);
+}
+
+void PropertyPane::createControl()
+{
+    m_control = std::make_shared<PropertySetGridControl>(
+        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_session.getData(), m_dialog, nullptr,
+        GridFormatters{}, localization::Dictionaries::getContexts("IFC"), nullptr);
+    m_control->init(0, std::nullopt, true);
+    setUnusedShown(m_isUnusedShown);
+    m_dialog->onSizeChanged(m_dialog->getClientAreaSize());
+    auto* const grid = getGrid();
+    if (!m_gridLayout.isEmpty())
+        grid->restoreLayout(m_gridLayout);
+    grid->getView().onCurrentRowChanged.iHandlerAdd(
+        [this](QModelIndex const&) { fireEvents(onCurrentRowChanged); });
+}
+
+} // namespace qev::application

@@ -1,0 +1,67 @@
+#include "ObjectSearch.h"
+
+#include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+
+#include <algorithm>
+#include <sstream>
+
+namespace qev::application {
+
+namespace {
+
+using fc::core::kernel::FcObjectDefinition;
+
+std::string toLower(std::string text)
+{
+    for (char& character : text)
+        if (character >= 'A' && character <= 'Z')
+            character = static_cast<char>(character - 'A' + 'a');
+    return text;
+}
+
+std::vector<std::string> getWords(std::string const& text)
+{
+    std::istringstream stream(toLower(text));
+    std::vector<std::string> words;
+    for (std::string word; stream >> word;)
+        words.push_back(word);
+    return words;
+}
+
+} // namespace
+
+ObjectSearch::ObjectSearch(std::shared_ptr<fc::Data> data, std::string const& text)
+    : m_data(std::move(data))
+    , m_words(getWords(text))
+{
+    if (!m_words.empty())
+        m_objects = m_data->indicesFromId(FcObjectDefinition::idFirst, FcObjectDefinition::idLast);
+}
+
+std::vector<ObjectSearch::Hit> ObjectSearch::advance(std::size_t count)
+{
+    std::vector<Hit> hits;
+    auto const end = std::min(m_objects.size(), m_position + count);
+    for (; m_position < end && m_hits < hitLimit; ++m_position) {
+        auto const object = m_objects[m_position];
+        if (m_data->isDeleted(object))
+            continue;
+        auto label = ObjectLabel::of(*m_data, object);
+        if (!matches(label))
+            continue;
+        hits.push_back({object, std::move(label)});
+        ++m_hits;
+    }
+    return hits;
+}
+
+bool ObjectSearch::isFinished() const { return m_position >= m_objects.size() || isCutShort(); }
+
+bool ObjectSearch::matches(ObjectLabel const& label) const
+{
+    auto const text = toLower(label.name + '\n' + label.className + '\n' + label.globalId);
+    return std::all_of(m_words.begin(), m_words.end(),
+                       [&](std::string const& word) { return text.find(word) != std::string::npos; });
+}
+
+} // namespace qev::application
