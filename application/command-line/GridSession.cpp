@@ -172,9 +172,11 @@ bool GridSession::type(GridGroup::Row const& row, std::string const& text)
         isAccepted = window.choose(row.row, text) || window.type(row.row, text);
     else
         isAccepted = window.type(row.row, text);
-    if (!isAccepted && row.record.editor != "none")
+    // The control blanks a row whose value the model refused.
+    bool const isBlanked = isAccepted && !text.empty() && ui::PropertyGridEditing::getDisplayedText(*row.row).empty();
+    if (isBlanked || (!isAccepted && row.record.editor != "none"))
         m_message = window.getMessage().empty() ? "it does not take this value" : window.getMessage();
-    return isAccepted;
+    return isAccepted && !isBlanked;
 }
 
 bool GridSession::setCheckBox(GridGroup::Row const& row, std::string const& text)

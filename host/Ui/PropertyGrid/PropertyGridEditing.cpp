@@ -58,12 +58,13 @@ PropertyGridEditResult storeText(PropertyGridRow& row, std::string_view text)
     return accepted();
 }
 
+/// The handlers run for an equal number too: a zero that is shown may stand for no value at all.
 PropertyGridEditResult storeNumber(PropertyGridRow& row, std::optional<double> number)
 {
-    if (row.getState().number != number) {
-        row.setNumber(number);
-        tellEdited(row);
-    }
+    if (!row.getState().number && !number)
+        return accepted();
+    row.setNumber(number);
+    tellEdited(row);
     return accepted();
 }
 
@@ -76,7 +77,7 @@ PropertyGridEditResult store(PropertyGridRow& row, std::string_view text)
         return storeNumber(row, std::nullopt);
     // An unchanged text stands for the very number, whatever a round trip through units would make of it.
     if (text == PropertyGridEditing::getEditorText(row))
-        return accepted();
+        return storeNumber(row, row.getState().number);
     auto const number = PropertyGridNumber::read(text, row.getQuantityPresentation());
     if (!number)
         return refused(quoted(text) + " is not a number that this property can take.");

@@ -33,8 +33,9 @@ struct PropertyGridEditResult
 ///
 /// An input that changes a row sets the row's value first and then runs the handlers: those of the
 /// control after a changed value, those of the row after a click. The handlers may remove the row; whoever
-/// calls holds it by `shared_ptr`. An input that says what the row holds already is accepted, changes
-/// nothing and runs no handler.
+/// calls holds it by `shared_ptr`. A text that the row holds already is accepted, changes nothing and runs
+/// no handler; a number runs them always, as the zero of a row without a value is a number to be set.
+/// An editor that nobody typed into is not an input.
 class HOSTUI_EXPORT PropertyGridEditing
 {
 public:

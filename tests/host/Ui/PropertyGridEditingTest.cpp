@@ -154,7 +154,7 @@ TEST_F(PropertyGridEditingTest, ATextThatIsNoNumberIsRefusedWithAMessage)
     EXPECT_TRUE(changes.empty());
 }
 
-TEST_F(PropertyGridEditingTest, TheEditorOpensWithAllDigitsAndTakesThemBackUnchanged)
+TEST_F(PropertyGridEditingTest, TheEditorOpensWithAllDigitsAndTakesThemBackAsTheSameNumber)
 {
     double const value = 1.0 / 3;
     auto& row = addLength(value);
@@ -163,7 +163,12 @@ TEST_F(PropertyGridEditingTest, TheEditorOpensWithAllDigitsAndTakesThemBackUncha
     EXPECT_NE(text, Editing::getDisplayedText(row));
     EXPECT_TRUE(Editing::commitText(row, text).accepted);
     EXPECT_EQ(row.getState().number, value);
-    EXPECT_TRUE(changes.empty());
+}
+
+TEST_F(PropertyGridEditingTest, ATypedZeroIsToldAlthoughARowWithoutAValueShowsZeroToo)
+{
+    EXPECT_TRUE(Editing::commitText(addLength(0), "0").accepted);
+    EXPECT_THAT(changes, ElementsAre("Width = 0 m"));
 }
 
 TEST_F(PropertyGridEditingTest, ClearingBlanksTextsAndNumbers)
