@@ -3,6 +3,7 @@
 #include "Core/Localization/Dictionaries.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "ObjectLabel.h"
+#include "ShowAllFilter.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControl.h"
 #include "UI/FoundationClasses/Property/PropertyInterface.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
@@ -160,8 +161,8 @@ void PropertyPane::showHint(QString const& hint)
 void PropertyPane::createControl()
 {
     m_control = std::make_shared<PropertySetGridControl>(
-        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_session.getData(), m_dialog, nullptr,
-        GridFormatters{}, localization::Dictionaries::getContexts("IFC"), nullptr);
+        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_session.getData(), m_dialog,
+        std::make_shared<ShowAllFilter>(), GridFormatters{}, localization::Dictionaries::getContexts("IFC"), nullptr);
     m_control->init(0, std::nullopt, true);
     setUnusedShown(m_isUnusedShown);
     m_dialog->onSizeChanged(m_dialog->getClientAreaSize());
