@@ -1,3 +1,4 @@
+#include "Core/Assert/Assert.h"
 #include "MainWindow.h"
 #include "Ui/Qt/QtBackend.h"
 
@@ -67,8 +68,11 @@ int main(int argc, char** argv)
     QCommandLineOption const object("object", "Select the object with this GlobalId.", "GUID");
     QCommandLineOption const screenshot("screenshot", "Write a picture of the window to FILE.png and quit.",
                                         "FILE.png");
-    parser.addOptions({object, screenshot});
+    QCommandLineOption const reports("reports", "Print reports of programming errors on the error stream.");
+    parser.addOptions({object, screenshot, reports});
     parser.process(application);
+    // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers only.
+    qev::assert::Assert::setEnabled(parser.isSet(reports));
 
     auto const backend = qev::ui::QtBackend::install();
     MainWindow window(backend);
