@@ -1,0 +1,146 @@
+#include "FileFigures.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <map>
+#include <utility>
+
+namespace qev::benchmarks {
+
+namespace {
+
+constexpr double million = 1e6;
+
+template <class Member>
+auto medianOf(std::vector<Measurement> const& runs, Member member)
+{
+    std::vector<std::remove_cvref_t<decltype(runs.front().*member)>> values;
+    for (Measurement const& run : runs)
+        values.push_back(run.*member);
+    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+Measurement median(std::vector<Measurement> const& runs)
+{
+    return {medianOf(runs, &Measurement::seconds), medianOf(runs, &Measurement::processorSeconds),
+            medianOf(runs, &Measurement::bytes)};
+}
+
+std::string format(char const* pattern, double a, double b = 0.0)
+{
+    std::array<char, 100> text = {};
+    std::snprintf(text.data(), text.size(), pattern, a, b);
+    return text.data();
+}
+
+std::string times(Measurement const& measurement)
+{
+    return format("%7.1f ms (processor %7.1f ms)", measurement.seconds * 1e3,
+                  measurement.processorSeconds * 1e3);
+}
+
+std::string megabytes(double bytes) { return format("%7.1f MB", bytes / million); }
+
+} // namespace
+
+FileFigures::FileFigures(ChildProcess const& process, std::filesystem::path file,
+                         std::optional<std::filesystem::path> commandLine)
+    : m_process(process)
+    , m_file(std::move(file))
+    , m_commandLine(std::move(commandLine))
+{
+}
+
+void FileFigures::addRun(Work work, Runs& runs) const
+{
+    if (auto const measurement = m_process.run(work, m_file))
+        runs.push_back(*measurement);
+}
+
+void FileFigures::addGridRun(std::string const& globalId, Runs& runs) const
+{
+    if (auto const measurement =
+            m_process.time({m_commandLine->string(), "grid", m_file.string(), "--object", globalId}))
+        runs.push_back(*measurement);
+}
+
+std::string FileFigures::someGlobalId() const
+{
+    // Walls are in every building; one from the middle of the file is as good as any.
+    constexpr std::size_t lengthOfGlobalId = 22;
+    std::ifstream file(m_file, std::ios::binary);
+    file.seekg(static_cast<std::streamoff>(std::filesystem::file_size(m_file) / 2));
+    std::string line;
+    while (std::getline(file, line)) {
+        auto const place = line.find("IFCWALL");
+        auto const quote = line.find('\'', place);
+        if (place != std::string::npos && quote != std::string::npos &&
+            line.find("TYPE(") == std::string::npos)
+            return line.substr(quote + 1, lengthOfGlobalId);
+    }
+    return {};
+}
+
+FigureTable FileFigures::measure(unsigned int runs) const
+{
+    std::map<Work, Runs> all;
+    Runs gridRuns;
+    std::string const globalId = m_commandLine ? someGlobalId() : std::string();
+    for (unsigned int run = 0; run < runs; ++run) {
+        // In turn, so that a busy minute of the machine meets all of them.
+        for (Work const work : {Work::Floor, Work::Open, Work::Read, Work::Copy, Work::Save, Work::Look})
+            addRun(work, all[work]);
+        if (!globalId.empty())
+            addGridRun(globalId, gridRuns);
+    }
+
+    auto const size = static_cast<double>(std::filesystem::file_size(m_file));
+    FigureTable table(m_file.filename().string() + ", " + megabytes(size));
+    if (all[Work::Floor].empty() || all[Work::Open].empty() || all[Work::Copy].empty()) {
+        table.addFailure("floor, open and copy");
+        return table;
+    }
+    Measurement const floor = median(all[Work::Floor]);
+    Measurement const open = median(all[Work::Open]);
+    Measurement const copy = median(all[Work::Copy]);
+    auto const addInFloors = [&](std::string const& work, Measurement const& measured, double bar) {
+        double const floors = measured.seconds / floor.seconds;
+        table.add(work, times(measured) + format("  %5.2f x floor", floors), format("%.1f x floor", bar),
+                  floors / bar);
+    };
+    auto const addMemory = [&](std::string const& work, Measurement const& measured, double bar) {
+        auto const bytes = static_cast<double>(measured.bytes);
+        table.add(work, megabytes(bytes), megabytes(bar), bytes / bar);
+    };
+    auto const addTime = [&](std::string const& work, Measurement const& measured, double bar) {
+        table.add(work, times(measured), format("%7.1f ms", bar * 1e3), measured.seconds / bar);
+    };
+
+    table.add("floor", times(floor));
+    table.add("copy with flush", times(copy));
+    addInFloors("open", open, 2.5);
+    addMemory("memory after opening", open, 1.6 * size + 60 * million);
+    if (all[Work::Read].empty())
+        table.addFailure("open and read all properties");
+    else
+        addInFloors("open and read all properties", median(all[Work::Read]), 10.0);
+    if (all[Work::Save].empty())
+        table.addFailure("open, change 10,000 and save");
+    else
+        addTime("open, change 10,000 and save", median(all[Work::Save]), open.seconds + 3 * copy.seconds);
+    if (all[Work::Look].empty())
+        table.addFailure("more memory after 1,000 objects");
+    else
+        addMemory("more memory after 1,000 objects", median(all[Work::Look]), 50 * million);
+    if (!globalId.empty() && gridRuns.empty())
+        table.addFailure("qev-ifc grid, one object");
+    else if (!globalId.empty())
+        addTime("qev-ifc grid, one object", median(gridRuns), open.seconds + 0.05);
+    return table;
+}
+
+} // namespace qev::benchmarks
