@@ -259,7 +259,6 @@ void MainWindow::createPanels()
     m_structure->setModel(m_structureModel);
     m_structure->setUniformRowHeights(true);
     m_structure->header()->setStretchLastSection(true);
-    m_structure->header()->resizeSection(0, fontMetrics().averageCharWidth() * 30);
     connect(m_structure->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](QModelIndex const& current) {
                 if (current.isValid())
@@ -407,12 +406,15 @@ void MainWindow::showFile()
     m_search->setData(model);
     m_properties->showFile();
     m_structure->expandToDepth(2);
+    m_structure->resizeColumnToContents(0);
+    m_structure->setFocus();
     m_shownMessages = 0;
     m_messages->setMessages({}, 0);
     updateMessages();
     m_messagesDock->setVisible(m_messages->count() > 0);
     if (m_session.isOpen()) {
-        auto const objects = tr("%n object(s)", nullptr, static_cast<int>(m_session.getObjectCount()));
+        auto const count = m_session.getObjectCount();
+        auto const objects = count == 1 ? tr("1 object") : tr("%1 objects").arg(count);
         m_fileText->setText(fromPath(m_session.getPath().filename()) + "   " +
                             toQString(m_session.getFile()->schemaName()) + "   " + objects);
     } else {

@@ -11,7 +11,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStandardItemModel>
@@ -32,10 +34,8 @@ QStyle* getStyle(QStyleOptionViewItem const& option)
     return option.widget ? option.widget->style() : QApplication::style();
 }
 
-QPalette::ColorGroup getColourGroup(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+QPalette::ColorGroup getColourGroup(QStyleOptionViewItem const& option)
 {
-    if (!row.getState().enabled)
-        return QPalette::Disabled;
     return option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
 }
 
@@ -44,7 +44,7 @@ QColor toQColor(attr::Colour const& colour) { return {colour.red, colour.green, 
 /// What lies behind the texts of a row.
 QColor getBackground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
 {
-    auto const group = getColourGroup(option, row);
+    auto const group = getColourGroup(option);
     if (option.state.testFlag(QStyle::State_Selected))
         return option.palette.color(group, QPalette::Highlight);
     if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0)
@@ -54,15 +54,26 @@ QColor getBackground(QStyleOptionViewItem const& option, PropertyGridRow const& 
 
 QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
 {
-    auto const group = getColourGroup(option, row);
+    // Disabled rows are there to be read all the same; the disabled text of many palettes is too faint for
+    // it.
+    constexpr float shareWhenDisabled = 0.5F;
+    auto const group = getColourGroup(option);
+    auto foreground = option.palette.color(group, QPalette::Text);
     if (option.state.testFlag(QStyle::State_Selected))
         return option.palette.color(group, QPalette::HighlightedText);
-    if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0) {
-        auto const readable = QtPropertyGridDelegate::getReadableOn(toQColor(*colour));
-        return row.getState().enabled ? readable
-                                      : QtPropertyGridDelegate::getMuted(readable, toQColor(*colour));
-    }
-    return option.palette.color(group, QPalette::Text);
+    if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0)
+        foreground = QtPropertyGridDelegate::getReadableOn(toQColor(*colour));
+    if (!row.getState().enabled)
+        return QtPropertyGridDelegate::getMuted(foreground, getBackground(option, row), shareWhenDisabled);
+    return foreground;
+}
+
+/// The colour of units and marks.
+QColor getMutedForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    // The colours of a selection are closer to each other than those of texts.
+    auto const share = option.state.testFlag(QStyle::State_Selected) ? 0.85F : 0.65F;
+    return QtPropertyGridDelegate::getMuted(getForeground(option, row), getBackground(option, row), share);
 }
 
 QFont getFont(QStyleOptionViewItem const& option, PropertyGridRow const& row)
@@ -97,6 +108,8 @@ void paintCheckBox(QPainter& painter, QStyleOptionViewItem const& option, Proper
     if (PropertyGridEditing::canClickCheckBox(row))
         box.state = option.state & ~QStyle::State_HasFocus & ~QStyle::State_Selected;
     box.state.setFlag(QStyle::State_Enabled, PropertyGridEditing::canClickCheckBox(row));
+    if (!PropertyGridEditing::canClickCheckBox(row))
+        box.palette.setCurrentColorGroup(QPalette::Disabled);
     switch (row.getState().checkState) {
     case CheckState::Checked:
         box.state |= QStyle::State_On;
@@ -118,7 +131,7 @@ void paintArrow(QPainter& painter, QStyleOptionViewItem const& option, PropertyG
     auto const centre = QRectF(area).center();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    QPen pen(QtPropertyGridDelegate::getMuted(getForeground(option, row), getBackground(option, row)));
+    QPen pen(getMutedForeground(option, row));
     pen.setWidthF(std::max(1.0, size / 6.0));
     painter.setPen(pen);
     QPointF const points[] = {{centre.x() - size / 2.0, centre.y() - size / 4.0},
@@ -141,6 +154,28 @@ void paintButton(QPainter& painter, QStyleOptionViewItem const& option, Property
     getStyle(option)->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
 }
 
+/// A line to type in, its text where the shown one was, with the unit of numbers at its end.
+QWidget* createLineEditor(QWidget* parent, QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    // What a line edit leaves free beside its text of itself.
+    constexpr int ownMargin = 2;
+    auto* const editor = new QLineEdit(parent);
+    editor->setFrame(false);
+    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto const unit = toQString(PropertyGridNumber::getUnit(row.getQuantityPresentation()));
+    auto const unitWidth = unit.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(unit) + margin;
+    editor->setTextMargins(margin - ownMargin, 0, unitWidth, 0);
+    if (unit.isEmpty())
+        return editor;
+    auto* const label = new QLabel(unit);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* const layout = new QHBoxLayout(editor);
+    layout->setContentsMargins(0, 0, margin, 0);
+    layout->addWidget(label, 0, Qt::AlignRight | Qt::AlignVCenter);
+    return editor;
+}
+
 QString getComboText(QComboBox const& combo)
 {
     return combo.isEditable() ? combo.currentText() : combo.itemText(combo.currentIndex());
@@ -155,10 +190,9 @@ QtPropertyGridDelegate::QtPropertyGridDelegate(QObject* parent)
 
 QtPropertyGridDelegate::~QtPropertyGridDelegate() = default;
 
-QColor QtPropertyGridDelegate::getMuted(QColor const& foreground, QColor const& background)
+QColor QtPropertyGridDelegate::getMuted(QColor const& foreground, QColor const& background, float share)
 {
-    constexpr float share = 0.65F;
-    auto const mix = [](float front, float back) { return share * front + (1 - share) * back; };
+    auto const mix = [share](float front, float back) { return share * front + (1 - share) * back; };
     return QColor::fromRgbF(mix(foreground.redF(), background.redF()),
                             mix(foreground.greenF(), background.greenF()),
                             mix(foreground.blueF(), background.blueF()));
@@ -208,7 +242,7 @@ QSize QtPropertyGridDelegate::sizeHint(QStyleOptionViewItem const& option, QMode
     return {10 * option.fontMetrics.averageCharWidth(), std::max(lineHeight, boxHeight) + lineHeight / 2};
 }
 
-QWidget* QtPropertyGridDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const& /*option*/,
+QWidget* QtPropertyGridDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const& option,
                                               QModelIndex const& index) const
 {
     auto const* const row = QtPropertyGridItemModel::getRow(index);
@@ -216,11 +250,8 @@ QWidget* QtPropertyGridDelegate::createEditor(QWidget* parent, QStyleOptionViewI
         return nullptr;
     switch (PropertyGridEditing::getValueEditor(*row)) {
     case PropertyGridEditor::Text:
-    case PropertyGridEditor::Number: {
-        auto* const editor = new QLineEdit(parent);
-        editor->setFrame(false);
-        return editor;
-    }
+    case PropertyGridEditor::Number:
+        return createLineEditor(parent, option, *row);
     case PropertyGridEditor::Choice:
         return createChoiceEditor(parent, *row);
     default:
@@ -254,11 +285,14 @@ void QtPropertyGridDelegate::setModelData(QWidget* editor, QAbstractItemModel* m
 {
     auto const openedWith = editor->property(openedWithProperty).toString();
     QString text = openedWith;
-    if (auto const* const line = qobject_cast<QLineEdit*>(editor))
+    bool isTyped = false;
+    if (auto const* const line = qobject_cast<QLineEdit*>(editor)) {
         text = line->text();
-    else if (auto const* const combo = qobject_cast<QComboBox*>(editor))
+        // What was typed counts even if it says what the row showed: the zero of a row without a value.
+        isTyped = line->isModified();
+    } else if (auto const* const combo = qobject_cast<QComboBox*>(editor))
         text = !combo->isEditable() && combo->currentIndex() < 0 ? openedWith : getComboText(*combo);
-    if (text != openedWith)
+    if (isTyped || text != openedWith)
         model->setData(index, text, Qt::EditRole);
 }
 
@@ -338,10 +372,9 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
         left = std::max(left, area.right() + 1 - valueWidth - unitWidth);
 
     constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
-    auto const foreground = getForeground(option, row);
-    painter.setPen(foreground);
+    painter.setPen(getForeground(option, row));
     painter.drawText(QRect(left, area.top(), area.right() + 1 - left, area.height()), flags, elided);
-    painter.setPen(getMuted(foreground, getBackground(option, row)));
+    painter.setPen(getMutedForeground(option, row));
     painter.drawText(QRect(left + valueWidth, area.top(), unitWidth + margin, area.height()), flags, unit);
 }
 

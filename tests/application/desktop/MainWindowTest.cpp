@@ -1,0 +1,294 @@
+#include "MainWindow.h"
+
+#include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "MessagesPanel.h"
+#include "PropertyPane.h"
+#include "ReportRecorder.h"
+#include "SearchPanel.h"
+#include "SmallBuilding.h"
+#include "TemporaryFolder.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
+#include "Ui/Qt/QtBackend.h"
+#include "Ui/Qt/QtText.h"
+#include "Ui/Window/Details/WindowInterfaceFactory.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+
+namespace qev::test {
+namespace {
+
+using namespace application;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class MainWindowTest : public testing::Test
+{
+protected:
+    MainWindowTest()
+        : backend(ui::QtBackend::install())
+        , window(std::make_unique<MainWindow>(backend))
+        , path(folder.write("small.ifc", smallBuilding))
+    {
+        MainWindow::Questions questions;
+        questions.leaveChanges = [this](QString const&) {
+            asked.emplace_back("leave");
+            return leave;
+        };
+        questions.overwriteChanged = [this](QString const&) {
+            asked.emplace_back("overwrite");
+            return overwrite;
+        };
+        questions.tellProblem = [this](QString const& text, QString const&) {
+            asked.push_back(text.toStdString());
+        };
+        questions.pathToSave = [this](QString const&) { return pathToSave; };
+        window->setQuestions(questions);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+    }
+    ~MainWindowTest() override
+    {
+        window.reset();
+        ui::details::WindowInterfaceFactory::setBackend(nullptr);
+        expectOnlyKnownReports();
+    }
+
+    /// The sets of the standard have properties of kinds that are not shown; that is reported, and nothing
+    /// else.
+    static void expectOnlyKnownReports()
+    {
+        for (auto const& report : takeReports())
+            EXPECT_THAT(report.text, testing::EndsWith(" not implemented."));
+    }
+
+    static void settle() { QCoreApplication::processEvents(); }
+    void open() { ASSERT_TRUE(window->openFile(QString::fromStdString(path.string()))); }
+    [[nodiscard]] ui::QtPropertyGridView& view() const
+    {
+        return window->getProperties().getGrid()->getView();
+    }
+
+    [[nodiscard]] QModelIndex row(std::vector<std::string> const& names) const
+    {
+        auto const& model = window->getProperties().getGrid()->getItemModel();
+        QModelIndex found;
+        for (auto const& name : names) {
+            auto const matches = model.match(model.index(0, 0, found), Qt::DisplayRole, ui::toQString(name),
+                                             1, Qt::MatchExactly | Qt::MatchCaseSensitive);
+            if (matches.isEmpty())
+                return {};
+            found = matches.front();
+        }
+        return found;
+    }
+    [[nodiscard]] QModelIndex fireRating() const { return row({"Pset_WallCommon", "FireRating"}); }
+    [[nodiscard]] std::string value(QModelIndex const& index) const
+    {
+        return index.siblingAtColumn(1).data().toString().toStdString();
+    }
+    void typeInto(QModelIndex const& index, char const* text)
+    {
+        view().setFocus();
+        view().setCurrentIndex(index);
+        QTest::keyClick(&view(), Qt::Key_F2);
+        ASSERT_NE(QApplication::focusWidget(), &view()) << "no editor has opened";
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        settle();
+    }
+    void editEastWall()
+    {
+        open();
+        ASSERT_TRUE(window->selectObject(eastWall));
+        ASSERT_TRUE(fireRating().isValid());
+        typeInto(fireRating(), "F90");
+    }
+
+    TemporaryFolder folder;
+    std::shared_ptr<ui::QtBackend> backend;
+    std::unique_ptr<MainWindow> window;
+    std::filesystem::path path;
+    MainWindow::Leave leave = MainWindow::Leave::Stay;
+    bool overwrite = false;
+    QString pathToSave;
+    std::vector<std::string> asked;
+};
+
+TEST_F(MainWindowTest, SaysWhatToDoWhileThereIsNothingToShow)
+{
+    EXPECT_THAT(window->getProperties().getHint().toStdString(), HasSubstr("Open an IFC file"));
+    open();
+    EXPECT_THAT(window->getProperties().getHint().toStdString(), HasSubstr("Select an object"));
+    EXPECT_THAT(window->getFileText().toStdString(), HasSubstr("IFC4X3_ADD2"));
+}
+
+TEST_F(MainWindowTest, ObjectSelectedInTheStructureIsShownInTheGrid)
+{
+    open();
+    auto& structure = window->getStructure();
+    window->selectObject(westWall);
+    EXPECT_EQ(structure.currentIndex().data(), "West wall");
+    structure.setCurrentIndex(structure.indexAbove(structure.currentIndex()));
+    EXPECT_EQ(structure.currentIndex().data(), "East wall");
+    EXPECT_EQ(window->getProperties().getHint(), "");
+    EXPECT_EQ(value(fireRating()), "F30");
+}
+
+TEST_F(MainWindowTest, EditReachesTheModelAndMarksTheWindow)
+{
+    editEastWall();
+    EXPECT_EQ(value(fireRating()), "F90");
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_TRUE(window->save());
+    EXPECT_FALSE(window->isWindowModified());
+    std::string expected(smallBuilding);
+    expected.replace(expected.find("F30"), 3, "F90");
+    EXPECT_EQ(readFile(path), expected);
+}
+
+TEST_F(MainWindowTest, UndoShowsTheOldValueAgain)
+{
+    editEastWall();
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(value(fireRating()), "F30");
+    EXPECT_FALSE(window->isWindowModified());
+    QTest::keyClick(window.get(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(value(fireRating()), "F90");
+    EXPECT_EQ(readFile(path), smallBuilding);
+}
+
+TEST_F(MainWindowTest, SharedSetIsToldBesideTheEditedRow)
+{
+    open();
+    window->selectObject(eastWall);
+    view().setCurrentIndex(fireRating());
+    EXPECT_THAT(window->getNote().toStdString(), HasSubstr("shared with another object"));
+    window->selectObject(entrance);
+    view().setCurrentIndex(row({"Pset_DoorCommon", "FireRating"}));
+    EXPECT_EQ(window->getNote(), "");
+}
+
+TEST_F(MainWindowTest, UnsavedChangesAreAskedAboutBeforeTheyGo)
+{
+    editEastWall();
+    EXPECT_FALSE(window->close());
+    EXPECT_FALSE(window->closeFile());
+    EXPECT_FALSE(window->openFile(QString::fromStdString(path.string())));
+    EXPECT_THAT(asked, ElementsAre("leave", "leave", "leave"));
+    EXPECT_EQ(value(fireRating()), "F90");
+
+    leave = MainWindow::Leave::Discard;
+    EXPECT_TRUE(window->closeFile());
+    EXPECT_EQ(readFile(path), smallBuilding);
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, SaveOnLeavingSaves)
+{
+    editEastWall();
+    leave = MainWindow::Leave::Save;
+    EXPECT_TRUE(window->close());
+    EXPECT_THAT(readFile(path), HasSubstr("F90"));
+}
+
+TEST_F(MainWindowTest, ChangesOfAnotherProgramAreAskedAboutOnSave)
+{
+    editEastWall();
+    folder.write("small.ifc", "somebody else's");
+    EXPECT_FALSE(window->save());
+    EXPECT_EQ(readFile(path), "somebody else's");
+    overwrite = true;
+    EXPECT_TRUE(window->save());
+    EXPECT_THAT(readFile(path), HasSubstr("F90"));
+    EXPECT_THAT(asked, ElementsAre("overwrite", "overwrite"));
+}
+
+TEST_F(MainWindowTest, SaveAsWritesAnotherFileAndStaysWithIt)
+{
+    editEastWall();
+    EXPECT_FALSE(window->saveAs());
+    pathToSave = QString::fromStdString((folder.path() / "other.ifc").string());
+    EXPECT_TRUE(window->saveAs());
+    EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("other.ifc"));
+    EXPECT_EQ(readFile(path), smallBuilding);
+}
+
+TEST_F(MainWindowTest, EnterInTheSearchBoxChoosesTheFirstHitAndF3TheNext)
+{
+    open();
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    auto& search = window->getSearch();
+    ASSERT_EQ(QApplication::focusWidget(), &search.getBox());
+    QTest::keyClicks(&search.getBox(), "wall");
+    QTest::keyClick(&search.getBox(), Qt::Key_Return);
+    EXPECT_EQ(value(row({"IfcWall", "Name"})), "East wall");
+    QTest::keyClick(window.get(), Qt::Key_F3);
+    EXPECT_EQ(value(row({"IfcWall", "Name"})), "West wall");
+    EXPECT_EQ(search.getCountText(), "2 found");
+    QTest::keyClick(&search.getBox(), Qt::Key_Escape);
+    EXPECT_FALSE(search.getHits().isVisible());
+    EXPECT_EQ(window->getStructure().currentIndex().data(), "West wall");
+}
+
+TEST_F(MainWindowTest, BrokenFileIsToldAndThePresentOneStays)
+{
+    open();
+    window->selectObject(eastWall);
+    auto const broken = folder.write("broken.ifc", "no file of that kind");
+    EXPECT_FALSE(window->openFile(QString::fromStdString(broken.string())));
+    EXPECT_EQ(asked.size(), 1u);
+    EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("small.ifc"));
+    EXPECT_GT(window->getMessages().count(), 0);
+}
+
+TEST_F(MainWindowTest, DroppedFileIsOpened)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path.string()))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_TRUE(window->getSession().isOpen());
+}
+
+TEST_F(MainWindowTest, UnknownGlobalIdSelectsNothing)
+{
+    open();
+    EXPECT_FALSE(window->selectObject("2222222222222222222222"));
+    EXPECT_THAT(window->getProperties().getHint().toStdString(), HasSubstr("Select an object"));
+}
+
+TEST_F(MainWindowTest, UnusedPropertiesCanBeHidden)
+{
+    open();
+    window->selectObject(eastWall);
+    auto const rowsBefore = window->getProperties().getGrid()->getItemModel().rowCount();
+    window->getProperties().setUnusedShown(false);
+    EXPECT_LT(window->getProperties().getGrid()->getItemModel().rowCount(), rowsBefore);
+    EXPECT_EQ(value(fireRating()), "F30");
+}
+
+TEST_F(MainWindowTest, AnotherFileTakesThePlaceOfThePresentOne)
+{
+    open();
+    window->selectObject(eastWall);
+    auto const other = folder.write("other.ifc", smallBuilding);
+    EXPECT_TRUE(window->openFile(QString::fromStdString(other.string())));
+    EXPECT_THAT(window->getProperties().getHint().toStdString(), HasSubstr("Select an object"));
+    EXPECT_TRUE(window->selectObject(westWall));
+    EXPECT_EQ(value(fireRating()), "F30");
+    EXPECT_THAT(asked, IsEmpty());
+}
+
+} // namespace
+} // namespace qev::test
