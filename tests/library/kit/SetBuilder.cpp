@@ -17,6 +17,8 @@ SetBuilder::SetBuilder(std::string const& name)
 {
 }
 
+SetBuilder::SetBuilder(SetBuilder&&) noexcept = default;
+
 SetBuilder::~SetBuilder() = default;
 
 SetBuilder& SetBuilder::single(std::string const& name, std::string const& valueType)

@@ -18,6 +18,7 @@ class SetBuilder
 {
 public:
     explicit SetBuilder(std::string const& name);
+    SetBuilder(SetBuilder&&) noexcept;
     ~SetBuilder();
 
     SetBuilder& single(std::string const& name, std::string const& valueType);

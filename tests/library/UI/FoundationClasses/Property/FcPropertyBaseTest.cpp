@@ -19,7 +19,10 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-PropertyOrQuantityValue text(std::string value) { return PropertyOrQuantityValue::fromText(std::move(value)); }
+PropertyOrQuantityValue text(std::string value)
+{
+    return PropertyOrQuantityValue::fromText(std::move(value));
+}
 
 class FcPropertyBaseTest : public testing::Test
 {

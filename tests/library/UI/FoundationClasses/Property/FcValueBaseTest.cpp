@@ -119,7 +119,8 @@ TEST_F(FcValueBaseTest, PresentationsGoByTheNameWithItsPrefixAndPlainRatiosHaveN
          {"IfcAreaMeasure", "IfcVolumetricFlowRateMeasure", "IfcCountMeasure",
           "IfcThermodynamicTemperatureMeasure", "IfcPowerMeasure", "IfcLengthMeasure",
           "IfcPositiveLengthMeasure", "IfcNonNegativeLengthMeasure", "IfcVolumeMeasure",
-          "IfcPositiveRatioMeasure", "IfcTimeMeasure", "IfcThermalTransmittanceMeasure", "IfcPlaneAngleMeasure"})
+          "IfcPositiveRatioMeasure", "IfcTimeMeasure", "IfcThermalTransmittanceMeasure",
+          "IfcPlaneAngleMeasure"})
         EXPECT_TRUE(has(type)) << type;
     for (auto const* const type : {"IfcRatioMeasure", "LengthMeasure", "IfcMassMeasure", "If", ""})
         EXPECT_FALSE(has(type)) << type;

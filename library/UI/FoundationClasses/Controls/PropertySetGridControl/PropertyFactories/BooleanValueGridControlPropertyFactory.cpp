@@ -3,7 +3,7 @@
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/GridEdit.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertyFactories/GridRows.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControlInterface.h"
-#include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertySingleValueWithBooleanToggle.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridCheckBoxProperty.h"
 
 namespace qev::fc::ui {
@@ -28,6 +28,15 @@ void onCheckBoxClicked(PropertyGridCheckBoxProperty const& row, FcPropertyBoolea
 
 std::unique_ptr<PropertyGridProperty>
 BooleanValueGridControlPropertyFactory::createProperty(CreatePropertyParams const& params) const
+{
+    // A value with a toggle is a kind of boolean, too. Where it has no box with a value, it has none without.
+    if (dynamic_cast<FcPropertySingleValueWithBooleanToggle*>(params.property))
+        return nullptr;
+    return createCheckBoxRow(params);
+}
+
+std::unique_ptr<PropertyGridProperty>
+BooleanValueGridControlPropertyFactory::createCheckBoxRow(CreatePropertyParams const& params) const
 {
     auto* const property = dynamic_cast<FcPropertyBooleanType*>(params.property);
     if (!property)

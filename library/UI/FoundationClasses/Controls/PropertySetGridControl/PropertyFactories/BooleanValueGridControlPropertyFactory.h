@@ -19,6 +19,9 @@ public:
     createProperty(CreatePropertyParams const& params) const override;
 
 protected:
+    /// The row of any boolean, ready for clicks; null for other properties and when there is nothing to show.
+    [[nodiscard]] std::unique_ptr<qev::ui::PropertyGridProperty>
+    createCheckBoxRow(CreatePropertyParams const& params) const;
     /// The row alone; null when there is nothing to show.
     [[nodiscard]] virtual std::unique_ptr<qev::ui::PropertyGridCheckBoxProperty>
     createCheckBoxProperty(FcPropertyBooleanType const& property, bool checked, bool showUnused) const;

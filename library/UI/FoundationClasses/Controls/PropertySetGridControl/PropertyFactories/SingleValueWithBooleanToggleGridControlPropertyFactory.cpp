@@ -29,7 +29,7 @@ std::unique_ptr<PropertyGridProperty> SingleValueWithBooleanToggleGridControlPro
 {
     if (!dynamic_cast<FcPropertySingleValueWithBooleanToggle*>(params.property))
         return nullptr;
-    return BooleanValueGridControlPropertyFactory::createProperty(params);
+    return createCheckBoxRow(params);
 }
 
 std::unique_ptr<PropertyGridCheckBoxProperty>

@@ -29,7 +29,8 @@ public:
     MOCK_METHOD(std::optional<bool>, isPropertyToBeHiddenByDefault, (std::string const&, std::string const&),
                 (const, override));
     MOCK_METHOD(std::optional<Columns>, getCustomColumns, (), (const, override));
-    MOCK_METHOD(std::optional<std::string>, getCustomColumnItemString, (std::string const&), (const, override));
+    MOCK_METHOD(std::optional<std::string>, getCustomColumnItemString, (std::string const&),
+                (const, override));
 };
 
 TEST(ListControlPropertyFormatter, WithoutStrategiesNothingIsLocalHiddenOrAdded)

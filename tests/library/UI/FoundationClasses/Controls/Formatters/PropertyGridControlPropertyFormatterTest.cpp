@@ -34,8 +34,8 @@ public:
                 (const, override));
     MOCK_METHOD(std::optional<HorizontalLineState>, getHorizontalLineState,
                 (std::string const&, std::string const&), (const, override));
-    MOCK_METHOD(std::optional<bool>, wantBoldFontStyleForNameAndValue, (std::string const&, std::string const&),
-                (const, override));
+    MOCK_METHOD(std::optional<bool>, wantBoldFontStyleForNameAndValue,
+                (std::string const&, std::string const&), (const, override));
     MOCK_METHOD(std::optional<unsigned int>, getPropertyNameIndentationInCharacters,
                 (std::string const&, std::string const&), (const, override));
     MOCK_METHOD(std::optional<Names>, getPropertySetOrder, (), (const, override));
@@ -62,13 +62,15 @@ TEST(PropertyGridControlPropertyFormatter, TheFirstAnswerCounts)
     auto const first = std::make_shared<NiceMock<Strategy>>();
     auto const unasked = std::make_shared<StrictMock<Strategy>>();
     for (std::shared_ptr<Strategy> const& strategy :
-         {std::shared_ptr<Strategy>(silent), std::shared_ptr<Strategy>(first), std::shared_ptr<Strategy>(unasked)})
+         {std::shared_ptr<Strategy>(silent), std::shared_ptr<Strategy>(first),
+          std::shared_ptr<Strategy>(unasked)})
         formatter.addStrategy(strategy);
     ON_CALL(*first, wantCustomButtonProperties()).WillByDefault(Return(true));
     ON_CALL(*first, wantButton(_, _)).WillByDefault(Return(true));
     ON_CALL(*first, getAlignment(_, _)).WillByDefault(Return(Interface::Alignment::Alignment1));
     ON_CALL(*first, getEmptyLineState(_, _)).WillByDefault(Return(Interface::EmptyLineState::After));
-    ON_CALL(*first, getHorizontalLineState(_, _)).WillByDefault(Return(Interface::HorizontalLineState::Line1));
+    ON_CALL(*first, getHorizontalLineState(_, _))
+        .WillByDefault(Return(Interface::HorizontalLineState::Line1));
     ON_CALL(*first, wantBoldFontStyleForNameAndValue(_, _)).WillByDefault(Return(true));
     ON_CALL(*first, getPropertyNameIndentationInCharacters(_, _)).WillByDefault(Return(2u));
     ON_CALL(*first, getPropertySetOrder()).WillByDefault(Return(Names{"B", "A"}));

@@ -1,0 +1,293 @@
+#include "UI/FoundationClasses/Set/PropertySetDefinition.h"
+
+#include "Core/Localization/LocalizationAdmin.h"
+#include "Core/Unit/QuantityPresentation.h"
+#include "FoundationClasses/AllEntities.h"
+#include "kit/ModelBuilder.h"
+#include "kit/ReportRecorder.h"
+#include "library/kit/LogFormatter.h"
+#include "library/kit/SetBuilder.h"
+#include "library/kit/ShownSet.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertySingleValueWithBooleanToggle.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace qev::fc;
+using namespace qev::fc::ui;
+using namespace qev::test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using Type = PropertySetDefinitionType;
+
+class SetDefinitions : public testing::Test
+{
+protected:
+    static std::unique_ptr<qev::ifc::def::pset::PropertySetDef> toggles()
+    {
+        return SetBuilder("Pset")
+            .single("Height", "IfcReal")
+            .single("Code", "IfcLabel")
+            .single("HasHeight", "IfcBoolean")
+            .single("WantsHeight", "IfcBoolean")
+            .take();
+    }
+    ShownSet::Options withFormatter()
+    {
+        ShownSet::Options options;
+        options.formatter = formatter;
+        options.filter = filter;
+        return options;
+    }
+
+    Model model;
+    std::shared_ptr<core::kernel::FcObjectDefinition> wall = model.wall("W1");
+    std::shared_ptr<core::kernel::FcObjectDefinition> other = model.wall("W2");
+    std::shared_ptr<LogFormatter> formatter = std::make_shared<LogFormatter>();
+    std::shared_ptr<ToyFilter> filter = std::make_shared<ToyFilter>();
+};
+
+// --- What a set is built from -------------------------------------------------------------------
+
+TEST_F(SetDefinitions, TheClassOfADefinitionTellsItsType)
+{
+    auto const properties = SetBuilder("Pset").take();
+    auto const quantities = everyQuantity("Qto");
+
+    EXPECT_EQ(PropertySetDefinitionInfo(*properties).type, Type::PropertySet);
+    EXPECT_EQ(PropertySetDefinitionInfo(*quantities).type, Type::QuantitySet);
+    EXPECT_EQ(PropertySetDefinitionInfo(*quantities).name, "Qto");
+    EXPECT_EQ(PropertySetDefinitionInfo(*quantities).definition, quantities.get());
+}
+
+class StrangeSet : public qev::ifc::def::xml::SetDef
+{
+public:
+    using SetDef::SetDef;
+    char const* sKind() const override { return "StrangeSet"; }
+    std::vector<qev::ifc::def::xml::Def const*> entries() const override { return {}; }
+};
+
+TEST_F(SetDefinitions, ADefinitionOfAnotherClassIsReportedAndOfUnknownType)
+{
+    StrangeSet const strange("Strange");
+
+    EXPECT_EQ(PropertySetDefinitionInfo(strange).type, Type::Unknown);
+
+    expectReport("Not able to find schema type.",
+                 "qev::fc::ui::PropertySetDefinitionInfo::PropertySetDefinitionInfo",
+                 "UI/FoundationClasses/Set/PropertySetDefinitionInfo");
+}
+
+TEST_F(SetDefinitions, ASetOfUnknownTypeIsReportedAndNotMade)
+{
+    auto const make = [](Type type) {
+        return PropertySetDefinition::create(PropertySetDefinitionInfo("S", type), {}, nullptr, nullptr, {},
+                                             nullptr);
+    };
+
+    EXPECT_EQ(make(Type::Unknown), nullptr);
+    expectReport("Unknown type", "qev::fc::ui::PropertySetDefinition::create",
+                 "UI/FoundationClasses/Set/PropertySetDefinition");
+    EXPECT_EQ(make(static_cast<Type>(7)), nullptr);
+}
+
+// --- Rows ---------------------------------------------------------------------------------------
+
+TEST_F(SetDefinitions, ASetThatNoObjectHasShowsItsRowsEmpty)
+{
+    ShownSet const shown(SetBuilder("Pset").single("Code", "IfcLabel").single("Count", "IfcInteger").take(),
+                         {wall});
+
+    EXPECT_THAT(shown.names(), ElementsAre("Code", "Count"));
+    EXPECT_EQ(shown["Code"].getValue(), "");
+}
+
+TEST_F(SetDefinitions, RowsOfASetWithoutDefinitionAreThoseOfTheFirstObject)
+{
+    model.addSet(wall, "Own", {{"A", label("1")}});
+    model.addSet(other, "Own", {{"A", label("1")}, {"B", label("2")}});
+
+    ShownSet const shown("Own", Type::PropertySet, {wall, other});
+
+    expectReport("Not implemented: Need to merge with existing values.",
+                 "qev::fc::ui::PropertySet::PropertySet", "UI/FoundationClasses/Set/PropertySet");
+    EXPECT_THAT(shown.names(), ElementsAre("A"));
+    EXPECT_EQ(shown["A"].getValue(), "1");
+}
+
+TEST_F(SetDefinitions, QuantitiesOfASetWithoutDefinitionAreThoseOfTheFirstObject)
+{
+    model.addQuantities(wall, "Own", {{"A", 1.0}});
+    model.addQuantities(other, "Own", {{"B", 2.0}});
+
+    ShownSet const shown("Own", Type::QuantitySet, {wall, other});
+
+    expectReport("Not implemented: Need to merge with existing values.",
+                 "qev::fc::ui::QuantitySet::QuantitySet", "UI/FoundationClasses/Set/QuantitySet");
+    EXPECT_THAT(shown.names(), ElementsAre("A"));
+}
+
+TEST_F(SetDefinitions, WithoutDefinitionAndSetThereAreNoRows)
+{
+    EXPECT_THAT(ShownSet("Own", Type::PropertySet, {wall}).names(), IsEmpty());
+    EXPECT_THAT(ShownSet("Own", Type::QuantitySet, {wall}).names(), IsEmpty());
+}
+
+TEST_F(SetDefinitions, WithoutAFilterAPropertySetHasNoRowsAndAQuantitySetHasAll)
+{
+    ShownSet::Options options;
+    options.filter = nullptr;
+
+    EXPECT_THAT(ShownSet(toggles(), {wall}, options).names(), IsEmpty());
+    EXPECT_EQ(ShownSet(everyQuantity("Qto"), {wall}, options).names().size(), 6u);
+}
+
+TEST_F(SetDefinitions, WhatTheFilterLeavesOutHasNoRow)
+{
+    filter->excludedProperties = {"Code"};
+    ShownSet::Options options;
+    options.filter = filter;
+    EXPECT_THAT(ShownSet(toggles(), {wall}, options).names(),
+                ElementsAre("Height", "HasHeight", "WantsHeight"));
+
+    filter->excludedSets = {"Pset"};
+    EXPECT_THAT(ShownSet(toggles(), {wall}, options).names(), IsEmpty());
+}
+
+TEST_F(SetDefinitions, KindsWithoutARowAreLeftOut)
+{
+    ShownSet const shown(SetBuilder("Pset").table("T").single("Code", "IfcLabel").take(), {wall});
+
+    EXPECT_THAT(takeReportTexts(), ElementsAre("IfcPropertyTableValue not implemented."));
+    EXPECT_THAT(shown.names(), ElementsAre("Code"));
+}
+
+// --- Values and toggles -------------------------------------------------------------------------
+
+TEST_F(SetDefinitions, AValueAndItsToggleShareARowAtThePlaceOfTheToggle)
+{
+    formatter->related["HasHeight"] = "Height";
+    ShownSet shown(toggles(), {wall}, withFormatter());
+
+    EXPECT_THAT(shown.names(), ElementsAre("Code", "Height", "WantsHeight"));
+    EXPECT_EQ(shown.as<FcPropertySingleValueWithBooleanToggle>("Height").getBooleanName(), "HasHeight");
+    EXPECT_THAT(shown.set().getTogglesToValues(), ElementsAre(Pair("HasHeight", "Height")));
+    EXPECT_THAT(shown.set().getValuesToToggles(), ElementsAre(Pair("Height", "HasHeight")));
+}
+
+TEST_F(SetDefinitions, TwoTogglesOfOneValueHaveTwoRowsAndTheLaterOneIsKept)
+{
+    formatter->related = {{"HasHeight", "Height"}, {"WantsHeight", "Height"}};
+    ShownSet shown(toggles(), {wall}, withFormatter());
+
+    EXPECT_THAT(shown.names(), ElementsAre("Code", "Height", "Height"));
+    EXPECT_THAT(shown.set().getValuesToToggles(), ElementsAre(Pair("Height", "WantsHeight")));
+}
+
+TEST_F(SetDefinitions, AToggleWhoseValueIsLeftOutHasNoRowEither)
+{
+    formatter->related["HasHeight"] = "Height";
+    filter->excludedProperties = {"Height"};
+    ShownSet const shown(toggles(), {wall}, withFormatter());
+
+    expectReport("Definition for property that uses another property for toggling on/off not found.",
+                 "qev::fc::ui::PropertySet::populatePropertiesByQueryingFormatterAndFilter",
+                 "UI/FoundationClasses/Set/PropertySet");
+    EXPECT_THAT(shown.names(), ElementsAre("Code", "WantsHeight"));
+}
+
+// --- Texts --------------------------------------------------------------------------------------
+
+TEST_F(SetDefinitions, WithoutATextTheLabelIsTheFallbackOrTheName)
+{
+    ShownSet shown(SetBuilder("Pset").description("All about it").take(), {wall});
+
+    EXPECT_EQ(shown.set().getName(), "Pset");
+    EXPECT_EQ(shown.set().getDescription(), "All about it");
+    EXPECT_EQ(shown.set().getLocalizedName({}), "Pset");
+    EXPECT_EQ(shown.set().getLocalizedName([] { return std::string("Else"); }), "Else");
+    EXPECT_EQ(shown.set().getLocalizedDescription({}), "All about it");
+    EXPECT_EQ(shown.set().getLocalizedDescription([] { return std::string("Else"); }), "Else");
+}
+
+TEST_F(SetDefinitions, WithoutADefinitionThereIsNoDescription)
+{
+    ShownSet shown("Own", Type::PropertySet, {wall});
+
+    EXPECT_EQ(shown.set().getLocalizedName({}), "Own");
+    EXPECT_EQ(shown.set().getDescription(), "");
+    EXPECT_EQ(shown.set().getLocalizedDescription([] { return std::string("Else"); }), "");
+}
+
+TEST_F(SetDefinitions, ADefinitionWithoutANameIsNoKey)
+{
+    auto const definition = SetBuilder("").description("All about it").take();
+    PropertySetDefinitionInfo info(*definition);
+    info.name = "Own";
+    auto const set = PropertySetDefinition::create(info, {}, nullptr, nullptr, {}, nullptr);
+
+    EXPECT_EQ(set->getLocalizedName({}), "Own");
+    EXPECT_EQ(set->getLocalizedDescription({}), "");
+}
+
+TEST_F(SetDefinitions, TextsComeFromTheFirstContextThatHasOne)
+{
+    auto& admin = qev::resource::localization::getAdminInstance();
+    auto const language = admin.language();
+    admin.setLanguage(qev::locale::Locale("de", ""));
+    ShownSet::Options options;
+    options.contexts = {"NoSuchContext"};
+    for (auto const& context : qev::localization::Dictionaries::getContexts("IFC"))
+        options.contexts.push_back(context);
+    ShownSet shown(SetBuilder("Pset_WallCommon").single("IsExternal", "IfcBoolean").take(), {wall}, options);
+
+    EXPECT_EQ(shown.set().getLocalizedName({}), "Wand allgemein");
+    EXPECT_NE(shown["IsExternal"].getLocalizedName(), "IsExternal");
+    EXPECT_NE(shown["IsExternal"].getLocalizedName(), "Pset_WallCommon.IsExternal");
+    admin.setLanguage(language);
+}
+
+// --- Services of a set --------------------------------------------------------------------------
+
+TEST_F(SetDefinitions, ObjectsComeFromTheGetterAtEachCall)
+{
+    model.addSet(wall, "Pset", {{"Code", label("A")}});
+    ShownSet shown(SetBuilder("Pset").single("Code", "IfcLabel").take(), {});
+    EXPECT_EQ(shown["Code"].getValue(), "");
+
+    shown.objects = {wall};
+
+    EXPECT_EQ(shown["Code"].getValue(), "A");
+}
+
+TEST_F(SetDefinitions, WithoutAGetterThereAreNoObjects)
+{
+    auto const set = PropertySetDefinition::create(PropertySetDefinitionInfo("S", Type::PropertySet), {},
+                                                   nullptr, nullptr, {}, nullptr);
+
+    EXPECT_THAT(set->getObjects(), IsEmpty());
+}
+
+TEST_F(SetDefinitions, WithoutAFormatterAButtonIsReported)
+{
+    ShownSet const shown(SetBuilder("Pset").single("Code", "IfcLabel").take(), {wall});
+
+    shown["Code"].onPropertyCustomButtonClicked();
+
+    expectReport("Expected function to be called only when we have a formatter.",
+                 "qev::fc::ui::PropertySetDefinition::onPropertyCustomButtonClicked",
+                 "UI/FoundationClasses/Set/PropertySetDefinition");
+}
+
+TEST_F(SetDefinitions, WithoutAnOverrideThereIsNoPresentation)
+{
+    ShownSet shown(SetBuilder("Pset").take(), {wall});
+
+    EXPECT_EQ(shown.set().quantityPresentationOverride("LengthMeasure", "Pset", "P"), nullptr);
+}
+
+} // namespace
