@@ -1,5 +1,6 @@
 #include "Commands.h"
 #include "Core/Assert/Assert.h"
+#include "Definitions.h"
 
 #include <CLI/CLI.hpp>
 
@@ -46,6 +47,7 @@ struct CommandLine
     GridOptions grid;
     SetOptions set;
     bool showReports = false;
+    std::vector<std::filesystem::path> definitions;
     std::function<ExitCode()> run;
 
     void addTo(CLI::App& app);
@@ -94,6 +96,8 @@ void CommandLine::addTo(CLI::App& app)
     command->callback([this] { run = [this] { return runSet(set); }; });
 
     app.add_flag("--reports", showReports, "print reports of programming errors on the error stream");
+    app.add_option("--definitions", definitions,
+                   "property-set definitions in the standard's XML form, a file or a folder; may be given several times");
     app.require_subcommand(1);
 }
 
@@ -111,5 +115,7 @@ int main(int argc, char** argv)
     }
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers only.
     qev::assert::Assert::setEnabled(commandLine.showReports);
+    if (!addDefinitions(commandLine.definitions))
+        return static_cast<int>(ExitCode::UnreadableFile);
     return static_cast<int>(commandLine.run());
 }

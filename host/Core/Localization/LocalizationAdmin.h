@@ -39,6 +39,12 @@ public:
     /// The languages in which there are texts.
     [[nodiscard]] std::vector<locale::Locale> languages() const { return m_dictionaries.languages(); }
 
+    /// Adds texts; those of a key that is there already are replaced.
+    void add(std::string const& context, locale::Locale const& language, Dictionary const& dictionary)
+    {
+        m_dictionaries.add(context, language, dictionary);
+    }
+
     /// Reads all files "<context>.<language>.txt" of \p folder. Their texts are added, and replace those of
     /// the same key. \returns what was not understood; that is left out.
     std::vector<Message> addFolder(std::filesystem::path const& folder);
