@@ -4,7 +4,6 @@
 #include "FoundationClasses/EntityClass.h"
 
 #include <algorithm>
-#include <numeric>
 #include <set>
 
 namespace qev::fc {
@@ -83,9 +82,6 @@ Data::Data(std::unique_ptr<EntitySource> source) : m_source(std::move(source)), 
     if (!m_source)
         return;
     m_sourceCount = m_source->count();
-    m_classes.resize(m_sourceCount);
-    for (std::size_t i = 0; i < m_sourceCount; ++i)
-        m_classes[i] = instantiable(m_source->classNumber(static_cast<EntityIndex>(i)));
     m_deleted.resize(m_sourceCount);
     m_pages.resize((m_sourceCount + pageSize - 1) / pageSize);
 }
@@ -110,13 +106,19 @@ Data::~Data()
     }
 }
 
-std::uint16_t Data::classNumber(EntityIndex index) const { return index < m_classes.size() ? m_classes[index] : 0; }
+std::uint16_t Data::classNumber(EntityIndex index) const
+{
+    if (index < m_sourceCount)
+        return instantiable(m_source->classNumber(index));
+    std::size_t const created = index - m_sourceCount;
+    return created < m_createdClasses.size() ? m_createdClasses[created] : std::uint16_t{0};
+}
 
 bool Data::isDeleted(EntityIndex index) const { return index >= m_deleted.size() || m_deleted[index]; }
 
 FcBase* Data::existingObject(EntityIndex index) const
 {
-    if (index >= m_classes.size())
+    if (index >= entityCount())
         return nullptr;
     auto const& page = m_pages[index / pageSize];
     return page ? page->objects[index % pageSize].get() : nullptr;
@@ -128,7 +130,7 @@ std::shared_ptr<FcBase> Data::entity(EntityIndex index) const
         return nullptr;
     if (auto const& page = m_pages[index / pageSize]; page && page->objects[index % pageSize])
         return page->objects[index % pageSize];
-    EntityClass const* const entityClass = entityClassFromNumber(m_classes[index]);
+    EntityClass const* const entityClass = entityClassFromNumber(classNumber(index));
     if (!entityClass || !entityClass->create || index >= m_sourceCount)
         return nullptr;
     auto object = entityClass->create();
@@ -170,11 +172,11 @@ void Data::adopt(std::shared_ptr<FcBase> const& first)
         if (entity->m_data == this) {
             setState(entity->m_index, Present);
         } else if (!entity->m_data) {
-            auto const index = static_cast<EntityIndex>(m_classes.size());
+            auto const index = static_cast<EntityIndex>(entityCount());
             auto const number = static_cast<std::uint16_t>(entity->getIdFirst());
-            m_classes.push_back(number);
+            m_createdClasses.push_back(number);
             m_deleted.push_back(false);
-            if (m_pages.size() * pageSize < m_classes.size())
+            if (m_pages.size() * pageSize < entityCount())
                 m_pages.emplace_back();
             setObject(index, entity);
             entity->m_data = this;
@@ -216,37 +218,18 @@ void Data::setState(EntityIndex index, State state)
     m_deleted[index] = isDeletion;
 }
 
-void Data::buildClassLists() const
-{
-    if (m_classListsBuilt)
-        return;
-    m_classStarts.assign(FcBase::idLast + 2, 0);
-    for (std::size_t i = 0; i < m_sourceCount; ++i)
-        ++m_classStarts[m_classes[i] + 1];
-    std::partial_sum(m_classStarts.begin(), m_classStarts.end(), m_classStarts.begin());
-    m_sortedByClass.resize(m_sourceCount);
-    auto next = m_classStarts;
-    for (std::size_t i = 0; i < m_sourceCount; ++i)
-        m_sortedByClass[next[m_classes[i]]++] = static_cast<EntityIndex>(i);
-    m_classListsBuilt = true;
-}
-
 std::vector<EntityIndex> Data::indicesFromId(unsigned int first, unsigned int last) const
 {
-    buildClassLists();
     std::vector<EntityIndex> indices;
-    auto const append = [this, &indices](EntityIndex index) {
-        if (!m_deleted[index])
-            indices.push_back(index);
-    };
     last = std::min(last, FcBase::idLast);
-    for (unsigned int number = first; number <= last; ++number) {
-        for (auto i = m_classStarts[number]; i < m_classStarts[number + 1]; ++i)
-            append(m_sortedByClass[i]);
-        if (auto const created = m_createdByClass.find(static_cast<std::uint16_t>(number));
-            created != m_createdByClass.end())
-            std::for_each(created->second.begin(), created->second.end(), append);
+    for (unsigned int i = first; i <= last; ++i) {
+        auto const number = static_cast<std::uint16_t>(i);
+        if (m_source && instantiable(number) == number)
+            m_source->appendRecordsOfClass(number, indices);
+        if (auto const created = m_createdByClass.find(number); created != m_createdByClass.end())
+            indices.insert(indices.end(), created->second.begin(), created->second.end());
     }
+    std::erase_if(indices, [this](EntityIndex index) { return m_deleted[index]; });
     return indices;
 }
 

@@ -42,7 +42,7 @@ public:
     bool entityDelete(std::shared_ptr<FcBase> entity);
 
     /// The number of places, deleted ones included.
-    [[nodiscard]] std::size_t entityCount() const { return m_classes.size(); }
+    [[nodiscard]] std::size_t entityCount() const { return m_sourceCount + m_createdClasses.size(); }
     /// The type number at a place; 0 for an entity without a class.
     [[nodiscard]] std::uint16_t classNumber(EntityIndex index) const;
     [[nodiscard]] bool isDeleted(EntityIndex index) const;
@@ -103,7 +103,8 @@ private:
     friend class AttributeBase;
     friend class ChangeLog;
 
-    static constexpr std::size_t pageSize = 1024;
+    /// Small, for the records of a property view lie scattered between those of geometry.
+    static constexpr std::size_t pageSize = 256;
     struct Page
     {
         std::shared_ptr<FcBase> objects[pageSize];
@@ -119,7 +120,6 @@ private:
     void attributeWillChange(FcBase& entity, unsigned int slot);
     void attributeDidChange(FcBase& entity, unsigned int slot);
     void notify(std::vector<EntityIndex> const& entities);
-    void buildClassLists() const;
     [[nodiscard]] InverseIndex& inverseIndex(unsigned int relationFirst, unsigned int relationLast,
                                              unsigned int slot) const;
     void indexReferences(FcBase const& entity, unsigned int slot, bool add) const;
@@ -127,14 +127,11 @@ private:
 
     std::unique_ptr<EntitySource> m_source;
     std::size_t m_sourceCount = 0;
-    std::vector<std::uint16_t> m_classes;
+    /// The type numbers of what came after the source's records.
+    std::vector<std::uint16_t> m_createdClasses;
     std::vector<bool> m_deleted;
     mutable std::vector<std::unique_ptr<Page>> m_pages;
     mutable std::size_t m_objectCount = 0;
-    /// Places by class: first the counting sort of the source's records, then what came later.
-    mutable bool m_classListsBuilt = false;
-    mutable std::vector<std::uint32_t> m_classStarts;
-    mutable std::vector<EntityIndex> m_sortedByClass;
     std::map<std::uint16_t, std::vector<EntityIndex>> m_createdByClass;
     mutable std::map<InverseKey, InverseIndex> m_inverseIndexes;
     ChangeLog m_changes;

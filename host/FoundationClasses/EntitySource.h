@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 namespace qev::fc {
 
@@ -22,6 +23,9 @@ public:
     [[nodiscard]] virtual std::size_t count() const = 0;
     /// The type number of a record; 0 for an entity that the model has no class for.
     [[nodiscard]] virtual std::uint16_t classNumber(EntityIndex index) const = 0;
+    /// Appends the places of all records with this type number, subclasses left out, in ascending order.
+    /// Here it asks for the number of each record; a source that knows better does better.
+    virtual void appendRecordsOfClass(std::uint16_t number, std::vector<EntityIndex>& records) const;
     /// Fills a new object of the record's class with the record's values.
     virtual void read(EntityIndex index, Data& data, FcBase& entity) = 0;
     /// Calls \p visit for each entity that an attribute of the record refers to, without making objects.

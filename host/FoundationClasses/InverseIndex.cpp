@@ -24,7 +24,16 @@ std::vector<EntityIndex>& InverseIndex::changeable(EntityIndex target) const
     return list;
 }
 
-std::vector<EntityIndex> const& InverseIndex::relating(EntityIndex target) const { return changeable(target); }
+std::vector<EntityIndex> const& InverseIndex::relating(EntityIndex target) const
+{
+    static std::vector<EntityIndex> const none;
+    if (auto const known = m_lists.find(target); known != m_lists.end())
+        return known->second;
+    // Most entities have no relation of most kinds, and need no list to say so.
+    auto const reference =
+        std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
+    return reference == m_references.end() || reference->first != target ? none : changeable(target);
+}
 
 void InverseIndex::add(EntityIndex target, EntityIndex relation)
 {
