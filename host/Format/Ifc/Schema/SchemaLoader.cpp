@@ -12,6 +12,8 @@
 #include "ifc4x3PropertySets.h"
 #include "ifc4x3Tc1Schema.h"
 
+#include <algorithm>
+
 namespace qev::ifc {
 
 struct SchemaLoader::Version
@@ -21,26 +23,39 @@ struct SchemaLoader::Version
     // Null for a version without sets.
     std::string_view (*setsText)();
     std::unique_ptr<def::SchemaPset> schema;
+    bool hasSets = false;
+
+    /// The schema, without its sets until `addSets`; null when its text is broken.
+    def::SchemaPset* classes();
+    void addSets();
 };
 
-namespace {
-
-void addSets(def::SchemaPset& schema, std::string_view text)
+def::SchemaPset* SchemaLoader::Version::classes()
 {
-    def::SetsTextResult result = def::parseSets(text);
+    if (!schema) {
+        if (auto parsed = def::schema::parseSchema(schemaText()))
+            schema = std::make_unique<def::SchemaPset>(std::move(parsed));
+    }
+    return schema.get();
+}
+
+void SchemaLoader::Version::addSets()
+{
+    if (hasSets || !setsText)
+        return;
+    hasSets = true;
+    def::SetsTextResult result = def::parseSets(setsText());
     for (def::TextError const& error : result.errors)
         assert::report("Line " + std::to_string(error.line) + ": " + error.message,
                        "qev::ifc::SchemaLoader::pSchemaFromName", "Format/Ifc/Schema/SchemaLoader");
-    schema.addDefinitions(result.context, std::move(result.definitions));
+    schema->addDefinitions(result.context, std::move(result.definitions));
 }
-
-} // namespace
 
 SchemaLoader::SchemaLoader()
 {
     auto const add = [this](char const* name, std::string_view (*schemaText)(),
                             std::string_view (*setsText)()) {
-        m_versions.push_back(std::make_unique<Version>(Version{name, schemaText, setsText, nullptr}));
+        m_versions.push_back(std::make_unique<Version>(Version{name, schemaText, setsText, nullptr, false}));
     };
     add("IFC4X3_TC1", embedded::ifc4x3Tc1Schema, embedded::ifc4x3PropertySets);
     add("IFC4X1", embedded::ifc4x1Schema, nullptr);
@@ -58,29 +73,29 @@ SchemaLoader& SchemaLoader::curr()
     return instance;
 }
 
+SchemaLoader::Version* SchemaLoader::find(std::string const& name)
+{
+    auto const found = std::find_if(m_versions.begin(), m_versions.end(),
+                                    [&name](auto const& version) { return version->name == name; });
+    return found == m_versions.end() ? nullptr : found->get();
+}
+
 def::SchemaPset* SchemaLoader::pSchemaFromName(std::string const& name)
 {
     std::scoped_lock const lock(m_mutex);
-    for (auto const& version : m_versions) {
-        if (version->name != name)
-            continue;
-        if (!version->schema) {
-            auto classes = def::schema::parseSchema(version->schemaText());
-            if (!classes)
-                return nullptr;
-            version->schema = std::make_unique<def::SchemaPset>(std::move(classes));
-            if (version->setsText)
-                addSets(*version->schema, version->setsText());
-        }
-        return version->schema.get();
-    }
-    return nullptr;
+    Version* const version = find(name);
+    if (!version || !version->classes())
+        return nullptr;
+    version->addSets();
+    return version->schema.get();
 }
 
 def::schema::Schema const* SchemaLoader::classesFromName(std::string const& name)
 {
-    def::SchemaPset const* const schema = pSchemaFromName(name);
-    return schema ? &schema->schema() : nullptr;
+    // The sets take as long to read as the classes, and opening a file does not need them.
+    std::scoped_lock const lock(m_mutex);
+    Version* const version = find(name);
+    return version && version->classes() ? &version->schema->schema() : nullptr;
 }
 
 } // namespace qev::ifc

@@ -30,6 +30,8 @@ public:
 private:
     struct Version;
 
+    [[nodiscard]] Version* find(std::string const& name);
+
     std::mutex m_mutex;
     std::vector<std::unique_ptr<Version>> m_versions;
 };
