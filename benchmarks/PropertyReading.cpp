@@ -129,14 +129,14 @@ std::shared_ptr<FcPropertySingleValue> findSingleValue(FcObjectDefinition const&
 
 std::size_t readAllProperties(fc::Data& data)
 {
-    constexpr std::size_t releaseEvery = 1'000;
+    // Some ten megabytes of objects; to let go of a few ones would be to read what they share over and over.
+    constexpr std::size_t mostObjects = 50'000;
     std::size_t length = 0;
-    std::size_t count = 0;
     for (fc::EntityIndex const index :
          data.indicesFromId(FcObjectDefinition::idFirst, FcObjectDefinition::idLast)) {
         if (auto const object = fc::entityCast<FcObjectDefinition>(data.entity(index)))
             length += readObject(*object);
-        if (++count % releaseEvery == 0)
+        if (data.objectCount() > mostObjects)
             data.releaseUnused();
     }
     return length;
