@@ -4,6 +4,8 @@
 #include "FoundationClasses/FcBase.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace qev::fc {
@@ -42,7 +44,17 @@ void ChangeLog::end()
 void ChangeLog::record(Change change)
 {
     Step const step(*this, std::string());
-    m_open->changes.push_back(std::move(change));
+    std::vector<Change>& changes = m_open->changes;
+    // Of several changes of one attribute in one step, the value before the first is enough. An action on many
+    // objects that share a relation changes it as often as there are objects, so it pays to look back a little.
+    constexpr std::ptrdiff_t lookBack = 16;
+    auto const recent = changes.end() - std::min<std::ptrdiff_t>(lookBack, std::ssize(changes));
+    bool const isKnown = std::any_of(recent, changes.end(), [&change](Change const& other) {
+        return change.kind == Kind::Attribute && other.kind == Kind::Attribute && other.slot == change.slot &&
+               other.entity == change.entity;
+    });
+    if (!isKnown)
+        changes.push_back(std::move(change));
 }
 
 void ChangeLog::undo()

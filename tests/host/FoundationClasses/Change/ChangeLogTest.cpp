@@ -115,6 +115,35 @@ TEST_F(Changes, OfOneStepGoTogether)
     EXPECT_TRUE(model.data()->isDeleted(wall->getIndex()));
 }
 
+TEST_F(Changes, OfOneAttributeInAStepGoBackToTheFirstValueAndForthToTheLast)
+{
+    auto const other = model.wall("W9");
+    model.addSet(other, "Pset_X");
+    auto const set = other->getPropertySetDefinitionNonConst<fc::core::kernel::FcPropertySet>("Pset_X");
+    model.joinSet(set, wall);
+    {
+        ChangeLog::Step const step(log, "Many");
+        wall->Name = "W2";
+        EXPECT_TRUE(other->deletePropertySetDefinition("Pset_X"));
+        wall->Name = "W3";
+        EXPECT_TRUE(wall->deletePropertySetDefinition("Pset_X"));
+        model.data()->entityDelete(wall);
+        wall->Name = "W4";
+    }
+    log.undo();
+    EXPECT_EQ(wall->Name.get(), "W1");
+    EXPECT_EQ(wall->attachedSets().size(), 1u);
+    EXPECT_EQ(other->attachedSets().size(), 1u);
+    log.redo();
+    EXPECT_EQ(wall->Name.get(), "W4");
+    EXPECT_TRUE(other->attachedSets().empty());
+    EXPECT_TRUE(model.data()->isDeleted(wall->getIndex()));
+    log.undo();
+    EXPECT_EQ(wall->Name.get(), "W1");
+    EXPECT_EQ(wall->attachedSets().size(), 1u);
+    EXPECT_EQ(other->attachedSets().size(), 1u);
+}
+
 TEST_F(Changes, OfNestedStepsBelongToTheOuterOne)
 {
     {
