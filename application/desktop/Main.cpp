@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QPixmap>
+#include <set>
+#include <string>
 
 namespace {
 
@@ -38,6 +40,14 @@ MainWindow::Questions makeSilentQuestions()
     return questions;
 }
 
+/// Shows each report of a programming error once; many come again with every object that is shown.
+void showReport(qev::assert::AssertInfo const& info)
+{
+    static std::set<std::string> shown;
+    if (shown.insert(info.text + info.function).second)
+        std::fprintf(stderr, "Report: %s (%s)\n", info.text.c_str(), info.function.c_str());
+}
+
 int takePicture(MainWindow& window, QString const& file, QString const& object, QString const& picture)
 {
     window.setQuestions(makeSilentQuestions());
@@ -56,6 +66,7 @@ int takePicture(MainWindow& window, QString const& file, QString const& object, 
 
 int main(int argc, char** argv)
 {
+    qev::assert::Assert::setHandler(showReport);
     QApplication const application(argc, argv);
     QApplication::setOrganizationName("QevFoundationClassesUi");
     QApplication::setApplicationName("qev-inspector");
@@ -71,7 +82,8 @@ int main(int argc, char** argv)
     QCommandLineOption const reports("reports", "Print reports of programming errors on the error stream.");
     parser.addOptions({object, screenshot, reports});
     parser.process(application);
-    // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers only.
+    // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
+    // only.
     qev::assert::Assert::setEnabled(parser.isSet(reports));
 
     auto const backend = qev::ui::QtBackend::install();

@@ -97,7 +97,7 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     statusBar()->addPermanentWidget(m_fileText);
     m_session.onModelChanged.iHandlerAdd(
         [this](std::vector<fc::EntityIndex> const& touched) { onModelChanged(touched); });
-    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 45);
+    resize(fontMetrics().averageCharWidth() * 180, fontMetrics().height() * 45);
     showFile();
 }
 
@@ -258,7 +258,9 @@ void MainWindow::createPanels()
 
     m_structure->setModel(m_structureModel);
     m_structure->setUniformRowHeights(true);
-    m_structure->header()->setStretchLastSection(true);
+    m_structure->header()->setStretchLastSection(false);
+    m_structure->header()->setSectionResizeMode(StructureModel::nameColumn, QHeaderView::Stretch);
+    m_structure->header()->setSectionResizeMode(StructureModel::classColumn, QHeaderView::ResizeToContents);
     connect(m_structure->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](QModelIndex const& current) {
                 if (current.isValid())
@@ -270,7 +272,7 @@ void MainWindow::createPanels()
     m_structureDock->setObjectName("structure");
     m_structureDock->setWidget(m_search);
     addDockWidget(Qt::LeftDockWidgetArea, m_structureDock);
-    resizeDocks({m_structureDock}, {fontMetrics().averageCharWidth() * 55}, Qt::Horizontal);
+    resizeDocks({m_structureDock}, {fontMetrics().averageCharWidth() * 64}, Qt::Horizontal);
 
     m_messages = new MessagesPanel;
     m_messagesDock = new QDockWidget(tr("Messages"), this);
@@ -301,7 +303,7 @@ void MainWindow::createEditMenu()
     m_redo = addAction(menu, tr("&Redo"), QKeySequence("Ctrl+Y"), [this] { travel(false); });
     m_redo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     menu.addSeparator();
-    addAction(menu, tr("&Copy"), QKeySequence(), [this] { copyFromFocus(); });
+    addAction(menu, tr("&Copy\tCtrl+C"), QKeySequence(), [this] { copyFromFocus(); });
     menu.addSeparator();
     m_find = addAction(menu, tr("&Find object"), QKeySequence("Ctrl+F"), [this] {
         m_structureDock->show();
@@ -396,6 +398,7 @@ void MainWindow::tellOpeningFailed(QString const& path)
     auto const messages = m_session.getMessages();
     if (messages.empty())
         return;
+    RecentFiles::remove(path);
     m_questions.tellProblem(tr("%1 cannot be opened.").arg(path), toQString(messages.back().toString()));
 }
 
@@ -406,7 +409,6 @@ void MainWindow::showFile()
     m_search->setData(model);
     m_properties->showFile();
     m_structure->expandToDepth(2);
-    m_structure->resizeColumnToContents(0);
     m_structure->setFocus();
     m_shownMessages = 0;
     m_messages->setMessages({}, 0);

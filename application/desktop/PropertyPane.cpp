@@ -12,7 +12,9 @@
 #include "Ui/Qt/QtDialog.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
+#include "Ui/Window/Controls/PropertyGridControl/PropertyGridProperty.h"
 
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace qev::application {
@@ -162,15 +164,29 @@ void PropertyPane::createControl()
 {
     m_control = std::make_shared<PropertySetGridControl>(
         ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_session.getData(), m_dialog,
-        std::make_shared<ShowAllFilter>(), GridFormatters{}, localization::Dictionaries::getContexts("IFC"), nullptr);
+        std::make_shared<ShowAllFilter>(), GridFormatters{}, localization::Dictionaries::getContexts("IFC"),
+        nullptr);
     m_control->init(0, std::nullopt, true);
     setUnusedShown(m_isUnusedShown);
     m_dialog->onSizeChanged(m_dialog->getClientAreaSize());
+    showAttributesAsTheyAre();
     auto* const grid = getGrid();
     if (!m_gridLayout.isEmpty())
         grid->restoreLayout(m_gridLayout);
     grid->getView().onCurrentRowChanged.iHandlerAdd(
         [this](QModelIndex const&) { fireEvents(onCurrentRowChanged); });
+}
+
+void PropertyPane::showAttributesAsTheyAre()
+{
+    m_control->getPropertyGridControl()->onPropertyChanged.iHandlerAdd(
+        [this](auto& event, ui::PropertyGridProperty& property) {
+            // Attributes let their items be chosen, and the choice does not reach the model: their rows
+            // belong to no property.
+            if (!property.getUserData())
+                QTimer::singleShot(0, this, [this] { showSelection(); });
+            qev::forwardEvent(event, property);
+        });
 }
 
 } // namespace qev::application

@@ -55,6 +55,8 @@ public:
 private:
     void showHint(QString const& hint);
     void createControl();
+    /// Puts the value of the model back into rows of attributes after an input to them.
+    void showAttributesAsTheyAre();
 
     std::shared_ptr<ui::QtBackend> m_backend;
     InspectorSession& m_session;

@@ -29,8 +29,11 @@ void StructureModel::setData(std::shared_ptr<fc::Data> data)
 
 void StructureModel::refresh(std::vector<fc::EntityIndex> const& touched)
 {
-    if (m_data)
-        refreshLabels(*m_root, touched);
+    if (!m_data)
+        return;
+    auto sorted = touched;
+    std::sort(sorted.begin(), sorted.end());
+    refreshLabels(*m_root, sorted);
 }
 
 fc::EntityIndex StructureModel::getObject(QModelIndex const& index)
@@ -154,7 +157,7 @@ void StructureModel::fill(Node& node, std::vector<fc::EntityIndex> const& object
 
 void StructureModel::refreshLabels(Node& node, std::vector<fc::EntityIndex> const& touched)
 {
-    if (node.parent && std::find(touched.begin(), touched.end(), node.object) != touched.end()) {
+    if (node.parent && std::binary_search(touched.begin(), touched.end(), node.object)) {
         node.label = ObjectLabel::of(*m_data, node.object);
         emit dataChanged(getIndex(node), getIndex(node, classColumn));
     }

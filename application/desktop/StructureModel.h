@@ -59,6 +59,7 @@ private:
     /// What is to stand below a node: what the structure says, without the objects above.
     [[nodiscard]] std::vector<fc::EntityIndex> getObjectsBelow(Node const& node) const;
     void fill(Node& node, std::vector<fc::EntityIndex> const& objects) const;
+    /// \p touched is in ascending order.
     void refreshLabels(Node& node, std::vector<fc::EntityIndex> const& touched);
 
     std::shared_ptr<fc::Data> m_data;

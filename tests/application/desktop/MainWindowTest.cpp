@@ -261,6 +261,18 @@ TEST_F(MainWindowTest, DroppedFileIsOpened)
     EXPECT_TRUE(window->getSession().isOpen());
 }
 
+TEST_F(MainWindowTest, AttributesShowWhatTheModelHasWhateverWasChosen)
+{
+    open();
+    window->selectObject(eastWall);
+    auto const attribute = row({"IfcWall", "PredefinedType"});
+    ASSERT_TRUE(attribute.isValid());
+    view().model()->setData(attribute.siblingAtColumn(1), "SHEAR", Qt::EditRole);
+    settle();
+    EXPECT_EQ(value(row({"IfcWall", "PredefinedType"})), "");
+    EXPECT_FALSE(window->isWindowModified());
+}
+
 TEST_F(MainWindowTest, UnknownGlobalIdSelectsNothing)
 {
     open();

@@ -105,6 +105,11 @@ void paintCheckBox(QPainter& painter, QStyleOptionViewItem const& option, Proper
     QStyleOptionButton box;
     box.rect = area;
     box.palette = option.palette;
+    // Styles frame a box in a darker shade of the window, which cannot be seen where all is dark.
+    auto const& palette = option.palette;
+    box.palette.setColor(
+        QPalette::Window,
+        QtPropertyGridDelegate::getMuted(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.5F));
     if (PropertyGridEditing::canClickCheckBox(row))
         box.state = option.state & ~QStyle::State_HasFocus & ~QStyle::State_Selected;
     box.state.setFlag(QStyle::State_Enabled, PropertyGridEditing::canClickCheckBox(row));
