@@ -1,5 +1,7 @@
 #include "UI/FoundationClasses/Controls/PropertySetControl.h"
 
+#include "Core/Localization/LocalizationAdmin.h"
+#include "Core/Unit/QuantityPresentation.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "FoundationClasses/AllEntities.h"
 #include "kit/ModelBuilder.h"
@@ -9,6 +11,7 @@
 #include "library/kit/ShownSet.h"
 #include "library/kit/ToySchema.h"
 #include "UI/FoundationClasses/Set/PropertySetDefinition.h"
+#include "UI/FoundationClasses/Set/PropertyTypePropertySetAndPropertyNameQppOverrideInterface.h"
 #include "Ui/Window/Window.h"
 
 #include <gmock/gmock.h>
@@ -118,12 +121,14 @@ protected:
     Model model;
     std::shared_ptr<ToyFilter> filter = std::make_shared<ToyFilter>();
     std::shared_ptr<LogFormatter> formatter = std::make_shared<LogFormatter>();
+    std::vector<std::string> contexts;
+    std::shared_ptr<PropertyTypePropertySetAndPropertyNameQppOverrideInterface> qppOverride;
 
 private:
     ToyControl& useSchema(qev::ifc::def::SchemaPset const* schema)
     {
-        m_control = std::make_unique<ToyControl>(schema, nullptr, nullptr, filter, formatter,
-                                                 std::vector<std::string>(), nullptr);
+        m_control =
+            std::make_unique<ToyControl>(schema, nullptr, nullptr, filter, formatter, contexts, qppOverride);
         return *m_control;
     }
 
@@ -256,6 +261,33 @@ TEST_F(PropertySetControlTest, ShowsAndHidesTheWindowOfItsFlavour)
     EXPECT_EQ(control.window->hidden, 1);
 }
 
+/// A formatter that keeps the models it is told of.
+class DataFormatter : public LogFormatter
+{
+public:
+    std::vector<std::shared_ptr<Data>> models;
+    void setObject(std::shared_ptr<Data> data, std::shared_ptr<FcBase> /*object*/) override
+    {
+        models.push_back(std::move(data));
+    }
+};
+
+TEST_F(PropertySetControlTest, TellsTheFormatterTheModelThatTheObjectsCameWith)
+{
+    auto const dataFormatter = std::make_shared<DataFormatter>();
+    formatter = dataFormatter;
+    auto& control = useToy();
+    auto const wall = model.wall("W1");
+    model.addSet(wall, "Pset_Toy", {{"Colour", label("red")}});
+    Model other;
+
+    control.setObject(other.data(), other.wall("W2"));
+    control.setObjects(model.data(), {wall});
+    control.notifyPropertySetPropertyChanged("Pset_Toy", "Colour", {0}, Type::ValueChanged);
+
+    EXPECT_THAT(dataFormatter->models, ElementsAre(other.data(), other.data(), model.data(), model.data()));
+}
+
 /// A formatter that empties the control it is told of, between the telling and the building of sets.
 class LosingFormatter : public LogFormatter
 {
@@ -279,6 +311,86 @@ TEST_F(PropertySetControlTest, BuildingSetsWithoutObjectsIsReportedAndGivesNone)
 
     expectReport("Object list is empty.", std::string(function) + "initSets", path);
     EXPECT_THAT(control.getDefinitions(), IsEmpty());
+}
+
+// --- What sets are given ------------------------------------------------------------------------
+
+/// A flavour that has other objects edited than it shows.
+class RowControl : public ToyControl
+{
+public:
+    using ToyControl::ToyControl;
+    std::vector<std::shared_ptr<FcBase>> row;
+
+private:
+    std::vector<std::shared_ptr<FcBase>> const& getObjectsBeingEdited() override { return row; }
+};
+
+TEST_F(PropertySetControlTest, SetsHaveTheObjectsShown)
+{
+    auto& control = useToy();
+    std::shared_ptr<FcBase> const first = model.wall("W1");
+    std::shared_ptr<FcBase> const second = model.wall("W2");
+
+    control.setObjects(model.data(), {first, second});
+
+    EXPECT_THAT(control.getDefinitions().front()->getObjects(), ElementsAre(first, second));
+}
+
+TEST_F(PropertySetControlTest, SetsFollowTheObjectsThatTheFlavourHasEdited)
+{
+    auto const schema = toySchemaWith(SetBuilder("Pset_Toy").applicableTo("IfcProduct").take());
+    RowControl control(schema.get(), nullptr, nullptr, filter, formatter, contexts, qppOverride);
+    std::shared_ptr<FcBase> const first = model.wall("W1");
+    std::shared_ptr<FcBase> const second = model.wall("W2");
+    control.setObjects(model.data(), {first, second});
+    auto const& set = *control.getDefinitions().front();
+
+    control.row = {first};
+    EXPECT_THAT(set.getObjects(), ElementsAre(first));
+    control.row = {second};
+    EXPECT_THAT(set.getObjects(), ElementsAre(second));
+}
+
+/// Has no presentation of its own, and keeps what it is asked for.
+class AskedOverride : public PropertyTypePropertySetAndPropertyNameQppOverrideInterface
+{
+public:
+    std::vector<std::string> asked;
+    std::unique_ptr<qev::unit::QuantityPresentationBase>
+    createQuantityPresentation(std::string type, std::string set, std::string property) override
+    {
+        asked.push_back(type + " " + set + " " + property);
+        return nullptr;
+    }
+};
+
+TEST_F(PropertySetControlTest, SetsAreGivenTheOverrideOfPresentations)
+{
+    auto const asked = std::make_shared<AskedOverride>();
+    qppOverride = asked;
+    auto& control = useToy();
+    control.setObject(model.data(), model.wall("W1"));
+    asked->asked.clear();
+
+    EXPECT_EQ(control.getDefinitions().front()->quantityPresentationOverride("Real", "Pset_Toy", "Size"),
+              nullptr);
+
+    EXPECT_THAT(asked->asked, ElementsAre("Real Pset_Toy Size"));
+}
+
+TEST_F(PropertySetControlTest, SetsAreGivenTheContextsOfTexts)
+{
+    auto& admin = qev::resource::localization::getAdminInstance();
+    auto const language = admin.language();
+    admin.setLanguage(qev::locale::Locale("de", ""));
+    contexts = qev::localization::Dictionaries::getContexts("IFC");
+    auto& control = use(toySchemaWith(SetBuilder("Pset_WallCommon").applicableTo("IfcWall").take()));
+
+    control.setObject(model.data(), model.wall("W1"));
+
+    EXPECT_EQ(control.getDefinitions().front()->getLocalizedName({}), "Wand allgemein");
+    admin.setLanguage(language);
 }
 
 // --- Which sets ---------------------------------------------------------------------------------
@@ -442,6 +554,31 @@ TEST_F(PropertySetControlTest, ATypeOfNoParticularClassGoesByItsOwnName)
     control.setObject(model.data(), type);
 
     EXPECT_THAT(namesOf(control), Contains("Company"));
+}
+
+// The name of a general type is cut like that of any other, and means no class then.
+TEST_F(PropertySetControlTest, ATypeOfAGeneralClassIsReportedAndHasNoSet)
+{
+    auto& control = useStandard();
+    auto const type = model.add<core::kernel::FcTypeProduct>("T1");
+    model.addSet(type, "Company", {{"Code", label("A")}});
+
+    control.setObject(model.data(), type);
+
+    expectReport("Schema entity doesn't exist.", std::string(function) + "getXmlSets", path);
+    EXPECT_THAT(control.getDefinitions(), IsEmpty());
+}
+
+TEST_F(PropertySetControlTest, SetsOfAProjectItselfAreNotShown)
+{
+    auto& control = useStandard();
+    auto const project = model.project("P1");
+    model.addSet(project, "Company", {{"Code", label("A")}});
+
+    control.setObject(model.data(), project);
+    takeReports();
+
+    EXPECT_THAT(namesOf(control), Not(Contains("Company")));
 }
 
 TEST_F(PropertySetControlTest, ASetOfAnotherKindIsReportedTwiceAndStaysAsNull)
