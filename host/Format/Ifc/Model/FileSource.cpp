@@ -6,6 +6,7 @@
 #include "FoundationClasses/AttributeReader.h"
 #include "FoundationClasses/Data.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace qev::ifc {
@@ -64,8 +65,14 @@ public:
                               : m_source.m_units.scaleOf(measureType, m_ownUnit);
     }
 
+    /// What the file's own version says of the attribute being read; null when it is the model's version.
+    void setFileAttribute(def::schema::Attribute const* attribute) { m_fileAttribute = attribute; }
+
     void mismatch(fc::AttributeDescriptor const& attribute, std::string_view expected, StepValue const& found) override
     {
+        auto const classOf = [this](step::InstanceId id) { return m_source.fileEntityOf(id); };
+        if (m_fileAttribute && fitsFileVersion(found, *m_fileAttribute, classOf))
+            return;
         std::string text(attribute.name);
         text += ": expected ";
         text += expected;
@@ -87,6 +94,7 @@ private:
     fc::Data& m_data;
     fc::EntityIndex m_index;
     step::InstanceId m_ownUnit = 0;
+    def::schema::Attribute const* m_fileAttribute = nullptr;
 };
 
 FileSource::FileSource(std::unique_ptr<step::StepFile> file, VersionSchema const& version)
@@ -94,8 +102,16 @@ FileSource::FileSource(std::unique_ptr<step::StepFile> file, VersionSchema const
     , m_version(version)
     , m_parser(*m_file)
     , m_units(*m_file, projectOf(*m_file, version))
+    , m_classNumbers(version.mappings().size() + 1)
+    , m_readings(m_classNumbers.size())
+    , m_keywordNumbers(fc::FcBase::idLast + 1)
     , m_told(m_file->recordCount())
-{}
+{
+    for (std::size_t i = 0; i < version.mappings().size(); ++i)
+        m_classNumbers[i + 1] = version.mappings()[i].classNumber();
+    for (std::size_t i = 0; i < m_classNumbers.size(); ++i)
+        m_keywordNumbers[m_classNumbers[i]].push_back(static_cast<std::uint16_t>(i));
+}
 
 FileSource::~FileSource() = default;
 
@@ -122,8 +138,19 @@ std::size_t FileSource::count() const { return m_file->recordCount(); }
 
 std::uint16_t FileSource::classNumber(fc::EntityIndex index) const
 {
-    ClassMapping const* const mapping = mappingOf(index);
-    return mapping ? mapping->classNumber() : std::uint16_t{0};
+    return m_classNumbers[m_file->classOf(index)];
+}
+
+void FileSource::appendRecordsOfClass(std::uint16_t number, std::vector<fc::EntityIndex>& records) const
+{
+    auto const before = static_cast<std::ptrdiff_t>(records.size());
+    for (std::uint16_t const keyword : m_keywordNumbers[number]) {
+        auto const found = m_file->recordsOf(keyword);
+        records.insert(records.end(), found.begin(), found.end());
+    }
+    // Several classes of an older version may be one of the model.
+    if (m_keywordNumbers[number].size() > 1)
+        std::sort(records.begin() + before, records.end());
 }
 
 void FileSource::read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity)
@@ -143,28 +170,49 @@ void FileSource::readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& e
         reader.tell("expected " + std::to_string(mapping.fileSlotCount()) + " arguments of " +
                     mapping.fileEntity().name() + ", found " + std::to_string(arguments.size()));
     fc::EntityClass const& entityClass = entity.getEntityClass();
-    auto const argumentOf = [&](unsigned int slot) -> StepValue const* {
-        int const fileSlot = mapping.fileSlot(slot);
-        return fileSlot >= 0 && static_cast<std::size_t>(fileSlot) < arguments.size()
-                   ? &arguments[static_cast<std::size_t>(fileSlot)]
-                   : nullptr;
-    };
-    for (unsigned int slot = 0; slot < entityClass.attributes.size(); ++slot) {
-        StepValue const* const argument = argumentOf(slot);
-        if (!argument || argument->isUnset() || argument->kind() == StepValue::Kind::Derived)
+    bool const isOtherVersion = &m_version.fileSchema() != &m_version.modelSchema();
+    for (SlotReading const& reading : readingOf(index, entityClass)) {
+        if (reading.fileSlot >= arguments.size())
             continue;
-        auto const unitSlot = ownUnitSlot(entityClass, slot);
-        StepValue const* const unit = unitSlot ? argumentOf(*unitSlot) : nullptr;
-        reader.setOwnUnit(unit ? unit->referenceId() : 0);
-        fc::AttributeDescriptor const& attribute = *entityClass.attributes[slot];
+        StepValue const& argument = arguments[reading.fileSlot];
+        if (argument.isUnset() || argument.kind() == StepValue::Kind::Derived)
+            continue;
+        auto const unitSlot = static_cast<std::size_t>(reading.unitFileSlot);
+        bool const hasUnit = reading.unitFileSlot != ClassMapping::noSlot && unitSlot < arguments.size();
+        reader.setOwnUnit(hasUnit ? arguments[unitSlot].referenceId() : 0);
+        reader.setFileAttribute(isOtherVersion ? mapping.fileAttribute(reading.slot) : nullptr);
+        fc::AttributeDescriptor const& attribute = *entityClass.attributes[reading.slot];
         auto const& operations = *attribute.operations;
-        if (!mapping.changesValueForm(slot))
-            operations.read(entity.attribute(slot), attribute, *argument, reader);
+        if (!reading.changesValueForm)
+            operations.read(entity.attribute(reading.slot), attribute, argument, reader);
         else
-            operations.read(entity.attribute(slot), attribute,
-                            toModelForm(*argument, *mapping.fileAttribute(slot), attribute, *m_file), reader);
+            operations.read(entity.attribute(reading.slot), attribute,
+                            toModelForm(argument, *mapping.fileAttribute(reading.slot), attribute, *m_file), reader);
     }
     m_arguments = std::move(arguments);
+}
+
+FileSource::ClassReading const& FileSource::readingOf(fc::EntityIndex index, fc::EntityClass const& entityClass)
+{
+    auto& reading = m_readings[m_file->classOf(index)];
+    if (!reading)
+        reading = makeReading(*mappingOf(index), entityClass);
+    return *reading;
+}
+
+FileSource::ClassReading FileSource::makeReading(ClassMapping const& mapping, fc::EntityClass const& entityClass)
+{
+    ClassReading readings;
+    for (unsigned int slot = 0; slot < entityClass.attributes.size(); ++slot) {
+        int const fileSlot = mapping.fileSlot(slot);
+        if (fileSlot == ClassMapping::noSlot)
+            continue;
+        auto const unitSlot = ownUnitSlot(entityClass, slot);
+        readings.push_back({slot, static_cast<std::size_t>(fileSlot),
+                            unitSlot ? mapping.fileSlot(*unitSlot) : ClassMapping::noSlot,
+                            mapping.changesValueForm(slot)});
+    }
+    return readings;
 }
 
 void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
@@ -199,6 +247,13 @@ void FileSource::check(fc::EntityIndex index, fc::Data& data)
         checkReferences(index);
     }
     m_told[index] = true;
+}
+
+def::schema::Entity const* FileSource::fileEntityOf(step::InstanceId id) const
+{
+    step::RecordIndex const record = m_file->indexOf(id);
+    ClassMapping const* const mapping = record == step::StepFile::noRecord ? nullptr : mappingOf(record);
+    return mapping ? &mapping->fileEntity() : nullptr;
 }
 
 void FileSource::checkReferences(fc::EntityIndex index)

@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,7 @@ public:
     void read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity) override;
     void forEachReference(fc::EntityIndex index, unsigned int slot,
                           std::function<void(fc::EntityIndex)> const& visit) const override;
+    void appendRecordsOfClass(std::uint16_t number, std::vector<fc::EntityIndex>& records) const override;
 
     [[nodiscard]] step::StepFile& file() { return *m_file; }
     [[nodiscard]] step::StepFile const& file() const { return *m_file; }
@@ -51,8 +53,23 @@ public:
 private:
     class Reader;
 
+    /// How an attribute is read from a record.
+    struct SlotReading
+    {
+        unsigned int slot = 0;
+        std::size_t fileSlot = 0;
+        /// Where a unit of the value's own stands; `ClassMapping::noSlot` for a value that has none.
+        int unitFileSlot = 0;
+        bool changesValueForm = false;
+    };
+    using ClassReading = std::vector<SlotReading>;
+
+    [[nodiscard]] ClassReading const& readingOf(fc::EntityIndex index, fc::EntityClass const& entityClass);
+    [[nodiscard]] static ClassReading makeReading(ClassMapping const& mapping, fc::EntityClass const& entityClass);
     void readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity);
     void checkReferences(fc::EntityIndex index);
+    /// The class of a record in the file's own version; null for none and for an unknown keyword.
+    [[nodiscard]] def::schema::Entity const* fileEntityOf(step::InstanceId id) const;
 
     std::unique_ptr<step::StepFile> m_file;
     VersionSchema const& m_version;
@@ -60,6 +77,11 @@ private:
     FileUnits m_units;
     step::StepMessages m_messages;
     std::vector<step::StepValue> m_arguments;
+    /// By the numbers of keywords: the class in the model, and how its records are read once one was.
+    std::vector<std::uint16_t> m_classNumbers;
+    std::vector<std::optional<ClassReading>> m_readings;
+    /// By class of the model: the numbers of its keywords.
+    std::vector<std::vector<std::uint16_t>> m_keywordNumbers;
     /// Records whose messages are known already: one that is let go and read again has no new ones.
     std::vector<bool> m_told;
 };

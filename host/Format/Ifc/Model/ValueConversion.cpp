@@ -6,6 +6,7 @@
 #include "Format/Ifc/Schema/Type.h"
 #include "Format/Ifc/Step/StepRecordParser.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -136,12 +137,33 @@ StepValue toModelForm(StepValue value, def::schema::Attribute const& fileAttribu
     return value;
 }
 
+/// Whether an attribute of the data type may refer to an entity of the class.
+bool holdsClass(def::schema::ObjectBase const& dataType, def::schema::Entity const& entity)
+{
+    if (auto const* const target = dynamic_cast<def::schema::Entity const*>(&dataType))
+        return entity.isA(*target);
+    auto const* const select = dynamic_cast<def::schema::Select const*>(&dataType);
+    return select && std::any_of(select->members().begin(), select->members().end(),
+                                 [&entity](auto const* member) { return holdsClass(*member, entity); });
+}
+
 } // namespace
 
 StepValue toModelForm(StepValue value, def::schema::Attribute const& fileAttribute,
                       fc::AttributeDescriptor const& modelAttribute, step::StepFile const& file)
 {
     return toModelForm(std::move(value), fileAttribute, modelAttribute.depth, modelAttribute, file);
+}
+
+bool fitsFileVersion(StepValue const& value, def::schema::Attribute const& fileAttribute,
+                     std::function<def::schema::Entity const*(step::InstanceId)> const& classOf)
+{
+    if (value.kind() == Kind::Reference) {
+        def::schema::Entity const* const found = classOf(value.referenceId());
+        return found && holdsClass(fileAttribute.dataType(), *found);
+    }
+    auto const* const items = dynamic_cast<def::schema::DataTypeEnum const*>(&fileAttribute.dataType());
+    return value.kind() == Kind::Enumeration && items && items->hasValue(value.textValue());
 }
 
 std::optional<StepValue> toFileForm(StepValue value, def::schema::Attribute const& fileAttribute)

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "Format/Ifc/Schema/Attribute.h"
+#include "Format/Ifc/Schema/Entity.h"
 #include "Format/Ifc/Step/StepFile.h"
 #include "Format/Ifc/Step/StepValue.h"
 #include "FoundationClasses/EntityClass.h"
 
+#include <functional>
 #include <optional>
 
 namespace qev::ifc {
@@ -14,6 +16,11 @@ namespace qev::ifc {
 /// date record becomes text, a single reference a list of one.
 step::StepValue toModelForm(step::StepValue value, def::schema::Attribute const& fileAttribute,
                             fc::AttributeDescriptor const& modelAttribute, step::StepFile const& file);
+
+/// Tells whether a value is what the file's own version allows for the attribute, so that it is no fault of the
+/// file when the model has no place for it: an enumeration item or a class that the model does not have.
+bool fitsFileVersion(step::StepValue const& value, def::schema::Attribute const& fileAttribute,
+                     std::function<def::schema::Entity const*(step::InstanceId)> const& classOf);
 
 /// The way back. No value when the file's version has no form for it.
 std::optional<step::StepValue> toFileForm(step::StepValue value, def::schema::Attribute const& fileAttribute);

@@ -241,6 +241,17 @@ TEST(IfcFile, AValueOfTheWrongKindIsUnsetAndTold)
     EXPECT_THAT(file->messages()[1].text, HasSubstr("PredefinedType: expected an item of IfcWallTypeEnum, found .NOSUCHITEM."));
 }
 
+TEST(IfcFile, WhatTheFilesOwnVersionAllowsIsNoFault)
+{
+    auto const file = open("#1=IFCSTYLEDITEM($,(#2),$);\n#2=IFCPRESENTATIONSTYLEASSIGNMENT((#3));\n"
+                           "#3=IFCCURVESTYLE($,$,$,$);\n"
+                           "#5=IFCAIRTERMINALTYPE('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$,.EYEBALL.);\n",
+                           "IFC2X3");
+    file->check();
+    for (step::StepMessage const& message : file->messages())
+        EXPECT_EQ(message.record, 5u) << message.toString();
+}
+
 TEST(IfcFile, MessagesOfARecordComeOnce)
 {
     auto const file = open("#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,7,$,$,$,$,$,$);\n");
