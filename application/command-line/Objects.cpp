@@ -1,5 +1,6 @@
 #include "Objects.h"
 
+#include "Core/String/Ascii.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcRelAggregates.h"
 #include "FoundationClasses/Core/Kernel/FcRelNests.h"
@@ -18,13 +19,6 @@ using fc::core::kernel::FcRelAggregates;
 using fc::core::kernel::FcRelNests;
 using fc::core::productextension::FcRelContainedInSpatialStructure;
 
-bool isSameName(std::string_view a, std::string_view b)
-{
-    auto const lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [&lower](char x, char y) { return lower(x) == lower(y); });
-}
-
 /// The first relation of class \p Relation that lists the object in the attribute of that name.
 template <class Relation>
 std::shared_ptr<Relation> relationOf(fc::FcBase const& object, char const* attribute)
@@ -41,7 +35,7 @@ fc::EntityClass const* findClass(std::string const& name)
 {
     for (unsigned int number = 1; number <= fc::FcBase::idLast; ++number) {
         fc::EntityClass const* const candidate = fc::entityClassFromNumber(number);
-        if (isSameName(candidate->name, name))
+        if (str::equalIgnoringCase(candidate->name, name))
             return candidate;
     }
     return nullptr;

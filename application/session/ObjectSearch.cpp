@@ -1,5 +1,6 @@
 #include "ObjectSearch.h"
 
+#include "Core/String/Ascii.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 
 #include <algorithm>
@@ -11,17 +12,9 @@ namespace {
 
 using fc::core::kernel::FcObjectDefinition;
 
-std::string toLower(std::string text)
-{
-    for (char& character : text)
-        if (character >= 'A' && character <= 'Z')
-            character = static_cast<char>(character - 'A' + 'a');
-    return text;
-}
-
 std::vector<std::string> getWords(std::string const& text)
 {
-    std::istringstream stream(toLower(text));
+    std::istringstream stream(str::toLower(text));
     std::vector<std::string> words;
     for (std::string word; stream >> word;)
         words.push_back(word);
@@ -59,7 +52,7 @@ bool ObjectSearch::isFinished() const { return m_position >= m_objects.size() ||
 
 bool ObjectSearch::matches(ObjectLabel const& label) const
 {
-    auto const text = toLower(label.name + '\n' + label.className + '\n' + label.globalId);
+    auto const text = str::toLower(label.name + '\n' + label.className + '\n' + label.globalId);
     return std::all_of(m_words.begin(), m_words.end(),
                        [&](std::string const& word) { return text.find(word) != std::string::npos; });
 }

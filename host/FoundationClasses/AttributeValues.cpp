@@ -1,5 +1,6 @@
 #include "FoundationClasses/AttributeValues.h"
 
+#include "Core/String/Ascii.h"
 #include "FoundationClasses/Data.h"
 
 #include <algorithm>
@@ -56,19 +57,8 @@ std::optional<ReferenceBase> readReference(AttributeDescriptor const& attribute,
 /// Schema names are upper case in a record: "IFCLABEL" is IfcLabel.
 bool isSameName(std::string_view upper, std::string_view name)
 {
-    return std::equal(upper.begin(), upper.end(), name.begin(), name.end(), [](char a, char b) {
-        return a == (b >= 'a' && b <= 'z' ? static_cast<char>(b - 'a' + 'A') : b);
-    });
-}
-
-std::string upperName(std::string_view name)
-{
-    std::string upper(name);
-    for (char& c : upper) {
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    }
-    return upper;
+    return std::equal(upper.begin(), upper.end(), name.begin(), name.end(),
+                      [](char a, char b) { return a == str::toUpper(b); });
 }
 
 resource::measure::ValueTypeInfo const* valueTypeFromKeyword(std::string_view keyword)
@@ -286,8 +276,8 @@ StepValue write(SelectBase const& select, AttributeDescriptor const& attribute, 
     if (select.typeName().empty())
         return write(select.reference(), attribute, writer);
     if (!select.references().empty())
-        return StepValue::typed(upperName(select.typeName()), writeReferences(select.references(), writer));
-    return StepValue::typed(upperName(select.typeName()), writePayload(select.typeName(), select.payload(), writer));
+        return StepValue::typed(str::toUpper(select.typeName()), writeReferences(select.references(), writer));
+    return StepValue::typed(str::toUpper(select.typeName()), writePayload(select.typeName(), select.payload(), writer));
 }
 
 StepValue write(FcValue const& value, AttributeDescriptor const&, AttributeWriter const& writer)
@@ -295,7 +285,7 @@ StepValue write(FcValue const& value, AttributeDescriptor const&, AttributeWrite
     auto const* const info = value.typeInfo();
     if (!info)
         return {};
-    return StepValue::typed(upperName(info->schemaName), writePayload(info->schemaName, value.payload(), writer));
+    return StepValue::typed(str::toUpper(info->schemaName), writePayload(info->schemaName, value.payload(), writer));
 }
 
 StepValue writeItem(std::optional<std::uint16_t> item, AttributeDescriptor const& attribute)

@@ -1,5 +1,6 @@
 #include "FoundationClasses/Payload.h"
 
+#include "Core/String/Ascii.h"
 #include "Core/String/NumberText.h"
 #include "FoundationClasses/AttributeReader.h"
 #include "FoundationClasses/AttributeWriter.h"
@@ -13,16 +14,6 @@ namespace {
 
 using step::StepValue;
 using Kind = StepValue::Kind;
-
-std::string lowered(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    return result;
-}
 
 std::string_view trimmed(std::string_view text)
 {
@@ -76,7 +67,7 @@ bool isBinary(std::string_view digits)
 
 std::optional<Payload> parseTruth(ValueKind kind, std::string_view text)
 {
-    std::string const word = lowered(trimmed(text));
+    std::string const word = str::toLower(trimmed(text));
     bool const isTrue = word == "true" || word == "1";
     bool const isFalse = word == "false" || word == "0";
     if (kind == ValueKind::Boolean)

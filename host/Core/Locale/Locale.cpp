@@ -1,5 +1,7 @@
 #include "Core/Locale/Locale.h"
 
+#include "Core/String/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -20,27 +22,10 @@ constexpr std::array<std::pair<char const*, char const*>, 9> numbered = {{
     {"zh", ""},
 }};
 
-char lower(char character)
-{
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-char upper(char character)
-{
-    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
-}
-
 bool isWord(std::string_view text, std::size_t shortest, std::size_t longest)
 {
     return text.size() >= shortest && text.size() <= longest &&
-           std::all_of(text.begin(), text.end(), [](char c) { return lower(c) >= 'a' && lower(c) <= 'z'; });
-}
-
-std::string mapped(std::string_view text, char (*function)(char))
-{
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), function);
-    return result;
+           std::all_of(text.begin(), text.end(), [](char c) { return str::toLower(c) >= 'a' && str::toLower(c) <= 'z'; });
 }
 
 } // namespace
@@ -72,11 +57,11 @@ std::optional<Locale> Locale::fromCode(std::string_view code)
     if (!isWord(language, 2, 3))
         return std::nullopt;
     if (separator == code.size())
-        return Locale(mapped(language, lower), "");
+        return Locale(str::toLower(language), "");
     auto const region = code.substr(separator + 1);
     if (!isWord(region, 2, 2))
         return std::nullopt;
-    return Locale(mapped(language, lower), mapped(region, upper));
+    return Locale(str::toLower(language), str::toUpper(region));
 }
 
 std::string Locale::code() const { return m_region.empty() ? m_language : m_language + "-" + m_region; }

@@ -1,5 +1,6 @@
 #include "Core/Unit/QuantityTextReader.h"
 
+#include "Core/String/Ascii.h"
 #include "Core/String/NumberText.h"
 
 #include <algorithm>
@@ -17,17 +18,6 @@ bool isDigit(char character) { return character >= '0' && character <= '9'; }
 bool isLetter(char character)
 {
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-char lowerCase(char character)
-{
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-bool equalIgnoringCase(std::string_view left, std::string_view right)
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return lowerCase(a) == lowerCase(b); });
 }
 
 /// What users and other programs write, and what is read instead.
@@ -263,7 +253,7 @@ UnitBase const* QuantityTextReader::matchUnit(bool ignoreCase, std::size_t& leng
     for (auto const& unit : m_target.quantity().units()) {
         for (auto const spelling : unit->spellings()) {
             auto const candidate = rest().substr(0, spelling.size());
-            bool const fits = ignoreCase ? equalIgnoringCase(candidate, spelling) : candidate == spelling;
+            bool const fits = ignoreCase ? str::equalIgnoringCase(candidate, spelling) : candidate == spelling;
             if (!fits || spelling.size() < length || !endsUnit(spelling.size()))
                 continue;
             ambiguous = spelling.size() == length && match && match != unit.get();

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Model/FileUnits.h"
 
+#include "Core/String/Ascii.h"
 #include "FoundationClasses/EntityClass.h"
 
 #include <algorithm>
@@ -16,16 +17,6 @@ using step::StepValue;
 using Kind = StepValue::Kind;
 
 constexpr double zeroCelsius = 273.15;
-
-std::string upper(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result) {
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    }
-    return result;
-}
 
 /// Powers of ten of the SI prefixes.
 int powerOfPrefix(std::string_view prefix)
@@ -107,7 +98,7 @@ std::string FileUnits::unitTypeOf(std::string_view measureType)
     // The one unit type that is spelled differently from its measure.
     if (name == "SectionalAreaIntegral")
         return "SECTIONAREAINTEGRALUNIT";
-    return upper(name) + "UNIT";
+    return str::toUpper(name) + "UNIT";
 }
 
 UnitScale FileUnits::scaleOf(std::string_view measureType) const
@@ -160,7 +151,7 @@ std::vector<StepValue> FileUnits::argumentsOf(InstanceId id, std::string& keywor
     step::RecordIndex const record = id == 0 ? step::StepFile::noRecord : m_file.indexOf(id);
     if (record == step::StepFile::noRecord)
         return arguments;
-    keyword = upper(m_file.keywordOf(record));
+    keyword = str::toUpper(m_file.keywordOf(record));
     m_parser.parse(record, arguments);
     return arguments;
 }

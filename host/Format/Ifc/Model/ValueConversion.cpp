@@ -1,5 +1,6 @@
 #include "Format/Ifc/Model/ValueConversion.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/DataTypeEnum.h"
 #include "Format/Ifc/Schema/DeclaredType.h"
 #include "Format/Ifc/Schema/Select.h"
@@ -20,16 +21,6 @@ using fc::ValueKind;
 using step::StepValue;
 using Kind = StepValue::Kind;
 
-std::string upper(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result) {
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    }
-    return result;
-}
-
 int numberAt(std::vector<StepValue> const& arguments, std::size_t position)
 {
     return position < arguments.size() && arguments[position].isNumber()
@@ -44,7 +35,7 @@ std::string readRecord(step::InstanceId id, step::StepFile const& file, std::vec
     if (record == step::StepFile::noRecord)
         return {};
     step::StepRecordParser(file).parse(record, arguments);
-    return upper(file.keywordOf(record));
+    return str::toUpper(file.keywordOf(record));
 }
 
 template <class... Numbers>
@@ -133,7 +124,7 @@ StepValue toModelForm(StepValue value, def::schema::Attribute const& fileAttribu
         return {};
     bool const isTypedInModel = modelAttribute.kind == ValueKind::Select || modelAttribute.kind == ValueKind::Value;
     if (isTypedInModel && isPlain(value))
-        return StepValue::typed(upper(fileAttribute.dataType().name()), std::move(value));
+        return StepValue::typed(str::toUpper(fileAttribute.dataType().name()), std::move(value));
     return value;
 }
 
@@ -178,7 +169,7 @@ std::optional<StepValue> toFileForm(StepValue value, def::schema::Attribute cons
     if (!outer.isAggregate() && !isSelect && value.kind() == Kind::Typed)
         value = StepValue(value.items().front());
     if (fileAttribute.enumeration() && value.kind() == Kind::Text)
-        value = StepValue::enumeration(upper(value.textValue()));
+        value = StepValue::enumeration(str::toUpper(value.textValue()));
     if (fileAttribute.enumeration())
         return value.kind() == Kind::Enumeration && fileAttribute.enumeration()->hasValue(value.textValue())
                    ? std::optional(std::move(value))

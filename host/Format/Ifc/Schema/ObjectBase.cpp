@@ -1,18 +1,11 @@
 #include "Format/Ifc/Schema/ObjectBase.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/NameHash.h"
 
 namespace qev::ifc::def::schema {
 
-std::string toUpperName(std::string_view name)
-{
-    std::string upper(name);
-    for (char& character : upper) {
-        if (character >= 'a' && character <= 'z')
-            character = static_cast<char>(character - 'a' + 'A');
-    }
-    return upper;
-}
+std::string toUpperName(std::string_view name) { return str::toUpper(name); }
 
 ObjectBase::ObjectBase(std::string_view name)
     : m_name(name)

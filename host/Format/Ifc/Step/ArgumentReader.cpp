@@ -1,5 +1,6 @@
 #include "Format/Ifc/Step/ArgumentReader.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Step/StepRecordParser.h"
 #include "Format/Ifc/Step/StepScanner.h"
 #include "Format/Ifc/Step/StepText.h"
@@ -12,16 +13,6 @@
 namespace qev::step {
 
 namespace {
-
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-std::string upperCase(char const* begin, char const* end)
-{
-    std::string text(begin, end);
-    for (char& c : text)
-        c = upper(c);
-    return text;
-}
 
 bool isNumberCharacter(char c)
 {
@@ -286,7 +277,7 @@ StepValue ArgumentReader::readEnumeration()
     if (peek() != '.' || m_position == begin + 1)
         return fail(begin, "an enumeration item between dots");
     ++m_position;
-    return StepValue::enumeration(upperCase(begin + 1, m_position - 1));
+    return StepValue::enumeration(str::toUpper({begin + 1, m_position - 1}));
 }
 
 StepValue ArgumentReader::readBinary()
@@ -307,7 +298,7 @@ StepValue ArgumentReader::readTyped(unsigned int depth)
     ++m_position;
     while (m_position < m_end && isKeywordCharacter(*m_position))
         ++m_position;
-    std::string keyword = upperCase(begin, m_position);
+    std::string keyword = str::toUpper({begin, m_position});
     skipBlanks();
     if (peek() != '(')
         return fail(begin, "a value");

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Step/StepHeaderReader.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Step/ArgumentReader.h"
 
 #include <cstdint>
@@ -27,7 +28,7 @@ std::string wordAt(StepScanner const& scanner, std::size_t position)
     std::string word;
     for (char c = scanner.at(position); word.size() < longest && (isKeywordCharacter(c) || c == '-');
          c = scanner.at(++position))
-        word += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        word += str::toUpper(c);
     return word;
 }
 

@@ -1,5 +1,7 @@
 #include "Format/Ifc/Step/StepKeywordTable.h"
 
+#include "Core/String/Ascii.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -11,8 +13,6 @@
 namespace qev::step {
 
 namespace {
-
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 std::uint64_t wordAt(char const* bytes)
 {
@@ -73,7 +73,7 @@ void StepKeywordTable::add(std::string_view keyword, ClassNumber number)
     if (keyword.empty() || keyword.size() > inlineLength)
         return;
     Entry entry;
-    std::transform(keyword.begin(), keyword.end(), entry.bytes.begin(), upper);
+    std::transform(keyword.begin(), keyword.end(), entry.bytes.begin(), [](char c) { return str::toUpper(c); });
     entry.length = static_cast<std::uint32_t>(keyword.size());
     entry.number = number;
     m_classCount = std::max<std::size_t>(m_classCount, std::size_t{number} + 1);
@@ -131,7 +131,7 @@ StepKeywordTable::ClassNumber StepKeywordTable::find(std::string_view keyword) c
     if (keyword.size() > inlineLength)
         return unknown;
     std::array<char, inlineLength + 1> buffer = {};
-    std::transform(keyword.begin(), keyword.end(), buffer.begin(), upper);
+    std::transform(keyword.begin(), keyword.end(), buffer.begin(), [](char c) { return str::toUpper(c); });
     return findInBuffer(buffer.data(), keyword.size());
 }
 
