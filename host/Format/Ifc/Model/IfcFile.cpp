@@ -9,6 +9,7 @@
 #include "Format/Ifc/Step/StepWriter.h"
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeWriter.h"
+#include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcRoot.h"
 
 #include <algorithm>
@@ -17,6 +18,8 @@ namespace qev::ifc {
 
 namespace {
 
+using fc::core::kernel::FcObjectDefinition;
+using fc::core::kernel::FcRoot;
 using step::StepMessage;
 using step::StepValue;
 
@@ -134,7 +137,7 @@ OpenResult IfcFile::index(step::StepOpenResult opened, Progress const& progress)
 }
 
 IfcFile::IfcFile(std::shared_ptr<fc::Data> data, FileSource& source, std::vector<StepMessage> messages)
-    : m_data(std::move(data)), m_source(source), m_openMessages(std::move(messages))
+    : m_data(std::move(data)), m_source(source), m_openMessages(std::move(messages)), m_nextClass(FcRoot::idFirst)
 {}
 
 IfcFile::~IfcFile() = default;
@@ -205,11 +208,12 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromId(step::InstanceId id) const
 
 std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalId) const
 {
-    using fc::core::kernel::FcRoot;
-    if (!m_globalIds)
-        buildGlobalIds();
-    if (auto const found = m_globalIds->find(globalId); found != m_globalIds->end())
-        return m_data->entity(found->second);
+    // Mostly it is an object that is asked for, and sets and relations are many.
+    for (unsigned int const lastClass : {FcObjectDefinition::idLast, FcRoot::idLast}) {
+        findGlobalIds(lastClass);
+        if (auto const found = m_globalIds.find(globalId); found != m_globalIds.end())
+            return m_data->entity(found->second);
+    }
     for (fc::EntityIndex const index : m_data->touchedEntities()) {
         auto entity = m_data->entity(index);
         if (auto const root = fc::entityCast<FcRoot>(entity); root && root->GlobalId.get() == globalId)
@@ -218,18 +222,21 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalI
     return nullptr;
 }
 
-void IfcFile::buildGlobalIds() const
+void IfcFile::findGlobalIds(unsigned int lastClass) const
 {
-    using fc::core::kernel::FcRoot;
-    m_globalIds.emplace();
+    if (m_nextClass > lastClass)
+        return;
     step::StepRecordParser const parser(m_source.file());
-    for (fc::EntityIndex const index : m_data->indicesFromId(FcRoot::idFirst, FcRoot::idLast)) {
+    auto const places = m_data->indicesFromId(m_nextClass, lastClass);
+    m_globalIds.reserve(m_globalIds.size() + places.size());
+    m_nextClass = lastClass + 1;
+    for (fc::EntityIndex const index : places) {
         if (index >= m_source.count())
             continue;
         int const slot = m_source.mappingOf(index)->fileSlot(0);
         auto const span = slot >= 0 ? parser.argumentSpan(index, static_cast<std::size_t>(slot)) : std::nullopt;
         if (span && span->size() >= 2)
-            m_globalIds->emplace(std::string(span->substr(1, span->size() - 2)), index);
+            m_globalIds.emplace(span->substr(1, span->size() - 2), index);
     }
 }
 

@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace qev::ifc {
@@ -110,7 +111,7 @@ private:
     /// "IfcWall #12.Name", for messages.
     [[nodiscard]] std::string nameOf(fc::FcBase const& entity, unsigned int slot) const;
     void giveIds();
-    void buildGlobalIds() const;
+    void findGlobalIds(unsigned int lastClass) const;
 
     std::shared_ptr<fc::Data> m_data;
     FileSource& m_source;
@@ -119,7 +120,9 @@ private:
     /// Ids of entities that were created since the file was read. Once given, an id stays.
     std::map<fc::EntityIndex, step::InstanceId> m_newIds;
     step::InstanceId m_nextId = 0;
-    mutable std::optional<std::map<std::string, fc::EntityIndex, std::less<>>> m_globalIds;
+    /// Places by global id as it stands in the bytes of the file, of the classes before `m_nextClass`.
+    mutable std::unordered_map<std::string_view, fc::EntityIndex> m_globalIds;
+    mutable unsigned int m_nextClass;
 };
 
 } // namespace qev::ifc
