@@ -20,7 +20,8 @@ std::string slotsOf(ClassMapping const& mapping)
     std::string text;
     for (std::size_t slot = 0; slot < mapping.modelSlotCount(); ++slot) {
         int const fileSlot = mapping.fileSlot(slot);
-        text += (text.empty() ? "" : " ") + (fileSlot < 0 ? std::string("-") : std::to_string(fileSlot));
+        text += text.empty() ? "" : " ";
+        text += fileSlot < 0 ? "-" : std::to_string(fileSlot);
     }
     return text;
 }
