@@ -222,7 +222,8 @@ std::vector<EntityIndex> Data::indicesFromId(unsigned int first, unsigned int la
 {
     std::vector<EntityIndex> indices;
     last = std::min(last, FcBase::idLast);
-    for (unsigned int i = first; i <= last; ++i) {
+    // Number 0 is no class that has entities: the records that have it cannot become objects.
+    for (unsigned int i = std::max(first, 1u); i <= last; ++i) {
         auto const number = static_cast<std::uint16_t>(i);
         if (m_source && instantiable(number) == number)
             m_source->appendRecordsOfClass(number, indices);

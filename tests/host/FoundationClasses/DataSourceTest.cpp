@@ -125,6 +125,9 @@ TEST_F(ReadModel, RecordsWithoutAClassThatHasObjectsAreNobody)
     EXPECT_EQ(data->entity(fc::noEntity), nullptr);
     for (auto const& product : data->entities<fc::core::kernel::FcProduct>())
         EXPECT_NE(product, nullptr);
+    EXPECT_EQ(data->countFromId(0, fc::FcBase::idLast), 5u);
+    for (auto const& entity : data->entities<fc::FcBase>())
+        EXPECT_NE(entity, nullptr);
 }
 
 TEST_F(ReadModel, ReleasesObjectsThatNobodyUses)
