@@ -47,7 +47,7 @@ std::optional<Measurement> ChildProcess::run(Work work, std::filesystem::path co
 std::optional<Measurement> ChildProcess::time(std::vector<std::string> const& command) const
 {
     auto const output = m_folder / "output.txt";
-    std::string const line = commandLine(command) + " > " + commandLine({output.string()});
+    std::string const line = commandLine(command) + " > " + commandLine({output.string()}) + " 2>&1";
     StopWatch const watch;
     if (std::system(line.c_str()) != 0)
         return std::nullopt;

@@ -78,9 +78,13 @@ std::string FileFigures::someGlobalId() const
     while (std::getline(file, line)) {
         auto const place = line.find("IFCWALL");
         auto const quote = line.find('\'', place);
-        if (place != std::string::npos && quote != std::string::npos &&
-            line.find("TYPE(") == std::string::npos)
-            return line.substr(quote + 1, lengthOfGlobalId);
+        if (place == std::string::npos || quote == std::string::npos ||
+            line.find("TYPE(") != std::string::npos)
+            continue;
+        std::string id = line.substr(quote + 1, lengthOfGlobalId);
+        // A shell would take what follows a dollar sign for a variable.
+        if (id.find('$') == std::string::npos)
+            return id;
     }
     return {};
 }
