@@ -250,11 +250,13 @@ std::string IfcFile::nameOf(fc::FcBase const& entity, unsigned int slot) const
 
 void IfcFile::giveIds()
 {
-    if (m_nextId == 0)
-        m_nextId = m_source.file().firstFreeId();
     for (fc::EntityIndex const index : m_data->touchedEntities()) {
-        if (m_data->isCreated(index) && !m_data->isDeleted(index) && !m_newIds.contains(index))
-            m_newIds.emplace(index, m_nextId++);
+        if (!m_data->isCreated(index) || m_data->isDeleted(index) || m_newIds.contains(index))
+            continue;
+        // A free id takes a look at every reference of the file, and most edits create nothing.
+        if (m_nextId == 0)
+            m_nextId = m_source.file().firstFreeId();
+        m_newIds.emplace(index, m_nextId++);
     }
 }
 
