@@ -121,7 +121,10 @@ FigureTable FileFigures::measure(unsigned int runs) const
         table.add(work, megabytes(bytes), megabytes(bar), bytes / bar);
     };
     auto const addTime = [&](std::string const& work, Measurement const& measured, double bar) {
-        table.add(work, times(measured), format("%7.1f ms", bar * 1e3), measured.seconds / bar);
+        // The processor's time of another program is not known here.
+        bool const isOwn = measured.bytes != 0;
+        table.add(work, isOwn ? times(measured) : format("%7.1f ms", measured.seconds * 1e3),
+                  format("%7.1f ms", bar * 1e3), measured.seconds / bar);
     };
 
     table.add("floor", times(floor));

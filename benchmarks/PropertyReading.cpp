@@ -109,16 +109,14 @@ std::size_t readObject(FcObjectDefinition const& object)
     return length;
 }
 
-std::shared_ptr<FcPropertySingleValue> findSingleValue(FcObjectDefinition const& object,
-                                                       std::unordered_set<fc::EntityIndex>& changed)
+std::shared_ptr<FcPropertySingleValue> findSingleValue(FcObjectDefinition const& object)
 {
     for (auto const& set : object.attachedSets()) {
         auto const properties = fc::entityCast<FcPropertySet>(set);
         if (!properties)
             continue;
         for (auto const& property : properties->HasProperties.getProperties()) {
-            auto single = fc::entityCast<FcPropertySingleValue>(property);
-            if (single && changed.insert(single->getIndex()).second)
+            if (auto single = fc::entityCast<FcPropertySingleValue>(property))
                 return single;
         }
     }
@@ -145,18 +143,21 @@ std::size_t readAllProperties(fc::Data& data)
 std::size_t changeProperties(fc::Data& data, std::size_t objectCount)
 {
     std::size_t count = 0;
-    std::unordered_set<fc::EntityIndex> changed;
+    std::unordered_set<fc::EntityIndex> known;
     for (fc::EntityIndex const index : data.indicesFromId(FcObject::idFirst, FcObject::idLast)) {
         if (count == objectCount)
             break;
         auto const object = fc::entityCast<FcObjectDefinition>(data.entity(index));
-        auto const property = object ? findSingleValue(*object, changed) : nullptr;
+        auto const property = object ? findSingleValue(*object) : nullptr;
         if (!property)
+            continue;
+        ++count;
+        // A shared one has changed for all that have it.
+        if (!known.insert(property->getIndex()).second)
             continue;
         fc::resource::measure::FcValue value;
         value.assign("IfcLabel", "Changed");
         property->NominalValue = value;
-        ++count;
     }
     return count;
 }

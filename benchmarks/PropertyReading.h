@@ -13,8 +13,8 @@ namespace qev::benchmarks {
 /// \returns the length of all texts
 std::size_t readAllProperties(fc::Data& data);
 
-/// Changes one single value in each of the first \p objectCount objects that have a property set of their
-/// own. \returns the number of objects changed
+/// Changes one single value in each of the first \p objectCount objects that have one.
+/// \returns the number of objects changed
 std::size_t changeProperties(fc::Data& data, std::size_t objectCount);
 
 } // namespace qev::benchmarks
