@@ -46,7 +46,10 @@ bool operator==(ReferenceBase const& a, ReferenceBase const& b)
 {
     if (a.index() == noEntity && b.index() == noEntity)
         return a.m_entity == b.m_entity;
-    return a.index() == b.index();
+    auto const modelOf = [](ReferenceBase const& reference) -> Data const* {
+        return reference.m_entity ? reference.m_entity->getData() : reference.m_data;
+    };
+    return a.index() == b.index() && modelOf(a) == modelOf(b);
 }
 
 void ReferenceListBase::setReferences(std::vector<ReferenceBase> references)

@@ -71,6 +71,16 @@ TEST(Selects, CompareByWhatTheyHold)
     EXPECT_FALSE(FcDefinitionSelect(wall) == FcDefinitionSelect());
 }
 
+TEST(Selects, OfEntitiesAtTheSamePlaceOfTwoModelsDiffer)
+{
+    Model one;
+    Model two;
+    auto const first = one.wall("W1");
+    auto const second = two.wall("W1");
+    ASSERT_EQ(first->getIndex(), second->getIndex());
+    EXPECT_FALSE(FcDefinitionSelect(first) == FcDefinitionSelect(second));
+}
+
 TEST(Selects, AreTheSameBeforeAndAfterTheEntityJoinsAModel)
 {
     Model model;
