@@ -38,7 +38,7 @@ void leaveOutSet(FcRelDefinesByProperties& relation, std::shared_ptr<FcPropertyS
     }
     FcPropertySetDefinitionSelect definition;
     definition.setReferences("IfcPropertySetDefinitionSet", std::move(kept));
-    if (relation.RelatedObjects->size() == 1) {
+    if (relation.RelatedObjects->get().size() == 1) {
         relation.RelatingPropertyDefinition = definition;
         return;
     }
@@ -148,7 +148,7 @@ void FcObjectDefinition::detachFromRelations(std::shared_ptr<FcPropertySetDefini
             continue;
         if (sets.size() > 1)
             leaveOutSet(*relation, set, self);
-        else if (relation->RelatedObjects->size() > 1)
+        else if (relation->RelatedObjects->get().size() > 1)
             relation->RelatedObjects.edit([&self](auto& objects) { objects.erase(self); });
         else
             getData()->entityDelete(relation);

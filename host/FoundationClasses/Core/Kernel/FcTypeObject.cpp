@@ -10,7 +10,7 @@ void FcTypeObject::eraseHasPropertySets(std::shared_ptr<FcPropertySetDefinition>
         return;
     HasPropertySets.edit([&set](auto& sets) {
         sets->erase(set);
-        if (sets->empty())
+        if (sets->get().empty())
             sets.reset();
     });
 }

@@ -35,7 +35,7 @@ bool FcElementQuantity::removeQuantity(std::string const& name)
     Quantities.edit([&quantity](auto& list) { list.erase(quantity); });
     if (getData())
         getData()->deleteIfUnreferenced(quantity);
-    return Quantities->empty();
+    return Quantities->get().empty();
 }
 
 std::vector<std::shared_ptr<FcBase>> FcElementQuantity::ownedEntities() const

@@ -43,7 +43,7 @@ void FcProperty::deleteProperty(Data& data, bool deleteEmptySets)
         if (!set)
             continue;
         set->HasProperties.edit([&self](auto& list) { list.erase(self); });
-        if (deleteEmptySets && set->HasProperties->empty())
+        if (deleteEmptySets && set->HasProperties.getProperties().empty())
             set->deletePset(data);
     }
     data.entityDelete(self);

@@ -233,6 +233,18 @@ TEST(DeleteObjectSet, LeavesASetThatOthersShareByTheSameRelation)
     EXPECT_TRUE(other->getPropertySetDefinitionNonConst<FcPropertySet>("Pset_X")->hasProperty("A"));
 }
 
+TEST(DeleteObjectSet, TakesASetOutOfTheModelThatOnlyADeletedObjectShares)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    auto const other = model.wall("W2");
+    auto const set = model.addSet(wall, "Pset_X", {{"A", label("1")}});
+    model.joinSet(set, other);
+    model.data()->entityDelete(other);
+    EXPECT_TRUE(wall->deletePropertySetDefinition("Pset_X"));
+    EXPECT_TRUE(model.data()->isDeleted(set->getIndex()));
+}
+
 TEST(DeleteObjectSet, LeavesASetThatOthersShareByAnotherRelation)
 {
     Model model;
@@ -363,6 +375,17 @@ TEST(EraseHasPropertySets, DetachesOneSetAndUnsetsTheEmptyList)
     EXPECT_THAT(setNames(*type), ElementsAre("Pset_B"));
     type->eraseHasPropertySets(b);
     EXPECT_FALSE(type->HasPropertySets->has_value());
+    type->eraseHasPropertySets(b);
+    EXPECT_FALSE(type->HasPropertySets->has_value());
+}
+
+TEST(EraseHasPropertySets, UnsetsAListThatLeadsToDeletedSetsAlone)
+{
+    Model model;
+    auto const type = model.wallType("T1");
+    auto const a = model.addSet(type, "Pset_A");
+    auto const b = model.addSet(type, "Pset_B");
+    model.data()->entityDelete(a);
     type->eraseHasPropertySets(b);
     EXPECT_FALSE(type->HasPropertySets->has_value());
 }

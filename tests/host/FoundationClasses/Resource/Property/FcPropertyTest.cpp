@@ -64,6 +64,16 @@ TEST(DeleteProperty, TakesTheSetAlongWithItsLastProperty)
     EXPECT_TRUE(set->hasProperty("A"));
 }
 
+TEST(DeleteProperty, TakesTheSetAlongWhereOnlyDeletedPropertiesAreLeft)
+{
+    Model model;
+    auto const set = model.addSet(model.wall("W1"), "Pset_X", {{"A", label("1")}, {"B", label("2")}});
+    auto const properties = set->HasProperties.getProperties();
+    model.data()->entityDelete(properties[1]);
+    properties[0]->deleteProperty(*model.data(), true);
+    EXPECT_TRUE(model.data()->isDeleted(set->getIndex()));
+}
+
 TEST(DeleteProperty, LeavesTheEmptySetWhenAskedTo)
 {
     Model model;

@@ -114,6 +114,14 @@ TEST(QuantitySet, RemovesTheFirstQuantityOfANameAndTellsWhetherItIsEmpty)
     EXPECT_TRUE(set->removeQuantity("A"));
 }
 
+TEST(QuantitySet, OfDeletedQuantitiesAloneIsEmpty)
+{
+    Model model;
+    auto const set = model.addQuantities(model.wall("W1"), "Qto_X", {{"A", 1.0}, {"B", 2.0}});
+    model.data()->entityDelete(set->Quantities->get()[1]);
+    EXPECT_TRUE(set->removeQuantity("A"));
+}
+
 TEST(QuantitySet, OneUndoBringsARemovedQuantityBack)
 {
     Model model;
