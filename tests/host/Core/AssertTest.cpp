@@ -23,6 +23,34 @@ TEST(Assert, AReportCarriesTheLineOfItsCaller)
     EXPECT_EQ(reports.front().line, line);
 }
 
+TEST(Assert, AReportCarriesItsKind)
+{
+    assert::report("Something is wrong.", "qev::f", "Core/F");
+    assert::report("Something is missing.", "qev::f", "Core/F", 1);
+    auto const reports = test::takeReports();
+    ASSERT_EQ(reports.size(), 2u);
+    EXPECT_EQ(reports[0].kind, 0u);
+    EXPECT_EQ(reports[1].kind, 1u);
+}
+
+TEST(Assert, WithoutAHandlerAReportGoesToTheErrorStream)
+{
+    auto const handler = assert::Assert::setHandler({});
+    testing::internal::CaptureStderr();
+    assert::Assert::addAssert({0, "Something is wrong.", "qev::f", "Core/F", 7});
+    std::string const written = testing::internal::GetCapturedStderr();
+    assert::Assert::setHandler(handler);
+    EXPECT_EQ(written, "Assertion: Something is wrong. (qev::f, Core/F:7)\n");
+}
+
+TEST(Assert, IsEnabledUnlessTurnedOff)
+{
+    EXPECT_TRUE(assert::Assert::isEnabled());
+    assert::Assert::setEnabled(false);
+    EXPECT_FALSE(assert::Assert::isEnabled());
+    assert::Assert::setEnabled(true);
+}
+
 TEST(Assert, ADisabledReportIsDropped)
 {
     assert::Assert::setEnabled(false);
