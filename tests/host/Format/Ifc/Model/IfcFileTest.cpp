@@ -9,6 +9,7 @@
 #include "FoundationClasses/Shared/SharedBldgElements/FcDoorType.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "IfcText.h"
+#include "TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -289,24 +290,12 @@ TEST(IfcFile, ADateRecordOfAnOlderVersionReadsAsText)
 class SavedFile : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        m_folder = std::filesystem::temp_directory_path() / "qev-ifc-file-test";
-        std::filesystem::remove_all(m_folder);
-        std::filesystem::create_directories(m_folder);
-        std::ofstream(path(), std::ios::binary) << test::ifcText("IFC4", wallWithSet);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-    [[nodiscard]] std::filesystem::path path() const { return m_folder / "model.ifc"; }
-    [[nodiscard]] std::string content() const
-    {
-        std::ifstream stream(path(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    [[nodiscard]] std::filesystem::path const& path() const { return m_path; }
+    [[nodiscard]] std::string content() const { return test::readFile(m_path); }
 
 private:
-    std::filesystem::path m_folder;
+    test::TemporaryFolder m_folder;
+    std::filesystem::path m_path = m_folder.write("model.ifc", test::ifcText("IFC4", wallWithSet));
 };
 
 TEST_F(SavedFile, TakesThePlaceOfTheOldOneAndMayBeSavedAgain)
