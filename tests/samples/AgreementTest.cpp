@@ -1,0 +1,352 @@
+#include "Core/Unit/QuantityPresentation.h"
+#include "ExpectedReports.h"
+#include "ExpectedText.h"
+#include "Format/Ifc/Model/IfcFile.h"
+#include "FoundationClasses/Resource/Measure/FcValue.h"
+#include "GridSession.h"
+#include "reference-reader/ReferenceReader.h"
+#include "SampleFiles.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyBoundedValue.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyEnumeratedValue.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyListValue.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyLogicalType.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertySingleValue.h"
+#include "UI/FoundationClasses/Quantity/FcQuantityArea.h"
+#include "UI/FoundationClasses/Quantity/FcQuantityCount.h"
+#include "UI/FoundationClasses/Quantity/FcQuantityLength.h"
+#include "UI/FoundationClasses/Quantity/FcQuantityTime.h"
+#include "UI/FoundationClasses/Quantity/FcQuantityVolume.h"
+#include "UI/FoundationClasses/Quantity/FcQuantityWeight.h"
+#include "UI/FoundationClasses/Set/PropertySetDefinition.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iostream>
+#include <set>
+
+namespace {
+
+using namespace qev::test::samples;
+using namespace qev::test::reference;
+using namespace qev::fc::ui;
+using qev::application::GridGroup;
+using qev::application::GridSession;
+using Kind = ReferenceProperty::Kind;
+using Row = GridGroup::Row;
+
+template <class T>
+bool isA(PropertyInterface const& shown)
+{
+    return dynamic_cast<T const*>(&shown) != nullptr;
+}
+
+/// Tells whether the class that the set's definition chose for a name can show a property of this kind.
+/// One that cannot is shown as if the object did not have the property.
+bool canShow(PropertyInterface const& shown, Kind kind)
+{
+    switch (kind) {
+    case Kind::Single:
+        return isA<FcPropertySingleValue>(shown) || isA<FcPropertyLogicalType>(shown);
+    case Kind::Enumerated:
+        return isA<FcPropertyEnumeratedValue>(shown);
+    case Kind::Bounded:
+        return isA<FcPropertyBoundedValue>(shown);
+    case Kind::List:
+        return isA<FcPropertyListValue>(shown);
+    case Kind::Length:
+        return isA<FcQuantityLength>(shown);
+    case Kind::Area:
+        return isA<FcQuantityArea>(shown);
+    case Kind::Volume:
+        return isA<FcQuantityVolume>(shown);
+    case Kind::Count:
+        return isA<FcQuantityCount>(shown);
+    case Kind::Weight:
+        return isA<FcQuantityWeight>(shown);
+    case Kind::Time:
+        return isA<FcQuantityTime>(shown);
+    default:
+        return false;
+    }
+}
+
+/// Tells whether a set that only objects have gets an entry for a property.
+bool hasEntry(ReferenceProperty const& property)
+{
+    switch (property.kind) {
+    case Kind::Single:
+        return !property.values.empty();
+    case Kind::Bounded:
+        return property.lower || property.upper || property.setPoint;
+    case Kind::Enumerated:
+    case Kind::List:
+    case Kind::Length:
+    case Kind::Area:
+    case Kind::Volume:
+    case Kind::Count:
+    case Kind::Weight:
+    case Kind::Time:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Values in brackets of their own are read by the model, but not by the reference reader.
+bool isComparable(ReferenceProperty const& property)
+{
+    return std::none_of(property.values.begin(), property.values.end(), [](ReferenceValue const& value) {
+        return value.kind == StepArgument::Kind::List || value.kind == StepArgument::Kind::Binary;
+    });
+}
+
+class Agreement : public testing::TestWithParam<SampleFile>
+{
+protected:
+    Agreement()
+        : opened(qev::ifc::IfcFile::open(GetParam().path))
+        , reader(ReferenceReader::fromFile(GetParam().path.string(), SCHEMA_DIRECTORY))
+    {
+    }
+
+    /// Shows an object; its groups are valid until the next one is shown.
+    std::vector<GridGroup> show(GridSession& session, std::uint64_t id)
+    {
+        auto const object = opened.file->entityFromId(id);
+        session.show({object});
+        auto groups = session.groups();
+        reports.take('#' + std::to_string(id));
+        return groups;
+    }
+
+    /// Lets go of objects that were shown, so that big files stay small in memory; not each time, for objects
+    /// of a kind share their relations.
+    void release(GridSession& session)
+    {
+        constexpr std::size_t enough = 20000;
+        if (opened.file->data()->objectCount() < enough)
+            return;
+        session.show({});
+        opened.file->data()->releaseUnused();
+    }
+
+    void compareSets(GridSession const& session, std::vector<GridGroup> const& groups, std::uint64_t id);
+    void compareSet(PropertySetDefinition const& definition, GridGroup const* group, ReferenceSet const& set);
+    void compareProperty(PropertyInterface const& shown, Row const* row, ReferenceProperty const& property);
+    void compareSingle(PropertyInterface const& shown, Row const& row, ReferenceValue const& value);
+    void compareAttributes(GridGroup const& group, std::uint64_t id);
+    void compareAttribute(Row const& row, ReferenceAttribute const& attribute);
+
+    qev::ifc::OpenResult opened;
+    ReferenceReader reader;
+    ExpectedReports reports;
+    std::size_t valuesCompared = 0;
+    std::size_t attributesCompared = 0;
+    std::size_t withoutPlace = 0;
+    std::size_t failedObjects = 0;
+};
+
+GridGroup const* findGroup(std::vector<GridGroup> const& groups, std::string const& kind,
+                           std::string const& name)
+{
+    auto const found = std::find_if(groups.begin(), groups.end(), [&](GridGroup const& group) {
+        return group.kind == kind && group.name == name;
+    });
+    return found == groups.end() ? nullptr : &*found;
+}
+
+Row const* findRow(GridGroup const* group, std::string const& name)
+{
+    if (!group)
+        return nullptr;
+    auto const found = std::find_if(group->rows.begin(), group->rows.end(),
+                                    [&](Row const& row) { return row.name == name; });
+    return found == group->rows.end() ? nullptr : &*found;
+}
+
+void Agreement::compareSets(GridSession const& session, std::vector<GridGroup> const& groups,
+                            std::uint64_t id)
+{
+    // The control lists the own sets of objects and types; a project is neither.
+    bool const isContext = reader.keyword(id) == "IFCPROJECT" || reader.keyword(id) == "IFCPROJECTLIBRARY";
+    std::set<std::pair<ReferenceSet::Kind, std::string>> seen;
+    for (ReferenceSet const& set : reader.sets(id)) {
+        if (set.kind == ReferenceSet::Kind::Predefined || !set.name ||
+            !seen.insert({set.kind, *set.name}).second)
+            continue;
+        SCOPED_TRACE("set #" + std::to_string(set.id) + " " + *set.name);
+        auto const& definitions = session.definitions();
+        auto const found =
+            std::find_if(definitions.begin(), definitions.end(), [&set](auto const& definition) {
+                return definition && definition->getName() == *set.name;
+            });
+        if (isContext && found == definitions.end()) {
+            ++withoutPlace;
+            continue;
+        }
+        ASSERT_NE(found, definitions.end());
+        bool const isQuantitySet = (*found)->getType() == PropertySetDefinitionType::QuantitySet;
+        // A set of quantities and one of properties share a name: the first of them, or the schema's, is
+        // shown.
+        if (isQuantitySet != (set.kind == ReferenceSet::Kind::Quantities)) {
+            ++withoutPlace;
+            continue;
+        }
+        char const* const kind = isQuantitySet ? "quantity set" : "property set";
+        compareSet(**found, findGroup(groups, kind, *set.name), set);
+    }
+}
+
+void Agreement::compareSet(PropertySetDefinition const& definition, GridGroup const* group,
+                           ReferenceSet const& set)
+{
+    std::set<std::string> seen;
+    for (ReferenceProperty const& property : set.properties) {
+        if (!seen.insert(property.name).second)
+            continue;
+        SCOPED_TRACE("property #" + std::to_string(property.id) + " " + property.name);
+        auto const& all = definition.getProperties();
+        auto const shown = std::find_if(all.begin(), all.end(),
+                                        [&](auto const& one) { return one->getName() == property.name; });
+        if (shown == all.end()) {
+            bool const isExpected = !definition.getDefinition() && hasEntry(property);
+            EXPECT_FALSE(isExpected) << "no row for " << expectedText(property).describe();
+            ++withoutPlace;
+            continue;
+        }
+        compareProperty(**shown, findRow(group, property.name), property);
+    }
+}
+
+void Agreement::compareProperty(PropertyInterface const& shown, Row const* row,
+                                ReferenceProperty const& property)
+{
+    if (!isComparable(property))
+        return;
+    if (!canShow(shown, property.kind)) {
+        EXPECT_EQ(row, nullptr);
+        ++withoutPlace;
+        return;
+    }
+    ++valuesCompared;
+    if (property.kind == Kind::Single) {
+        if (property.values.empty())
+            EXPECT_EQ(row, nullptr) << "a property without a value is not in use";
+        else if (row)
+            compareSingle(shown, *row, property.values.front());
+        else
+            ADD_FAILURE() << "no row for " << property.values.front().text;
+        return;
+    }
+    ExpectedText const expected = expectedText(property);
+    std::string const value = shown.getValue();
+    EXPECT_TRUE(expected.matches(value)) << "shown: " << value << "\nin the file: " << expected.describe();
+    // Bounded values and lists are edited in windows of their own and have no row.
+    if (property.kind == Kind::Bounded || property.kind == Kind::List || expected.isEmpty()) {
+        EXPECT_EQ(row, nullptr);
+    } else {
+        ASSERT_NE(row, nullptr);
+        EXPECT_TRUE(expected.matches(row->record.value))
+            << "shown: " << row->record.value << "\nin the file: " << expected.describe();
+    }
+}
+
+void Agreement::compareSingle(PropertyInterface const& shown, Row const& row, ReferenceValue const& value)
+{
+    auto const* const single = dynamic_cast<FcPropertySingleValue const*>(&shown);
+    auto const number = value.si();
+    if (single && number) {
+        auto const found = single->getFcValue().valueAsDoubleGet();
+        ASSERT_TRUE(found) << value.text;
+        EXPECT_TRUE(isSameNumber(*found, *number)) << *found << " is not " << *number << ", " << value.type;
+    }
+    if (isA<FcPropertyBooleanType>(shown) && value.type != "IFCBOOLEAN") {
+        EXPECT_EQ(row.record.value, "") << "what is no truth value shows none";
+        return;
+    }
+    if (isA<FcPropertyBooleanType>(shown)) {
+        ASSERT_TRUE(row.record.checked);
+        EXPECT_EQ(*row.record.checked == qev::ui::CheckState::Checked, value.text == "T");
+        return;
+    }
+    if (single && single->quantityPresentation()) {
+        ASSERT_TRUE(row.record.number);
+        EXPECT_TRUE(isSameNumber(*row.record.number, number.value_or(0.0)))
+            << *row.record.number << " is not " << number.value_or(0.0) << ", " << value.type;
+        return;
+    }
+    ExpectedText const expected = ExpectedText().add(value);
+    EXPECT_TRUE(expected.matches(row.record.value))
+        << "shown: " << row.record.value << "\nin the file: " << expected.describe();
+}
+
+void Agreement::compareAttributes(GridGroup const& group, std::uint64_t id)
+{
+    for (ReferenceAttribute const& attribute : reader.attributes(id)) {
+        SCOPED_TRACE("attribute " + attribute.name);
+        Row const* const row = findRow(&group, attribute.name);
+        if (row)
+            compareAttribute(*row, attribute);
+        bool const isText = attribute.value && attribute.value->kind == StepArgument::Kind::Text;
+        bool const isCommon = attribute.name == "GlobalId" || attribute.name == "Name" ||
+                              attribute.name == "Description" || attribute.name == "ObjectType" ||
+                              attribute.name == "Tag";
+        if (isText && isCommon && !attribute.value->text.empty()) {
+            EXPECT_NE(row, nullptr) << "no row for " << attribute.value->text;
+        }
+    }
+}
+
+void Agreement::compareAttribute(Row const& row, ReferenceAttribute const& attribute)
+{
+    if (attribute.written.kind == StepArgument::Kind::List)
+        return;
+    ++attributesCompared;
+    if (!attribute.value) {
+        // A row with a unit stands there in any case, and shows nought without a value.
+        EXPECT_TRUE(row.record.value.empty() || row.record.number == 0.0) << row.record.value;
+        return;
+    }
+    if (row.record.number) {
+        ASSERT_TRUE(attribute.value->si());
+        EXPECT_TRUE(isSameNumber(*row.record.number, *attribute.value->si()))
+            << *row.record.number << " is not " << *attribute.value->si();
+        return;
+    }
+    ExpectedText const expected = ExpectedText().add(*attribute.value);
+    EXPECT_TRUE(expected.matches(row.record.value))
+        << "shown: " << row.record.value << "\nin the file: " << expected.describe();
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, Agreement, testing::ValuesIn(wellFormedFiles()),
+                         [](auto const& file) { return file.param.name; });
+
+TEST_P(Agreement, OfEveryObjectWithTheReferenceReader)
+{
+    ASSERT_TRUE(opened.file);
+    GridSession session(opened.file->data(), false);
+    for (std::uint64_t const id : reader.objects()) {
+        SCOPED_TRACE('#' + std::to_string(id) + " " + reader.keyword(id));
+        std::vector<GridGroup> const groups = show(session, id);
+        compareSets(session, groups, id);
+        for (GridGroup const& group : groups) {
+            if (group.kind == "instance attributes")
+                compareAttributes(group, id);
+            else if (group.kind == "type attributes" && reader.typeOf(id))
+                compareAttributes(group, *reader.typeOf(id));
+        }
+        reports.take('#' + std::to_string(id));
+        release(session);
+        if (HasFailure() && ++failedObjects > 100)
+            break;
+    }
+    EXPECT_GT(attributesCompared, 0u);
+    std::cout << "    " << reader.objects().size() << " objects, " << valuesCompared << " properties and "
+              << attributesCompared << " attributes compared, " << withoutPlace
+              << " without a place in the grid\n";
+    reports.print();
+}
+
+} // namespace

@@ -1,0 +1,248 @@
+#include "reference-reader/ReferenceReader.h"
+#include "SampleFiles.h"
+#include "TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cstdlib>
+#include <sstream>
+
+namespace {
+
+using namespace qev::test::samples;
+using Json = nlohmann::json;
+
+/// What a run of the program gave.
+struct Outcome
+{
+    int exitCode = -1;
+    std::string output;
+    std::string errors;
+};
+
+class CommandLine : public testing::Test
+{
+protected:
+    /// Runs the program as a shell does.
+    Outcome run(std::string const& arguments) const
+    {
+        auto const output = folder.path() / "output.txt";
+        auto const errors = folder.path() / "errors.txt";
+        std::string const command = quoted(QEV_IFC_PROGRAM) + " " + arguments + " >" +
+                                    quoted(output.string()) + " 2>" + quoted(errors.string());
+        int const status = std::system(command.c_str());
+#ifdef _WIN32
+        int const exitCode = status;
+#else
+        int const exitCode = status >> 8;
+#endif
+        return {exitCode, bytesOf(output), bytesOf(errors)};
+    }
+
+    Json json(std::string const& arguments) const
+    {
+        Outcome const result = run(arguments + " --format json");
+        EXPECT_EQ(result.exitCode, 0) << arguments << '\n' << result.errors;
+        Json document = Json::parse(result.output, nullptr, false);
+        EXPECT_FALSE(document.is_discarded()) << result.output;
+        return document;
+    }
+
+    static std::string quoted(std::string const& text) { return '"' + text + '"'; }
+    static std::string sample(std::string const& name)
+    {
+        return quoted((std::filesystem::path(OWN_SAMPLES_DIRECTORY) / name).string());
+    }
+
+    std::string target() const { return quoted((folder.path() / "saved.ifc").string()); }
+    std::string saved() const { return bytesOf(folder.path() / "saved.ifc"); }
+
+    qev::test::TemporaryFolder folder;
+};
+
+void expectKeys(Json const& object, std::vector<std::string> keys)
+{
+    std::vector<std::string> found;
+    for (auto const& item : object.items())
+        found.push_back(item.key());
+    std::sort(keys.begin(), keys.end());
+    EXPECT_EQ(found, keys);
+}
+
+TEST_F(CommandLine, InfoTellsSchemaAndCounts)
+{
+    for (std::string const version : {"IFC2X3", "IFC4", "IFC4X3"}) {
+        Json const info = json("info " + sample("office-" + version + ".ifc"));
+        expectKeys(info, {"file", "schema", "originatingSystem", "timeStamp", "records", "classes",
+                          "messages", "furtherMessages"});
+        EXPECT_TRUE(info["schema"].get<std::string>().starts_with(version));
+        EXPECT_EQ(info["classes"]["IfcProject"], 1);
+        EXPECT_EQ(info["messages"], Json::array());
+    }
+    EXPECT_EQ(run("info " + sample("office-IFC4.ifc") + " --quick").exitCode, 0);
+}
+
+TEST_F(CommandLine, SaveGivesTheSameBytes)
+{
+    EXPECT_EQ(run("save " + sample("office-IFC4.ifc") + " --output " + target()).exitCode, 0);
+    EXPECT_TRUE(saved() == bytesOf(std::filesystem::path(OWN_SAMPLES_DIRECTORY) / "office-IFC4.ifc"));
+}
+
+TEST_F(CommandLine, ObjectsAreListedByClass)
+{
+    Json const all = json("objects " + sample("office-IFC4X3.ifc"))["objects"];
+    Json const walls = json("objects " + sample("office-IFC4X3.ifc") + " --class ifcwall")["objects"];
+    EXPECT_GT(all.size(), walls.size());
+    ASSERT_FALSE(walls.empty());
+    for (Json const& wall : walls) {
+        expectKeys(wall, {"globalId", "class", "name", "container", "containerGlobalId"});
+        EXPECT_TRUE(wall["class"].get<std::string>().starts_with("IfcWall"));
+    }
+    EXPECT_EQ(run("objects " + sample("office-IFC4X3.ifc")).exitCode, 0);
+}
+
+TEST_F(CommandLine, SetsTellWhereTheyAreFrom)
+{
+    Json const sets = json("sets " + sample("office-IFC4X3.ifc") + " --class IfcWall")["sets"];
+    ASSERT_FALSE(sets.empty());
+    for (Json const& set : sets)
+        expectKeys(set, {"name", "kind", "source", "objectsHavingIt"});
+    EXPECT_TRUE(std::is_sorted(sets.begin(), sets.end(),
+                               [](Json const& a, Json const& b) { return a["name"] < b["name"]; }));
+    EXPECT_EQ(run("sets " + sample("office-IFC4X3.ifc") + " --class IfcWall").exitCode, 0);
+}
+
+TEST_F(CommandLine, GridHasTheDocumentedFields)
+{
+    Json const grid = json("grid " + sample("office-IFC4X3.ifc") + " --class IfcWall");
+    expectKeys(grid, {"objects", "groups"});
+    ASSERT_FALSE(grid["groups"].empty());
+    for (Json const& group : grid["groups"]) {
+        expectKeys(group, {"kind", "name", "label", "rows"});
+        for (Json const& row : group["rows"])
+            expectKeys(row, {"name", "label", "value", "number", "unit", "editor", "choices", "checked",
+                             "enabled", "editable", "description"});
+    }
+    EXPECT_EQ(run("grid " + sample("office-IFC4X3.ifc") + " --class IfcWall").exitCode, 0);
+}
+
+TEST_F(CommandLine, GridOfEachObjectIsOneDocumentALine)
+{
+    Outcome const result =
+        run("grid " + sample("office-IFC4.ifc") + " --all --each --used-only --format json");
+    EXPECT_EQ(result.exitCode, 0);
+    std::istringstream lines(result.output);
+    std::size_t count = 0;
+    for (std::string line; std::getline(lines, line); ++count) {
+        Json const document = Json::parse(line, nullptr, false);
+        ASSERT_FALSE(document.is_discarded()) << line;
+        EXPECT_EQ(document["objects"].size(), 1u);
+    }
+    EXPECT_EQ(count, json("objects " + sample("office-IFC4.ifc"))["objects"].size());
+}
+
+TEST_F(CommandLine, SetChangesTheFile)
+{
+    EXPECT_EQ(run("set " + sample("office-IFC4.ifc") +
+                  " --class IfcWall --property Pset_WallCommon.FireRating --value F180 --output " + target())
+                  .exitCode,
+              0);
+    Json const grid = json("grid " + target() + " --class IfcWall");
+    std::size_t found = 0;
+    for (Json const& group : grid["groups"]) {
+        for (Json const& row : group["rows"]) {
+            if (group["name"] == "Pset_WallCommon" && row["name"] == "FireRating") {
+                ++found;
+                EXPECT_EQ(row["value"], "F180");
+            }
+        }
+    }
+    EXPECT_EQ(found, 1u);
+}
+
+Json quantitiesOf(std::string const& lines)
+{
+    Json quantities = Json::array();
+    std::istringstream stream(lines);
+    for (std::string line; std::getline(stream, line);) {
+        for (Json const& group : Json::parse(line)["groups"]) {
+            if (group["kind"] == "quantity set")
+                quantities.push_back(group);
+        }
+    }
+    return quantities;
+}
+
+TEST_F(CommandLine, SetChangesNoQuantityOfAnotherName)
+{
+    std::string const file = sample("office-IFC2X3.ifc");
+    std::string const each = " --class IfcWall --each --format json";
+    Json const before = quantitiesOf(run("grid " + file + each).output);
+    EXPECT_FALSE(before.empty());
+    EXPECT_EQ(run("set " + file +
+                  " --class IfcWall --property Pset_WallCommon.FireRating --value F180 --output " + target())
+                  .exitCode,
+              0);
+    EXPECT_EQ(quantitiesOf(run("grid " + target() + each).output), before);
+}
+
+TEST_F(CommandLine, BadUsageGivesTwo)
+{
+    EXPECT_EQ(run("").exitCode, 2);
+    EXPECT_EQ(run("unknown").exitCode, 2);
+    EXPECT_EQ(run("info").exitCode, 2);
+    EXPECT_EQ(run("info " + sample("office-IFC4.ifc") + " --format html").exitCode, 2);
+    EXPECT_EQ(run("save " + sample("office-IFC4.ifc")).exitCode, 2);
+    EXPECT_EQ(run("grid " + sample("office-IFC4.ifc")).exitCode, 2);
+    EXPECT_EQ(run("sets " + sample("office-IFC4.ifc")).exitCode, 2);
+    EXPECT_EQ(run("set " + sample("office-IFC4.ifc") + " --class IfcWall").exitCode, 2);
+    EXPECT_EQ(run("--help").exitCode, 0);
+}
+
+TEST_F(CommandLine, AnUnreadableFileGivesThree)
+{
+    auto const noIfc = quoted(folder.write("no.ifc", "something else").string());
+    for (std::string const& file : {noIfc, quoted((folder.path() / "absent.ifc").string())}) {
+        for (std::string const command : {"info", "objects", "grid --all", "sets --class IfcWall"}) {
+            Outcome const result = run(command + " " + file);
+            EXPECT_EQ(result.exitCode, 3) << command;
+            EXPECT_FALSE(result.errors.empty());
+        }
+        EXPECT_EQ(run("save " + file + " --output " + target()).exitCode, 3);
+        EXPECT_EQ(
+            run("set " + file + " --class IfcWall --property A.B --value C --output " + target()).exitCode,
+            3);
+    }
+}
+
+TEST_F(CommandLine, NothingFoundGivesFour)
+{
+    std::string const file = sample("office-IFC4.ifc");
+    EXPECT_EQ(run("objects " + file + " --class IfcNothing").exitCode, 4);
+    EXPECT_EQ(run("grid " + file + " --object 0000000000000000000000").exitCode, 4);
+    EXPECT_EQ(run("sets " + file + " --class IfcTendon").exitCode, 4);
+    EXPECT_EQ(
+        run("set " + file + " --class IfcWall --property No.Such --value 1 --output " + target()).exitCode,
+        4);
+}
+
+TEST_F(CommandLine, ARefusedEditGivesFive)
+{
+    Outcome const result =
+        run("set " + sample("office-IFC4.ifc") +
+            " --class IfcWall --property Pset_WallCommon.ThermalTransmittance --value \"not a number\"" +
+            " --output " + target());
+    EXPECT_EQ(result.exitCode, 5) << result.errors;
+    EXPECT_FALSE(result.output.empty()) << "a line for each object that refused";
+    EXPECT_TRUE(saved() == bytesOf(std::filesystem::path(OWN_SAMPLES_DIRECTORY) / "office-IFC4.ifc"));
+}
+
+TEST_F(CommandLine, AnOutputThatCannotBeWrittenGivesSix)
+{
+    std::string const nowhere = quoted((folder.path() / "absent" / "saved.ifc").string());
+    EXPECT_EQ(run("save " + sample("office-IFC4.ifc") + " --output " + nowhere).exitCode, 6);
+}
+
+} // namespace
