@@ -5,6 +5,9 @@
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeReader.h"
 #include "FoundationClasses/Data.h"
+#include "FoundationClasses/Resource/GeometricConstraint/FcLocalPlacement.h"
+#include "FoundationClasses/Resource/Property/FcComplexProperty.h"
+#include "FoundationClasses/Resource/Quantity/FcPhysicalComplexQuantity.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,6 +34,25 @@ std::string describe(StepValue const& value)
     case StepValue::Kind::List: return "a list";
     }
     return {};
+}
+
+template <class Whole>
+std::optional<unsigned int> slotIfA(std::uint16_t classNumber, char const* attribute)
+{
+    if (classNumber < Whole::idFirst || classNumber > Whole::idLast)
+        return std::nullopt;
+    return fc::slotFromName(Whole::staticEntityClass(), attribute);
+}
+
+/// The attribute that leads from a record to others of its like, of which it must not be one itself.
+std::optional<unsigned int> slotOfParts(std::uint16_t classNumber)
+{
+    if (auto const slot = slotIfA<fc::resource::property::FcComplexProperty>(classNumber, "HasProperties"))
+        return slot;
+    if (auto const slot =
+            slotIfA<fc::resource::quantity::FcPhysicalComplexQuantity>(classNumber, "HasQuantities"))
+        return slot;
+    return slotIfA<fc::resource::geometricconstraint::FcLocalPlacement>(classNumber, "PlacementRelTo");
 }
 
 std::optional<step::RecordIndex> projectOf(step::StepFile const& file, VersionSchema const& version)
@@ -247,6 +269,28 @@ void FileSource::check(fc::EntityIndex index, fc::Data& data)
         checkReferences(index);
     }
     m_told[index] = true;
+    if (containsItself(index) && m_toldCycles.insert(index).second)
+        m_messages.add({StepMessage::Severity::Error, m_file->lineOfRecord(index), m_file->idOf(index),
+                        "expected parts of its own, found a circle that leads back to the record"});
+}
+
+bool FileSource::containsItself(fc::EntityIndex index) const
+{
+    // Chains that are longer do not occur; a circle in one is found from one of its other records.
+    constexpr std::size_t mostSteps = 1000;
+    std::vector<fc::EntityIndex> found = {index};
+    bool isCircle = false;
+    for (std::size_t step = 0; step < found.size() && step < mostSteps && !isCircle; ++step) {
+        auto const slot = slotOfParts(classNumber(found[step]));
+        if (!slot)
+            continue;
+        forEachReference(found[step], *slot, [&](fc::EntityIndex part) {
+            isCircle = isCircle || part == index;
+            if (std::find(found.begin(), found.end(), part) == found.end())
+                found.push_back(part);
+        });
+    }
+    return isCircle;
 }
 
 def::schema::Entity const* FileSource::fileEntityOf(step::InstanceId id) const

@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <optional>
 #include <string>
 #include <vector>
@@ -68,6 +69,8 @@ private:
     [[nodiscard]] static ClassReading makeReading(ClassMapping const& mapping, fc::EntityClass const& entityClass);
     void readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity);
     void checkReferences(fc::EntityIndex index);
+    /// A property made of properties, and the like, that is a part of one of its parts.
+    [[nodiscard]] bool containsItself(fc::EntityIndex index) const;
     /// The class of a record in the file's own version; null for none and for an unknown keyword.
     [[nodiscard]] def::schema::Entity const* fileEntityOf(step::InstanceId id) const;
 
@@ -84,6 +87,7 @@ private:
     std::vector<std::vector<std::uint16_t>> m_keywordNumbers;
     /// Records whose messages are known already: one that is let go and read again has no new ones.
     std::vector<bool> m_told;
+    std::set<fc::EntityIndex> m_toldCycles;
 };
 
 } // namespace qev::ifc

@@ -22,15 +22,17 @@ constexpr double zeroCelsius = 273.15;
 int powerOfPrefix(std::string_view prefix)
 {
     static std::map<std::string_view, int> const powers = {
-        {"EXA", 18},  {"PETA", 15},   {"TERA", 12},   {"GIGA", 9},   {"MEGA", 6},  {"KILO", 3},   {"HECTO", 2},  {"DECA", 1},
-        {"DECI", -1}, {"CENTI", -2},  {"MILLI", -3},  {"MICRO", -6}, {"NANO", -9}, {"PICO", -12}, {"FEMTO", -15}, {"ATTO", -18}};
+        {"EXA", 18},  {"PETA", 15},  {"TERA", 12},   {"GIGA", 9},   {"MEGA", 6},   {"KILO", 3},
+        {"HECTO", 2}, {"DECA", 1},   {"DECI", -1},   {"CENTI", -2}, {"MILLI", -3}, {"MICRO", -6},
+        {"NANO", -9}, {"PICO", -12}, {"FEMTO", -15}, {"ATTO", -18}};
     auto const found = powers.find(prefix);
     return found == powers.end() ? 0 : found->second;
 }
 
 UnitScale powerOfTen(int power)
 {
-    return power >= 0 ? UnitScale{std::pow(10.0, power), 1.0, 0.0} : UnitScale{1.0, std::pow(10.0, -power), 0.0};
+    return power >= 0 ? UnitScale{std::pow(10.0, power), 1.0, 0.0}
+                      : UnitScale{1.0, std::pow(10.0, -power), 0.0};
 }
 
 /// Takes a common factor out, so that kilogram stays exactly 1.
@@ -47,7 +49,8 @@ UnitScale reduced(UnitScale scale)
 
 UnitScale raised(UnitScale scale, int exponent)
 {
-    UnitScale result{std::pow(scale.factor, std::abs(exponent)), std::pow(scale.divisor, std::abs(exponent)), 0.0};
+    UnitScale result{std::pow(scale.factor, std::abs(exponent)), std::pow(scale.divisor, std::abs(exponent)),
+                     0.0};
     if (exponent < 0)
         std::swap(result.factor, result.divisor);
     return result;
@@ -74,10 +77,27 @@ UnitScale scaleOfSiUnit(std::string_view prefix, std::string_view name)
     return scale;
 }
 
+/// A unit of temperature with an offset, which by the standard is added after the factor was applied: 255.37
+/// for degrees Fahrenheit. Where that would put the zero of the scale below absolute zero, the offset is
+/// meant in the unit itself: -459.67. The standard's own example goes the other way round altogether, with
+/// the factor 1.8.
+UnitScale withOffset(UnitScale scale, double offset, double baseOffset)
+{
+    constexpr double inverseFahrenheit = 1.8;
+    double const zero = offset + baseOffset;
+    if (zero >= 0.0)
+        return {scale.factor, scale.divisor, zero};
+    if (scale.factor == inverseFahrenheit * scale.divisor)
+        std::swap(scale.factor, scale.divisor);
+    scale.offset = -offset * scale.factor / scale.divisor;
+    return scale;
+}
+
 } // namespace
 
 FileUnits::FileUnits(step::StepFile const& file, std::optional<step::RecordIndex> project)
-    : m_file(file), m_parser(file)
+    : m_file(file)
+    , m_parser(file)
 {
     if (project)
         readAssignment(*project);
@@ -163,7 +183,8 @@ std::optional<FileUnits::Unit> FileUnits::readUnit(InstanceId id, unsigned int d
     std::string keyword;
     auto const arguments = argumentsOf(id, keyword);
     if (keyword == "IFCSIUNIT" && arguments.size() >= 4)
-        return Unit{std::string(itemOf(arguments[1])), scaleOfSiUnit(itemOf(arguments[2]), itemOf(arguments[3]))};
+        return Unit{std::string(itemOf(arguments[1])),
+                    scaleOfSiUnit(itemOf(arguments[2]), itemOf(arguments[3]))};
     if (keyword.starts_with("IFCCONVERSIONBASEDUNIT") && arguments.size() >= 4)
         return readConversion(arguments, depth);
     if (keyword == "IFCDERIVEDUNIT" && arguments.size() >= 2)
@@ -183,13 +204,13 @@ std::optional<FileUnits::Unit> FileUnits::readConversion(std::vector<StepValue> 
     if (!number.isNumber() || number.realValue() == 0.0 || !base)
         return std::nullopt;
     Unit unit{std::string(itemOf(arguments[1])), product({number.realValue(), 1.0, 0.0}, base->scale)};
-    // The offset is in the unit itself: what has to be added to a number that was divided by the factor.
     if (arguments.size() >= 5 && arguments[4].isNumber())
-        unit.scale.offset = -arguments[4].realValue() * unit.scale.factor / unit.scale.divisor;
+        unit.scale = withOffset(unit.scale, arguments[4].realValue(), base->scale.offset);
     return unit;
 }
 
-std::optional<FileUnits::Unit> FileUnits::readDerived(std::vector<StepValue> const& arguments, unsigned int depth) const
+std::optional<FileUnits::Unit> FileUnits::readDerived(std::vector<StepValue> const& arguments,
+                                                      unsigned int depth) const
 {
     Unit unit{std::string(itemOf(arguments[1])), {}};
     for (StepValue const& item : arguments[0].items()) {
