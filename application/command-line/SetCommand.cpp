@@ -14,14 +14,25 @@ namespace {
 using fc::core::kernel::FcObjectDefinition;
 using fc::core::kernel::FcPropertySetDefinition;
 
-/// The first row of a grid that shows only the property wanted; null when the object does not offer it.
-GridGroup::Row const* firstRow(std::vector<GridGroup> const& groups)
+/// The row that an edit is for, and its set.
+struct Place
+{
+    GridGroup const* group = nullptr;
+    GridGroup::Row const* row = nullptr;
+};
+
+/// The property wanted; none when the object does not offer it. The rows are looked through by name even where
+/// the grid was asked for one property, for it shows all quantities in any case. Names may hold dots themselves,
+/// so the two are put together and never taken apart.
+Place findPlace(std::vector<GridGroup> const& groups, std::string const& property)
 {
     for (GridGroup const& group : groups) {
-        if (!group.rows.empty())
-            return &group.rows.front();
+        for (GridGroup::Row const& row : group.rows) {
+            if (group.name + "." + row.name == property)
+                return {&group, &row};
+        }
     }
-    return nullptr;
+    return {};
 }
 
 /// How many further objects share the set, so that an edit of one does not change the others unnoticed.
@@ -52,12 +63,12 @@ void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetO
 {
     session.show({object});
     auto const groups = session.groups();
-    GridGroup::Row const* const row = firstRow(groups);
+    auto const [group, row] = findPlace(groups, options.property);
     if (!row)
         return;
     ++outcome.offered;
     auto const definition = fc::entityCast<FcObjectDefinition>(object);
-    if (std::size_t const others = countSharing(*definition, groups.front().name); others > 0)
+    if (std::size_t const others = countSharing(*definition, group->name); others > 0)
         std::cerr << "qev-ifc: the set is shared: " << others << " further objects change with " << describe(*object) << '\n';
     if (session.type(*row, options.value))
         return;
@@ -73,7 +84,6 @@ ExitCode runSet(SetOptions const& options)
     if (!file)
         return ExitCode::UnreadableFile;
     auto const places = findObjects(*file, options.objects);
-    // Names may hold dots themselves, so the two are put together and never taken apart.
     GridSession session(file->data(), true, [&options](std::string const& setName, std::string const& propertyName) {
         return setName + "." + propertyName == options.property;
     });
