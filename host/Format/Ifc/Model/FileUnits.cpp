@@ -136,7 +136,11 @@ UnitScale FileUnits::scaleOf(std::string_view measureType, InstanceId unit) cons
 {
     auto const own = unitFromId(unit);
     std::string const unitType = unitTypeOf(measureType);
-    if (own && !unitType.empty() && (own->unitType == unitType || own->unitType == "USERDEFINED"))
+    // A plain number has no unit but this one.
+    bool const isPlain = measureType == "IfcReal" || measureType == "IfcNumericMeasure";
+    bool const isOfTheKind =
+        own && !unitType.empty() && (own->unitType == unitType || own->unitType == "USERDEFINED");
+    if (own && (isPlain || isOfTheKind))
         return own->scale;
     return scaleOf(measureType);
 }

@@ -34,7 +34,7 @@ public:
     /// The scale of a measure type ("IfcLengthMeasure") by the unit assignment.
     [[nodiscard]] fc::UnitScale scaleOf(std::string_view measureType) const;
     /// The scale of a measure type for a value that has the unit of record \p unit of its own. A unit
-    /// of another kind than the measure does not count.
+    /// of another kind than the measure does not count; for a plain number (IfcReal) any does.
     [[nodiscard]] fc::UnitScale scaleOf(std::string_view measureType, step::InstanceId unit) const;
     /// A single unit; no value when the record is none or leads in circles.
     [[nodiscard]] std::optional<Unit> unitFromId(step::InstanceId id) const;

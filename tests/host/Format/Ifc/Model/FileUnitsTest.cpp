@@ -124,6 +124,13 @@ TEST(FileUnits, AMeasureWithoutAUnitInTheAssignmentIsSi)
     EXPECT_EQ(read("#3", millimetre, "IFCAREAMEASURE(7.5)"), 7.5);
 }
 
+TEST(FileUnits, APlainNumberHasTheUnitThatItsPropertyNames)
+{
+    std::string const units = millimetre + "#9=IFCSIUNIT(*,.LENGTHUNIT.,.KILO.,.METRE.);\n";
+    EXPECT_EQ(read("#3", units, "IFCREAL(2.)", "#9"), 2000.0);
+    EXPECT_EQ(read("#3", units, "IFCREAL(2.)"), 2.0);
+}
+
 TEST(FileUnits, APropertysOwnUnitWins)
 {
     EXPECT_EQ(read("#3", millimetre + "#9=IFCSIUNIT(*,.LENGTHUNIT.,.KILO.,.METRE.);\n",
