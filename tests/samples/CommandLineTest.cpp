@@ -167,7 +167,8 @@ Json quantitiesOf(std::string const& lines)
     Json quantities = Json::array();
     std::istringstream stream(lines);
     for (std::string line; std::getline(stream, line);) {
-        for (Json const& group : Json::parse(line)["groups"]) {
+        Json const document = Json::parse(line);
+        for (Json const& group : document["groups"]) {
             if (group["kind"] == "quantity set")
                 quantities.push_back(group);
         }
