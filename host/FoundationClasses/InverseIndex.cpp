@@ -1,15 +1,37 @@
 #include "FoundationClasses/InverseIndex.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace qev::fc {
+
+namespace {
+
+using Reference = std::pair<EntityIndex, EntityIndex>;
+
+/// Sorts by target and then by relation. A pair packed into one number compares in one step, and there
+/// may be hundreds of thousands.
+void sortReferences(std::vector<Reference>& references)
+{
+    constexpr int bits = 32;
+    std::vector<std::uint64_t> packed;
+    packed.reserve(references.size());
+    for (auto const& [target, relation] : references)
+        packed.push_back(std::uint64_t{target} << bits | relation);
+    std::sort(packed.begin(), packed.end());
+    std::transform(packed.begin(), packed.end(), references.begin(), [](std::uint64_t reference) {
+        return Reference(static_cast<EntityIndex>(reference >> bits), static_cast<EntityIndex>(reference));
+    });
+}
+
+} // namespace
 
 InverseIndex::InverseIndex(std::vector<std::pair<EntityIndex, EntityIndex>> references)
     : m_references(std::move(references))
 {
-    std::sort(m_references.begin(), m_references.end());
+    if (!std::is_sorted(m_references.begin(), m_references.end()))
+        sortReferences(m_references);
     m_references.erase(std::unique(m_references.begin(), m_references.end()), m_references.end());
-    m_references.shrink_to_fit();
 }
 
 std::vector<EntityIndex>& InverseIndex::changeable(EntityIndex target) const
