@@ -25,6 +25,8 @@ public:
     {
         m_list->setItemAndColumnCounts(rows, columns);
     }
+    [[nodiscard]] std::size_t getItemCount() const override { return m_list->getRowCount(); }
+    [[nodiscard]] std::size_t getColumnCount() const override { return m_list->getColumnCount(); }
     void redrawItem(std::size_t row) override { m_list->redrawItem(row); }
     [[nodiscard]] std::vector<std::size_t> getSelectedItems() const override
     {
@@ -35,6 +37,10 @@ public:
                                 std::shared_ptr<Image const> /*uncheckedImage*/) override
     {
         m_list->setColumnCheckBoxes(column, enable, mode);
+    }
+    [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const override
+    {
+        return m_list->getCheckBoxMode(column);
     }
     void activateComboBoxEditingForColumn(std::size_t column) override
     {
@@ -103,9 +109,10 @@ std::optional<attr::Colour> HeadlessListControl::getBackgroundColour(std::size_t
 std::optional<CheckState> HeadlessListControl::getCheckState(std::size_t row, std::size_t column) const
 {
     auto const control = getListControl();
-    return control && m_checkBoxColumns.contains(column)
-               ? fireEvent(control->onGetCheckState, cell(row, column))
-               : std::nullopt;
+    if (!control || !m_checkBoxColumns.contains(column))
+        return std::nullopt;
+    fireEvent(control->onGetItemText, cell(row, column));
+    return fireEvent(control->onGetCheckState, cell(row, column));
 }
 
 bool HeadlessListControl::containsLocalValue(std::size_t row, std::size_t column) const
@@ -277,6 +284,11 @@ void HeadlessListControl::setItemAndColumnCounts(std::size_t rows, std::size_t c
     m_rowCount = rows;
     m_columnCount = columns;
     m_selection.erase(m_selection.lower_bound(rows), m_selection.end());
+    if (columns > 0)
+        return;
+    m_checkBoxColumns.clear();
+    m_comboBoxColumns.clear();
+    m_settings = {};
 }
 
 void HeadlessListControl::setColumnCheckBoxes(std::size_t column, bool enabled, int mode)
@@ -285,6 +297,12 @@ void HeadlessListControl::setColumnCheckBoxes(std::size_t column, bool enabled, 
         m_checkBoxColumns[column] = mode;
     else
         m_checkBoxColumns.erase(column);
+}
+
+std::optional<int> HeadlessListControl::getCheckBoxMode(std::size_t column) const
+{
+    auto const found = m_checkBoxColumns.find(column);
+    return found == m_checkBoxColumns.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool HeadlessListControl::isUsingReportStyle() const
@@ -319,8 +337,7 @@ std::string HeadlessListControl::getCellText(std::size_t row, std::size_t column
     std::string text;
     if (auto const state = getCheckState(row, column))
         text = *state == CheckState::Checked ? "[x]" : *state == CheckState::Unchecked ? "[ ]" : "[-]";
-    auto const mode = m_checkBoxColumns.find(column);
-    if (mode != m_checkBoxColumns.end() && mode->second == ListControl::BoxAlone)
+    if (getCheckBoxMode(column) == ListControl::BoxAlone)
         return text;
     auto const value = getText(row, column);
     return text.empty() || value.empty() ? text + value : text + ' ' + value;
@@ -363,7 +380,7 @@ bool HeadlessListControl::endEdit(bool accepted, std::string_view text,
         return false;
     fireEvent(control->onLabelEditEnd,
               ListControl::LabelEditEndParams{accepted, edit->items, edit->editor.editType, std::string(text),
-                                              selectedIndex.value_or(0), selectedIndex.has_value()});
+                                              selectedIndex.value_or(0), selectedIndex.has_value(), nullptr});
     return true;
 }
 

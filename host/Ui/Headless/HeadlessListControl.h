@@ -87,6 +87,8 @@ public:
     void setItemAndColumnCounts(std::size_t rows, std::size_t columns);
     void redrawItem(std::size_t row) { m_redrawnRows.push_back(row); }
     void setColumnCheckBoxes(std::size_t column, bool enabled, int mode);
+    /// The mode of a column's check boxes; nothing for a column without any.
+    [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const;
     void activateComboBoxEditingForColumn(std::size_t column) { m_comboBoxColumns.insert(column); }
     [[nodiscard]] bool isUsingReportStyle() const;
     void startLabelEdit(std::size_t row, std::size_t column);

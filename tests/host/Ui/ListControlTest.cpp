@@ -25,9 +25,12 @@ TEST_F(ListControlTest, EachOperationReportsAMissingPlatformSide)
 {
     std::vector<std::pair<std::string, std::function<void(ListControl&)>>> const operations = {
         {"setItemAndColumnCounts", [](auto& list) { list.setItemAndColumnCounts(1, 1); }},
+        {"getItemCount", [](auto& list) { EXPECT_EQ(list.getItemCount(), 0u); }},
+        {"getColumnCount", [](auto& list) { EXPECT_EQ(list.getColumnCount(), 0u); }},
         {"redrawItem", [](auto& list) { list.redrawItem(0); }},
         {"getSelectedItems", [](auto& list) { EXPECT_TRUE(list.getSelectedItems().empty()); }},
         {"enableColumnCheckBoxes", [](auto& list) { list.enableColumnCheckBoxes(0, 0, nullptr, nullptr); }},
+        {"getCheckBoxMode", [](auto& list) { EXPECT_EQ(list.getCheckBoxMode(0), std::nullopt); }},
         {"activateComboBoxEditingForColumn", [](auto& list) { list.activateComboBoxEditingForColumn(0); }},
         {"isUsingReportStyle", [](auto& list) { EXPECT_FALSE(list.isUsingReportStyle()); }},
         {"enableLabelEdit", [](auto& list) { list.enableLabelEdit(); }},
@@ -140,6 +143,34 @@ TEST_F(ListControlTest, TheEndOfAnEditKnowsItsOneItem)
     EXPECT_EQ(params.getEditedItem(), (ListControl::ItemInfo{2, 3}));
     expectListReport("Should only be called for column for which editing several items is not allowed.",
                      "LabelEditEndParams::getEditedItem");
+}
+
+TEST_F(ListControlTest, TheEndOfAnEditNotesTheItemsThatRefuse)
+{
+    ListControl::LabelEditEndParams params;
+    params.refuse({2, 3});
+    params.refusedItems = std::make_shared<std::vector<ListControl::ItemInfo>>();
+    params.refuse({4, 3});
+    EXPECT_THAT(*params.refusedItems, testing::ElementsAre(ListControl::ItemInfo{4, 3}));
+}
+
+TEST_F(ListControlTest, ColumnsKeepTheirCheckBoxesUntilThereAreNoColumns)
+{
+    auto const list = createList();
+    list->enableColumnCheckBoxes(1, ListControl::BoxWithValue, nullptr, nullptr);
+    list->activateComboBoxEditingForColumn(2);
+    list->getHeader().setDefaultHiddenColumns({0});
+    list->setItemAndColumnCounts(5, 3);
+    EXPECT_EQ(list->getItemCount(), 5u);
+    EXPECT_EQ(list->getColumnCount(), 3u);
+    EXPECT_EQ(list->getCheckBoxMode(0), std::nullopt);
+    EXPECT_EQ(list->getCheckBoxMode(1), ListControl::BoxWithValue);
+
+    list->setItemAndColumnCounts(0, 0);
+    list->setItemAndColumnCounts(5, 3);
+    EXPECT_EQ(list->getCheckBoxMode(1), std::nullopt);
+    EXPECT_FALSE(backend->getListControl(*list)->isComboBoxColumn(2));
+    EXPECT_EQ(list->getSettings(), ListControlSettings());
 }
 
 TEST_F(ListControlTest, AnItemStyleIsPlainUnlessToldOtherwise)

@@ -63,10 +63,28 @@ ListControl::ItemInfo ListControl::LabelEditEndParams::getEditedItem() const
     return firstItem(items);
 }
 
+void ListControl::LabelEditEndParams::refuse(ItemInfo const& item) const
+{
+    if (refusedItems)
+        refusedItems->push_back(item);
+}
+
 void ListControl::setItemAndColumnCounts(std::size_t rows, std::size_t columns)
 {
     if (auto* const listInterface = requireListInterface("setItemAndColumnCounts"))
         listInterface->setItemAndColumnCounts(rows, columns);
+}
+
+std::size_t ListControl::getItemCount() const
+{
+    auto const* const listInterface = requireListInterface("getItemCount");
+    return listInterface ? listInterface->getItemCount() : 0;
+}
+
+std::size_t ListControl::getColumnCount() const
+{
+    auto const* const listInterface = requireListInterface("getColumnCount");
+    return listInterface ? listInterface->getColumnCount() : 0;
 }
 
 void ListControl::redrawItem(std::size_t row)
@@ -88,6 +106,12 @@ void ListControl::enableColumnCheckBoxes(std::size_t column, int mode,
     if (auto* const listInterface = requireListInterface("enableColumnCheckBoxes"))
         listInterface->enableColumnCheckBoxes(column, true, mode, std::move(checkedImage),
                                               std::move(uncheckedImage));
+}
+
+std::optional<int> ListControl::getCheckBoxMode(std::size_t column) const
+{
+    auto const* const listInterface = requireListInterface("getCheckBoxMode");
+    return listInterface ? listInterface->getCheckBoxMode(column) : std::nullopt;
 }
 
 void ListControl::activateComboBoxEditingForColumn(std::size_t column)

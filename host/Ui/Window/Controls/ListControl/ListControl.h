@@ -109,6 +109,9 @@ public:
                                LabelEditBeginResultParams const&) = default;
     };
 
+    /// The selected index of an edit that leaves the cell without a value.
+    static constexpr std::size_t noSelection = static_cast<std::size_t>(-1);
+
     /// How the edit ended.
     struct HOSTUI_EXPORT LabelEditEndParams
     {
@@ -117,9 +120,14 @@ public:
         /// An `EditType`.
         unsigned int editType = NoEdit;
         std::string text;
+        /// Of a list; `noSelection` asks to take the value away.
         std::size_t selectedIndex = 0;
         bool hasSelection = false;
+        /// Where the owner notes the items that did not take the value; null when nobody asks.
+        std::shared_ptr<std::vector<ItemInfo>> refusedItems;
 
+        /// Notes that \p item did not take the value.
+        void refuse(ItemInfo const& item) const;
         /// The column of the first item. Reports "No items are being edited." and gives 0 when there is none.
         [[nodiscard]] std::size_t getColumnIndex() const;
         /// The text. Reports "This is a drop list label edit control: Call iDropIndSelected() instead."
@@ -135,7 +143,11 @@ public:
 
     [[nodiscard]] static char const* getClassName() { return "ListControl"; }
 
+    /// Says how many rows and columns there are. With no columns at all, everything that was said of columns
+    /// is forgotten: check boxes, combo boxes, which are hidden, and how the user has arranged them.
     void setItemAndColumnCounts(std::size_t rows, std::size_t columns);
+    [[nodiscard]] std::size_t getItemCount() const;
+    [[nodiscard]] std::size_t getColumnCount() const;
     /// Repaints one row.
     void redrawItem(std::size_t row);
     /// The selected rows, ascending.
@@ -143,6 +155,8 @@ public:
     /// Puts check boxes in a column. \p mode is a `CheckBoxMode`; null images mean the usual look.
     void enableColumnCheckBoxes(std::size_t column, int mode, std::shared_ptr<Image const> checkedImage,
                                 std::shared_ptr<Image const> uncheckedImage);
+    /// The `CheckBoxMode` of a column; nothing for a column without check boxes.
+    [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const;
     /// Label edit of the column is a combo box. Reports "Only applies to report style controls." for others.
     void activateComboBoxEditingForColumn(std::size_t column);
     [[nodiscard]] bool isUsingReportStyle() const;
@@ -166,15 +180,23 @@ public:
     EventHandlerContainer<Window, void, ItemInfo const&> onItemSecondaryEvent;
     EventHandlerContainer<Window, std::string, std::size_t> onGetColumnHeaderText;
     EventHandlerContainer<Window, std::string, ItemInfo const&> onGetItemText;
+    /// The text that an editor of the cell opens with, numbers with all their digits. Without a handler it
+    /// is the text of the cell.
+    EventHandlerContainer<Window, std::string, ItemInfo const&> onGetItemEditText;
+    /// The number that the text of the cell stands for, to sort by; nothing for a cell that shows none.
+    EventHandlerContainer<Window, std::optional<double>, ItemInfo const&> onGetItemNumber;
     EventHandlerContainer<Window, std::optional<attr::Colour>, ItemInfo const&> onGetItemBackgroundColour;
     EventHandlerContainer<Window, ItemStyle, ItemInfo const&> onGetItemStyle;
     /// A check box was clicked; the state is the one asked for.
     EventHandlerContainer<Window, void, ItemInfo const&, CheckState> onCheckBoxClicked;
-    /// The state of a cell's check box; no state means no box.
+    /// The state of a cell's check box; no state means no box. The owner counts on having been asked for the
+    /// text of the cell just before.
     EventHandlerContainer<Window, std::optional<CheckState>, ItemInfo const&> onGetCheckState;
     EventHandlerContainer<Window, bool, ItemInfo const&> onDoesItemContainLocalValue;
     EventHandlerContainer<Window, void, std::vector<std::size_t> const&, std::size_t>
         onResetItemsToGlobalValues;
+    /// Several edits follow that make one for the user. What the owner returns is held until they are done.
+    EventHandlerContainer<Window, std::shared_ptr<void>> onEditsBegin;
     EventHandlerContainer<Window, LabelEditBeginResultParams, LabelEditBeginParams const&> onLabelEditBegin;
     EventHandlerContainer<Window, void, LabelEditEndParams const&> onLabelEditEnd;
     /// Tells if the user may hide and show a column.

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace qev::ui {
@@ -16,7 +17,10 @@ namespace qev::ui {
 class HOSTUI_EXPORT ListControlInterface : public DialogControlInterface
 {
 public:
+    /// With no columns, what was said of columns and how the user has arranged them is forgotten.
     virtual void setItemAndColumnCounts(std::size_t rows, std::size_t columns) = 0;
+    [[nodiscard]] virtual std::size_t getItemCount() const = 0;
+    [[nodiscard]] virtual std::size_t getColumnCount() const = 0;
     virtual void redrawItem(std::size_t row) = 0;
     [[nodiscard]] virtual std::vector<std::size_t> getSelectedItems() const = 0;
 
@@ -24,6 +28,8 @@ public:
     virtual void enableColumnCheckBoxes(std::size_t column, bool enable, int mode,
                                         std::shared_ptr<Image const> checkedImage,
                                         std::shared_ptr<Image const> uncheckedImage) = 0;
+    /// Nothing for a column without check boxes.
+    [[nodiscard]] virtual std::optional<int> getCheckBoxMode(std::size_t column) const = 0;
     virtual void activateComboBoxEditingForColumn(std::size_t column) = 0;
     [[nodiscard]] virtual bool isUsingReportStyle() const = 0;
     /// Begins to edit a cell as if the user had asked for it.
