@@ -11,6 +11,7 @@
 
 namespace {
 
+using qev::application::FileQuestions;
 using qev::application::MainWindow;
 
 enum ExitCode : int
@@ -28,14 +29,15 @@ int fail(ExitCode code, QString const& text)
 }
 
 /// A picture has nobody to ask: whatever would be asked is told on the error stream instead.
-MainWindow::Questions makeSilentQuestions()
+FileQuestions makeSilentQuestions()
 {
-    MainWindow::Questions questions;
-    questions.leaveChanges = [](QString const&) { return MainWindow::Leave::Stay; };
+    FileQuestions questions;
+    questions.leaveChanges = [](QString const&) { return FileQuestions::Leave::Stay; };
     questions.overwriteChanged = [](QString const&) { return false; };
     questions.tellProblem = [](QString const& text, QString const& details) {
         std::fputs(qPrintable("qev-inspector: " + text + ' ' + details + '\n'), stderr);
     };
+    questions.pathToOpen = [](QString const&) { return QString(); };
     questions.pathToSave = [](QString const&) { return QString(); };
     return questions;
 }
@@ -51,7 +53,7 @@ void showReport(qev::assert::AssertInfo const& info)
 int takePicture(MainWindow& window, QString const& file, QString const& object, QString const& picture)
 {
     window.setQuestions(makeSilentQuestions());
-    if (!file.isEmpty() && !window.openFile(file))
+    if (!file.isEmpty() && !window.getFileActions().open(file))
         return notOpened;
     if (!object.isEmpty() && !window.selectObject(object))
         return fail(noSuchObject, "there is no object with the GlobalId " + object);
@@ -94,7 +96,7 @@ int main(int argc, char** argv)
 
     window.restoreWindow();
     window.show();
-    if (!file.isEmpty() && window.openFile(file) && parser.isSet(object) &&
+    if (!file.isEmpty() && window.getFileActions().open(file) && parser.isSet(object) &&
         !window.selectObject(parser.value(object)))
         std::fputs("qev-inspector: there is no object with that GlobalId\n", stderr);
     return QApplication::exec();

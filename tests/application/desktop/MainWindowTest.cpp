@@ -37,7 +37,7 @@ protected:
         , window(std::make_unique<MainWindow>(backend))
         , path(folder.write("small.ifc", smallBuilding))
     {
-        MainWindow::Questions questions;
+        FileQuestions questions;
         questions.leaveChanges = [this](QString const&) {
             asked.emplace_back("leave");
             return leave;
@@ -70,7 +70,7 @@ protected:
     }
 
     static void settle() { QCoreApplication::processEvents(); }
-    void open() { ASSERT_TRUE(window->openFile(QString::fromStdString(path.string()))); }
+    void open() { ASSERT_TRUE(window->getFileActions().open(QString::fromStdString(path.string()))); }
     [[nodiscard]] ui::QtPropertyGridView& view() const
     {
         return window->getProperties().getGrid()->getView();
@@ -116,7 +116,7 @@ protected:
     std::shared_ptr<ui::QtBackend> backend;
     std::unique_ptr<MainWindow> window;
     std::filesystem::path path;
-    MainWindow::Leave leave = MainWindow::Leave::Stay;
+    FileQuestions::Leave leave = FileQuestions::Leave::Stay;
     bool overwrite = false;
     QString pathToSave;
     std::vector<std::string> asked;
@@ -147,7 +147,7 @@ TEST_F(MainWindowTest, EditReachesTheModelAndMarksTheWindow)
     editEastWall();
     EXPECT_EQ(value(fireRating()), "F90");
     EXPECT_TRUE(window->isWindowModified());
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(window->getFileActions().save());
     EXPECT_FALSE(window->isWindowModified());
     std::string expected(smallBuilding);
     expected.replace(expected.find("F30"), 3, "F90");
@@ -180,13 +180,13 @@ TEST_F(MainWindowTest, UnsavedChangesAreAskedAboutBeforeTheyGo)
 {
     editEastWall();
     EXPECT_FALSE(window->close());
-    EXPECT_FALSE(window->closeFile());
-    EXPECT_FALSE(window->openFile(QString::fromStdString(path.string())));
+    EXPECT_FALSE(window->getFileActions().close());
+    EXPECT_FALSE(window->getFileActions().open(QString::fromStdString(path.string())));
     EXPECT_THAT(asked, ElementsAre("leave", "leave", "leave"));
     EXPECT_EQ(value(fireRating()), "F90");
 
-    leave = MainWindow::Leave::Discard;
-    EXPECT_TRUE(window->closeFile());
+    leave = FileQuestions::Leave::Discard;
+    EXPECT_TRUE(window->getFileActions().close());
     EXPECT_EQ(readFile(path), smallBuilding);
     EXPECT_FALSE(window->isWindowModified());
 }
@@ -194,7 +194,7 @@ TEST_F(MainWindowTest, UnsavedChangesAreAskedAboutBeforeTheyGo)
 TEST_F(MainWindowTest, SaveOnLeavingSaves)
 {
     editEastWall();
-    leave = MainWindow::Leave::Save;
+    leave = FileQuestions::Leave::Save;
     EXPECT_TRUE(window->close());
     EXPECT_THAT(readFile(path), HasSubstr("F90"));
 }
@@ -203,10 +203,10 @@ TEST_F(MainWindowTest, ChangesOfAnotherProgramAreAskedAboutOnSave)
 {
     editEastWall();
     folder.write("small.ifc", "somebody else's");
-    EXPECT_FALSE(window->save());
+    EXPECT_FALSE(window->getFileActions().save());
     EXPECT_EQ(readFile(path), "somebody else's");
     overwrite = true;
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(window->getFileActions().save());
     EXPECT_THAT(readFile(path), HasSubstr("F90"));
     EXPECT_THAT(asked, ElementsAre("overwrite", "overwrite"));
 }
@@ -214,9 +214,9 @@ TEST_F(MainWindowTest, ChangesOfAnotherProgramAreAskedAboutOnSave)
 TEST_F(MainWindowTest, SaveAsWritesAnotherFileAndStaysWithIt)
 {
     editEastWall();
-    EXPECT_FALSE(window->saveAs());
+    EXPECT_FALSE(window->getFileActions().saveAs());
     pathToSave = QString::fromStdString((folder.path() / "other.ifc").string());
-    EXPECT_TRUE(window->saveAs());
+    EXPECT_TRUE(window->getFileActions().saveAs());
     EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("other.ifc"));
     EXPECT_EQ(readFile(path), smallBuilding);
 }
@@ -243,7 +243,7 @@ TEST_F(MainWindowTest, BrokenFileIsToldAndThePresentOneStays)
     open();
     window->selectObject(eastWall);
     auto const broken = folder.write("broken.ifc", "no file of that kind");
-    EXPECT_FALSE(window->openFile(QString::fromStdString(broken.string())));
+    EXPECT_FALSE(window->getFileActions().open(QString::fromStdString(broken.string())));
     EXPECT_EQ(asked.size(), 1u);
     EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("small.ifc"));
     EXPECT_GT(window->getMessages().count(), 0);
@@ -295,7 +295,7 @@ TEST_F(MainWindowTest, AnotherFileTakesThePlaceOfThePresentOne)
     open();
     window->selectObject(eastWall);
     auto const other = folder.write("other.ifc", smallBuilding);
-    EXPECT_TRUE(window->openFile(QString::fromStdString(other.string())));
+    EXPECT_TRUE(window->getFileActions().open(QString::fromStdString(other.string())));
     EXPECT_THAT(window->getProperties().getHint().toStdString(), HasSubstr("Select an object"));
     EXPECT_TRUE(window->selectObject(westWall));
     EXPECT_EQ(value(fireRating()), "F30");

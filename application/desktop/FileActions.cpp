@@ -1,0 +1,168 @@
+#include "FileActions.h"
+
+#include "ActionMenu.h"
+#include "FilePath.h"
+#include "OpeningProgress.h"
+#include "RecentFiles.h"
+#include "Ui/Qt/QtText.h"
+
+#include <functional>
+#include <QApplication>
+#include <QFileInfo>
+
+namespace qev::application {
+
+namespace {
+
+using step::StepPatch;
+using step::StepSaveResult;
+using ui::toQString;
+
+QString getLines(std::vector<std::string> const& lines)
+{
+    QString text;
+    for (auto const& line : lines)
+        text += toQString(line) + '\n';
+    return text;
+}
+
+QString getFileName(InspectorSession const& session) { return fromPath(session.getPath().filename()); }
+
+} // namespace
+
+FileActions::FileActions(InspectorSession& session, QWidget& window)
+    : m_session(session)
+    , m_window(window)
+    , m_questions(FileQuestions::asDialogs(window))
+{
+}
+
+FileActions::~FileActions() = default;
+
+void FileActions::fill(QMenu& menu)
+{
+    appendAction(menu, tr("&Open…"), QKeySequence::Open, [this] { choose(); });
+    m_recentMenu = menu.addMenu(tr("Open &recent"));
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &FileActions::fillRecentMenu);
+    menu.addSeparator();
+    m_save = appendAction(menu, tr("&Save"), QKeySequence::Save, [this] { save(); });
+    m_saveAs = appendAction(menu, tr("Save &as…"), QKeySequence("Ctrl+Shift+S"), [this] { saveAs(); });
+    menu.addSeparator();
+    m_close = appendAction(menu, tr("&Close"), QKeySequence("Ctrl+W"), [this] { close(); });
+    appendAction(menu, tr("&Quit"), QKeySequence("Ctrl+Q"), [this] { m_window.close(); });
+}
+
+bool FileActions::open(QString const& path)
+{
+    if (!mayLeave())
+        return false;
+    OpeningProgress progress(tr("Opening %1…").arg(QFileInfo(path).fileName()), &m_window);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    fireEvents(onLeaving);
+    auto const isOpen = m_session.open(toPath(path), std::ref(progress));
+    QApplication::restoreOverrideCursor();
+    fireEvents(onShown);
+    if (isOpen)
+        RecentFiles::add(path);
+    else
+        tellOpeningFailed(path);
+    return isOpen;
+}
+
+bool FileActions::close()
+{
+    if (!mayLeave())
+        return false;
+    fireEvents(onLeaving);
+    m_session.close();
+    fireEvents(onShown);
+    return true;
+}
+
+bool FileActions::save()
+{
+    if (!m_session.isOpen())
+        return false;
+    auto result = m_session.save();
+    if (result.status == StepSaveResult::Status::ChangedMeanwhile) {
+        if (!m_questions.overwriteChanged(getFileName(m_session)))
+            return false;
+        result = m_session.save(StepPatch::IfChanged::Overwrite);
+    }
+    return finishSave(result);
+}
+
+bool FileActions::saveAs()
+{
+    if (!m_session.isOpen())
+        return false;
+    auto const path = m_questions.pathToSave(fromPath(m_session.getPath()));
+    if (path.isEmpty() || !finishSave(m_session.saveAs(toPath(path))))
+        return false;
+    RecentFiles::add(path);
+    return true;
+}
+
+bool FileActions::mayLeave()
+{
+    if (!m_session.isModified())
+        return true;
+    switch (m_questions.leaveChanges(getFileName(m_session))) {
+    case FileQuestions::Leave::Save:
+        return save();
+    case FileQuestions::Leave::Discard:
+        return true;
+    case FileQuestions::Leave::Stay:
+        return false;
+    }
+    return false;
+}
+
+void FileActions::update()
+{
+    for (auto* const action : {m_save, m_saveAs, m_close})
+        action->setEnabled(m_session.isOpen());
+}
+
+void FileActions::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    for (auto const& path : RecentFiles::get())
+        appendAction(*m_recentMenu, QString(path).replace('&', "&&"), QKeySequence(),
+                     [this, path] { open(path); });
+    if (m_recentMenu->isEmpty())
+        m_recentMenu->addAction(tr("No file yet"))->setEnabled(false);
+}
+
+void FileActions::choose()
+{
+    auto const path = m_questions.pathToOpen(QFileInfo(fromPath(m_session.getPath())).path());
+    if (!path.isEmpty())
+        open(path);
+}
+
+bool FileActions::finishSave(ifc::SaveResult const& result)
+{
+    if (result.status == StepSaveResult::Status::Cancelled)
+        return false;
+    if (!result.saved())
+        m_questions.tellProblem(tr("The file was not saved."), toQString(result.text));
+    else if (!result.notStored.empty())
+        m_questions.tellProblem(tr("The file was saved, except for changes that its version of the "
+                                   "standard has no place for."),
+                                getLines(result.notStored));
+    if (result.saved())
+        fireEvents(onSaved, tr("Saved."));
+    return result.saved();
+}
+
+void FileActions::tellOpeningFailed(QString const& path)
+{
+    auto const messages = m_session.getMessages();
+    if (messages.empty())
+        return;
+    RecentFiles::remove(path);
+    m_questions.tellProblem(tr("%1 cannot be opened.").arg(path), toQString(messages.back().toString()));
+}
+
+} // namespace qev::application

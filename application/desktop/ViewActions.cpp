@@ -1,0 +1,60 @@
+#include "ViewActions.h"
+
+#include "ActionMenu.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
+
+#include <QSettings>
+#include <utility>
+
+namespace qev::application {
+
+namespace {
+
+constexpr auto showUnusedKey = "view/showUnused";
+
+} // namespace
+
+ViewActions::ViewActions(PropertyPane& properties, std::vector<QDockWidget*> docks)
+    : m_properties(properties)
+    , m_docks(std::move(docks))
+{
+}
+
+ViewActions::~ViewActions() = default;
+
+void ViewActions::fill(QMenu& menu)
+{
+    m_showUnused = menu.addAction(tr("Show &unused properties"));
+    m_showUnused->setShortcut(QKeySequence("Ctrl+U"));
+    m_showUnused->setCheckable(true);
+    m_showUnused->setChecked(m_properties.isUnusedShown());
+    connect(m_showUnused, &QAction::toggled, this,
+            [this](bool shown) { m_properties.setUnusedShown(shown); });
+    menu.addSeparator();
+    m_expandAll = appendAction(menu, tr("&Expand all groups"), QKeySequence("Ctrl+Shift+E"),
+                               [this] { setAllFolded(false); });
+    m_collapseAll = appendAction(menu, tr("&Collapse all groups"), QKeySequence("Ctrl+Shift+C"),
+                                 [this] { setAllFolded(true); });
+    menu.addSeparator();
+    for (auto* const dock : m_docks)
+        menu.addAction(dock->toggleViewAction());
+}
+
+void ViewActions::update()
+{
+    for (auto* const action : {m_expandAll, m_collapseAll})
+        action->setEnabled(m_properties.getGrid() != nullptr);
+}
+
+void ViewActions::restore() { m_showUnused->setChecked(QSettings().value(showUnusedKey, true).toBool()); }
+
+void ViewActions::store() const { QSettings().setValue(showUnusedKey, m_showUnused->isChecked()); }
+
+void ViewActions::setAllFolded(bool folded)
+{
+    if (auto* const grid = m_properties.getGrid())
+        grid->getView().setAllFolded(folded);
+}
+
+} // namespace qev::application
