@@ -4,6 +4,7 @@
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 #include <unicode/stringpiece.h>
+#include <unicode/unistr.h>
 
 namespace qev::str::details {
 
@@ -49,6 +50,29 @@ int compare<char>(std::string_view left, std::string_view right, CaseLevel level
     if (result == 0 && level == CaseLevel::Counted)
         return bytes;
     return result;
+}
+
+std::string sortKey(std::string_view text, CaseLevel level)
+{
+    auto const* const order = collator(level);
+    if (!order)
+        return std::string(text);
+    auto const unicode = icu::UnicodeString::fromUTF8(piece(text));
+    // Enough for most texts; the key says how much it needs in any case.
+    std::string key(3 * text.size() + 16, '\0');
+    auto const fill = [&] {
+        return static_cast<std::size_t>(order->getSortKey(unicode, reinterpret_cast<uint8_t*>(key.data()),
+                                                          static_cast<int32_t>(key.size())));
+    };
+    auto const needed = fill();
+    bool const isCut = needed > key.size();
+    key.resize(needed);
+    if (isCut)
+        fill();
+    // As in a comparison, the bytes decide where nothing else does.
+    if (level == CaseLevel::Counted)
+        key += text;
+    return key;
 }
 
 } // namespace qev::str::details

@@ -2,6 +2,7 @@
 
 #include "HostCoreExport.h"
 
+#include <string>
 #include <string_view>
 
 namespace qev::str::details {
@@ -25,5 +26,9 @@ int compare(std::basic_string_view<Character> left, std::basic_string_view<Chara
 
 template <>
 HOSTCORE_EXPORT int compare<char>(std::string_view left, std::string_view right, CaseLevel level);
+
+/// Bytes that stand to the bytes of other texts as the texts do under `compare` with \p level, for sorting
+/// many: the work on a text is done once. Texts that are equal under \p level have the same key.
+HOSTCORE_EXPORT std::string sortKey(std::string_view text, CaseLevel level);
 
 } // namespace qev::str::details

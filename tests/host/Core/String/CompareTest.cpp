@@ -37,6 +37,37 @@ TEST(Compare, AccentsStandBesideTheirLetters)
     EXPECT_THAT(sorted({"Zug", "Öl", "Ofen", "Tür"}), ElementsAre("Ofen", "Öl", "Tür", "Zug"));
 }
 
+TEST(Compare, KeysStandToEachOtherAsTheirTexts)
+{
+    std::vector<std::string> const texts{"",
+                                         "a",
+                                         "A",
+                                         "á",
+                                         "01",
+                                         "1",
+                                         "001",
+                                         "Wall 2",
+                                         "Wall 10",
+                                         "Öl",
+                                         "Zug",
+                                         "a b",
+                                         "ab",
+                                         "a-b",
+                                         "\xFF",
+                                         "\xFE",
+                                         std::string(300, 'x')};
+    for (auto const level : {CaseLevel::Counted, CaseLevel::Ignored}) {
+        for (auto const& left : texts) {
+            for (auto const& right : texts) {
+                auto const keys =
+                    qev::str::details::sortKey(left, level).compare(qev::str::details::sortKey(right, level));
+                EXPECT_EQ((keys > 0) - (keys < 0), compare<char>(left, right, level))
+                    << left << ", " << right;
+            }
+        }
+    }
+}
+
 TEST(Compare, IsTotal)
 {
     std::vector<std::string> const texts{"",       "a",     "A",    "a\u0301", "á",  "01",  "1",    "001",
