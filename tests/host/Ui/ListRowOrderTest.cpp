@@ -154,6 +154,10 @@ TEST_F(ListRowOrderTest, NewRowsAreSortedAndFilteredToo)
     EXPECT_THAT(rows(), ElementsAre(0u, 1u, 2u)) << "until it is worked out";
     advance();
     EXPECT_THAT(rows(), ElementsAre(2u, 1u, 0u));
+    fill({{"1"}, {"2"}, {"3"}});
+    EXPECT_THAT(rows(), ElementsAre(2u, 1u, 0u)) << "As many as before stay where they are meanwhile.";
+    advance();
+    EXPECT_THAT(rows(), ElementsAre(0u, 1u, 2u));
 }
 
 TEST_F(ListRowOrderTest, ChangedValuesMoveRowsWhenAsked)

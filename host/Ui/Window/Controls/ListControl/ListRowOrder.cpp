@@ -7,8 +7,10 @@ namespace qev::ui {
 
 void ListRowOrder::setRowCount(std::size_t rows)
 {
+    // As long as there are as many, the old positions lead to rows, and nothing jumps to and fro.
+    if (rows != m_rowCount)
+        m_rows.reset();
     m_rowCount = rows;
-    m_rows.reset();
     m_work.reset();
     if (!m_filter.isEmpty() || !m_sorting.empty())
         restart();

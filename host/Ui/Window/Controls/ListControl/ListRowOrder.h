@@ -25,8 +25,8 @@ class HOSTUI_EXPORT ListRowOrder
 public:
     using CellText = std::function<std::string(std::size_t row, std::size_t column)>;
 
-    /// The rows are new ones: all are shown, in their own order, until filter and sorting have been
-    /// worked out for them.
+    /// The rows are new ones. When they are more or fewer than before, all are shown in their own order until
+    /// filter and sorting have been worked out for them.
     void setRowCount(std::size_t rows);
     void setFilter(ListFilter filter);
     /// The first column decides, the next where it does not, and so on. None: the rows' own order.
