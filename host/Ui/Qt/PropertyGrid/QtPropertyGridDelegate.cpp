@@ -76,11 +76,13 @@ QColor getMutedForeground(QStyleOptionViewItem const& option, PropertyGridRow co
     return QtPropertyGridDelegate::getMuted(getForeground(option, row), getBackground(option, row), share);
 }
 
-QFont getFont(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+/// Gives \p option the font that the row is written in. Making a font costs much more than a look at the row.
+void applyFont(QStyleOptionViewItem& option, PropertyGridRow const& row)
 {
-    auto font = option.font;
-    font.setBold(row.getState().bold || row.getState().kind == Kind::Group);
-    return font;
+    if (!row.getState().bold && row.getState().kind != Kind::Group)
+        return;
+    option.font.setBold(true);
+    option.fontMetrics = QFontMetrics(option.font);
 }
 
 QString getOneLine(QString text)
@@ -221,16 +223,21 @@ void QtPropertyGridDelegate::paint(QPainter* painter, QStyleOptionViewItem const
     auto const* const row = QtPropertyGridItemModel::getRow(index);
     if (!row || row->getState().kind == Kind::EmptyLine)
         return;
+    auto const isName = index.column() == QtPropertyGridItemModel::nameColumn;
+    auto const isGroup = row->getState().kind == Kind::Group;
+    if (isGroup && !isName)
+        return;
     painter->save();
-    painter->setClipRect(option.rect);
-    auto const font = getFont(option, *row);
-    painter->setFont(font);
     auto cell = option;
-    cell.font = font;
-    cell.fontMetrics = QFontMetrics(font);
+    applyFont(cell, *row);
+    // The name of a group has the whole row to itself.
+    if (isGroup && option.widget)
+        cell.rect.setRight(option.widget->width());
+    painter->setClipRect(cell.rect);
+    painter->setFont(cell.font);
     if (option.state.testFlag(QStyle::State_Selected))
-        painter->fillRect(option.rect, getBackground(option, *row));
-    if (index.column() == QtPropertyGridItemModel::nameColumn)
+        painter->fillRect(cell.rect, getBackground(option, *row));
+    if (isName)
         paintName(*painter, cell, *row);
     else
         paintValue(*painter, cell, *row);
@@ -239,12 +246,15 @@ void QtPropertyGridDelegate::paint(QPainter* painter, QStyleOptionViewItem const
 
 QSize QtPropertyGridDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const
 {
+    // All columns are as high; a view asks for thousands of heights in a row, so one answer has to do.
+    if (index.column() != QtPropertyGridItemModel::nameColumn)
+        return {};
     auto const lineHeight = option.fontMetrics.height();
     auto const* const row = QtPropertyGridItemModel::getRow(index);
     if (row && row->getState().kind == Kind::EmptyLine)
         return {0, lineHeight / 2};
     auto const boxHeight = getStyle(option)->pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget);
-    return {10 * option.fontMetrics.averageCharWidth(), std::max(lineHeight, boxHeight) + lineHeight / 2};
+    return {0, std::max(lineHeight, boxHeight) + lineHeight / 2};
 }
 
 QWidget* QtPropertyGridDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const& option,
@@ -315,10 +325,11 @@ bool QtPropertyGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* vie
     if (!row || event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     auto const shown = index.data(Qt::DisplayRole).toString();
-    QFontMetrics const metrics(getFont(option, *row));
+    auto cell = option;
+    applyFont(cell, *row);
     QString text;
     auto const room = QtPropertyGridLayout::of(*row, option).value.width();
-    if (metrics.horizontalAdvance(shown) + 2 * QtPropertyGridLayout::getTextMargin(option) > room)
+    if (cell.fontMetrics.horizontalAdvance(shown) + 2 * QtPropertyGridLayout::getTextMargin(option) > room)
         text = shown;
     if (index.column() == QtPropertyGridItemModel::nameColumn && !row->getState().description.empty())
         text = toQString(row->getState().name + "\n" + row->getState().description);
@@ -369,16 +380,18 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
         area.setRight(layout.arrow.left() - 1);
     auto const [value, unit] = splitUnit(row);
     auto const& metrics = option.fontMetrics;
-    auto const unitWidth = metrics.horizontalAdvance(unit);
+    auto const unitWidth = unit.isEmpty() ? 0 : metrics.horizontalAdvance(unit);
     auto const elided = metrics.elidedText(value, Qt::ElideRight, std::max(0, area.width() - unitWidth));
-    auto const valueWidth = metrics.horizontalAdvance(elided);
-    auto left = area.left();
-    if (row.getState().alignment == PropertyGridAlignment::Right)
-        left = std::max(left, area.right() + 1 - valueWidth - unitWidth);
+    auto const isRight = row.getState().alignment == PropertyGridAlignment::Right;
+    auto const valueWidth = isRight || !unit.isEmpty() ? metrics.horizontalAdvance(elided) : 0;
+    auto const left =
+        isRight ? std::max(area.left(), area.right() + 1 - valueWidth - unitWidth) : area.left();
 
     constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
     painter.setPen(getForeground(option, row));
     painter.drawText(QRect(left, area.top(), area.right() + 1 - left, area.height()), flags, elided);
+    if (unit.isEmpty())
+        return;
     painter.setPen(getMutedForeground(option, row));
     painter.drawText(QRect(left + valueWidth, area.top(), unitWidth + margin, area.height()), flags, unit);
 }

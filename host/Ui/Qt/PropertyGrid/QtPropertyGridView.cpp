@@ -356,8 +356,6 @@ void QtPropertyGridView::makeCurrent(QModelIndex const& index)
 void QtPropertyGridView::dressRow(QModelIndex const& index)
 {
     auto const* const row = QtPropertyGridItemModel::getRow(index);
-    if (row->getState().kind == Kind::Group)
-        setFirstColumnSpanned(index.row(), index.parent(), true);
     if (row->getChildren().empty())
         return;
     m_isDressing = true;

@@ -1,0 +1,91 @@
+#include "../RichGrid.h"
+#include "GoldenPicture.h"
+#include "QtUiTest.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QPixmap>
+
+namespace qev::test {
+namespace {
+
+using namespace ui;
+
+std::filesystem::path const goldenFolder = QEV_GOLDEN_FOLDER;
+
+QPalette makeDarkPalette()
+{
+    QPalette palette;
+    QColor const window(45, 45, 48);
+    QColor const base(30, 30, 32);
+    QColor const text(222, 222, 222);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
+    palette.setColor(QPalette::Highlight, QColor(38, 79, 120));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(128, 128, 128));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(128, 128, 128));
+    return palette;
+}
+
+class QtPropertyGridPictureTest : public QtUiTest
+{
+protected:
+    QtPropertyGridPictureTest()
+        : control(Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 460, 900}))
+        , grid(*backend->getPropertyGrid(*control))
+        , palette(QApplication::palette())
+    {
+        dialog->setPlacement({0, 0, 460, 900});
+        RichGrid::fill(control);
+    }
+    ~QtPropertyGridPictureTest() override { QApplication::setPalette(palette); }
+
+    void select(int group, int row)
+    {
+        auto const& model = grid.getItemModel();
+        grid.getView().setCurrentIndex(model.index(row, 0, model.index(group, 0)));
+    }
+    [[nodiscard]] QImage draw(double scale)
+    {
+        settle();
+        QPixmap picture(grid.size() * scale);
+        picture.setDevicePixelRatio(scale);
+        grid.render(&picture);
+        return picture.toImage();
+    }
+
+    std::shared_ptr<PropertyGridControl> control;
+    QtPropertyGrid& grid;
+    QPalette palette;
+};
+
+TEST_F(QtPropertyGridPictureTest, LooksAsReviewedInLight)
+{
+    select(1, 1);
+    expectGoldenPicture(draw(1), goldenFolder / "RichGridLight.png");
+}
+
+TEST_F(QtPropertyGridPictureTest, LooksAsReviewedInDark)
+{
+    QApplication::setPalette(makeDarkPalette());
+    select(1, 5);
+    expectGoldenPicture(draw(1), goldenFolder / "RichGridDark.png");
+}
+
+TEST_F(QtPropertyGridPictureTest, LooksAsReviewedAtTwiceTheSize)
+{
+    select(1, 8);
+    expectGoldenPicture(draw(2), goldenFolder / "RichGridDouble.png");
+}
+
+} // namespace
+} // namespace qev::test
