@@ -56,7 +56,7 @@ QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& 
 {
     // Disabled rows are there to be read all the same; the disabled text of many palettes is too faint for
     // it.
-    constexpr float shareWhenDisabled = 0.5F;
+    constexpr float shareWhenDisabled = 0.55F;
     auto const group = getColourGroup(option);
     auto foreground = option.palette.color(group, QPalette::Text);
     if (option.state.testFlag(QStyle::State_Selected))
@@ -68,12 +68,28 @@ QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& 
     return foreground;
 }
 
+/// The foreground made to stand back, but for selected rows: the colours of a selection are close enough
+/// to each other as they are.
+QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row, float share)
+{
+    auto const foreground = getForeground(option, row);
+    if (option.state.testFlag(QStyle::State_Selected))
+        return foreground;
+    return QtPropertyGridDelegate::getMuted(foreground, getBackground(option, row), share);
+}
+
 /// The colour of units and marks.
 QColor getMutedForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
 {
-    // The colours of a selection are closer to each other than those of texts.
-    auto const share = option.state.testFlag(QStyle::State_Selected) ? 0.85F : 0.65F;
-    return QtPropertyGridDelegate::getMuted(getForeground(option, row), getBackground(option, row), share);
+    return getForeground(option, row, 0.65F);
+}
+
+/// The colour of a value: one that cannot be changed stands back a little.
+QColor getValueForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    auto const isFixed =
+        row.getState().enabled && PropertyGridEditing::getEditor(row) == PropertyGridEditor::None;
+    return isFixed ? getForeground(option, row, 0.75F) : getForeground(option, row);
 }
 
 /// Gives \p option the font that the row is written in. Making a font costs much more than a look at the row.
@@ -388,7 +404,7 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
         isRight ? std::max(area.left(), area.right() + 1 - valueWidth - unitWidth) : area.left();
 
     constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
-    painter.setPen(getForeground(option, row));
+    painter.setPen(getValueForeground(option, row));
     painter.drawText(QRect(left, area.top(), area.right() + 1 - left, area.height()), flags, elided);
     if (unit.isEmpty())
         return;

@@ -46,13 +46,19 @@ protected:
     {
         dialog->setPlacement({0, 0, 460, 900});
         RichGrid::fill(control);
+        // A text cursor that blinks is there in one picture and gone in the next.
+        QApplication::setCursorFlashTime(0);
+        QApplication::setActiveWindow(backend->getWidget(dialog->getHandle()));
     }
     ~QtPropertyGridPictureTest() override { QApplication::setPalette(palette); }
 
-    void select(int group, int row)
+    QModelIndex select(int group, int row)
     {
         auto const& model = grid.getItemModel();
-        grid.getView().setCurrentIndex(model.index(row, 0, model.index(group, 0)));
+        auto const index = model.index(row, 0, model.index(group, 0));
+        grid.getView().setCurrentIndex(index);
+        grid.getView().setFocus();
+        return index;
     }
     [[nodiscard]] QImage draw(double scale)
     {
@@ -85,6 +91,26 @@ TEST_F(QtPropertyGridPictureTest, LooksAsReviewedAtTwiceTheSize)
 {
     select(1, 8);
     expectGoldenPicture(draw(2), goldenFolder / "RichGridDouble.png");
+}
+
+TEST_F(QtPropertyGridPictureTest, EditorOfANumberLooksAsReviewed)
+{
+    grid.getView().openEditor(select(1, 1), false);
+    expectGoldenPicture(draw(1), goldenFolder / "NumberEditor.png");
+}
+
+TEST_F(QtPropertyGridPictureTest, RefusedInputLooksAsReviewed)
+{
+    grid.getItemModel().setData(select(1, 1).siblingAtColumn(1), "wide", Qt::EditRole);
+    grid.getView().collapse(grid.getItemModel().index(2, 0));
+    expectGoldenPicture(draw(1), goldenFolder / "RefusedInput.png");
+}
+
+TEST_F(QtPropertyGridPictureTest, EditorOfChoicesLooksAsReviewedInDark)
+{
+    QApplication::setPalette(makeDarkPalette());
+    grid.getView().openEditor(select(1, 8), false);
+    expectGoldenPicture(draw(1), goldenFolder / "ChoiceEditorDark.png");
 }
 
 } // namespace
