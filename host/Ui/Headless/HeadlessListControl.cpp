@@ -109,10 +109,7 @@ std::optional<attr::Colour> HeadlessListControl::getBackgroundColour(std::size_t
 std::optional<CheckState> HeadlessListControl::getCheckState(std::size_t row, std::size_t column) const
 {
     auto const control = getListControl();
-    if (!control || !m_checkBoxColumns.contains(column))
-        return std::nullopt;
-    fireEvent(control->onGetItemText, cell(row, column));
-    return fireEvent(control->onGetCheckState, cell(row, column));
+    return control ? ListEditing(control).getCheckState(cell(row, column)) : std::nullopt;
 }
 
 bool HeadlessListControl::containsLocalValue(std::size_t row, std::size_t column) const
@@ -157,12 +154,15 @@ bool HeadlessListControl::clickCheckBox(std::size_t row, std::size_t column)
     auto const control = getListControl();
     if (!control || !isReachableCell(row, column))
         return false;
-    auto const state = getCheckState(row, column);
-    if (!state)
+    return click({cell(row, column)});
+}
+
+bool HeadlessListControl::clickCheckBoxes(std::size_t column)
+{
+    auto const control = getListControl();
+    if (!control || !isReachableColumn(column))
         return false;
-    auto const wanted = *state == CheckState::Checked ? CheckState::Unchecked : CheckState::Checked;
-    fireEvent(control->onCheckBoxClicked, cell(row, column), wanted);
-    return true;
+    return click(getSelectedCells(column));
 }
 
 bool HeadlessListControl::hideColumn(std::size_t column, bool hidden)
@@ -181,50 +181,90 @@ bool HeadlessListControl::beginEdit(std::size_t row, std::size_t column)
 {
     if (!isReachableCell(row, column))
         return false;
-    std::vector<ListControl::ItemInfo> items;
-    if (m_selection.contains(row)) {
-        for (auto const selected : m_selection)
-            items.push_back(cell(selected, column));
-    } else {
-        items.push_back(cell(row, column));
-    }
-    return openEditor(std::move(items));
+    return openEditor(m_selection.contains(row) ? getSelectedCells(column) : std::vector{cell(row, column)});
 }
 
 bool HeadlessListControl::commitText(std::string_view text)
 {
     if (!m_edit || !isReachable() || m_edit->editor.editType == ListControl::DropList)
         return false;
-    auto const& entries = m_edit->editor.items;
-    auto const found = std::find(entries.begin(), entries.end(), text);
-    auto const selected =
-        found == entries.end()
-            ? std::nullopt
-            : std::optional(static_cast<std::size_t>(std::distance(entries.begin(), found)));
-    return endEdit(true, text, selected);
+    endEdit(
+        [text](ListEditing const& editing, ListEdit const& edit) { return editing.commitText(edit, text); });
+    return m_editResult.refusals.empty();
 }
 
 bool HeadlessListControl::commitChoice(std::size_t index)
 {
     if (!m_edit || !isReachable() || index >= m_edit->editor.items.size())
         return false;
-    return endEdit(true, m_edit->editor.items[index], index);
+    endEdit([index](ListEditing const& editing, ListEdit const& edit) {
+        return editing.commitChoice(edit, index);
+    });
+    return m_editResult.refusals.empty();
 }
 
-bool HeadlessListControl::cancelEdit() { return m_edit && endEdit(false, m_edit->text, std::nullopt); }
+bool HeadlessListControl::cancelEdit()
+{
+    if (!m_edit)
+        return false;
+    endEdit([](ListEditing const& editing, ListEdit const& edit) {
+        editing.cancel(edit);
+        return ListEditResult();
+    });
+    return true;
+}
 
 bool HeadlessListControl::type(std::size_t row, std::size_t column, std::string_view text)
 {
     if (!beginEdit(row, column))
         return false;
-    if (m_edit->editor.editType != ListControl::DropList)
-        return commitText(text);
-    auto const& entries = m_edit->editor.items;
-    auto const found = std::find(entries.begin(), entries.end(), text);
-    if (found != entries.end())
-        return commitChoice(static_cast<std::size_t>(std::distance(entries.begin(), found)));
-    cancelEdit();
-    return false;
+    endEdit(
+        [text](ListEditing const& editing, ListEdit const& edit) { return editing.commitText(edit, text); });
+    return m_editResult.refusals.empty();
+}
+
+ListBlock HeadlessListControl::copy(std::vector<std::size_t> const& columns, bool withHeaders) const
+{
+    auto const control = getListControl();
+    if (!control)
+        return {};
+    return ListEditing(control).copy({m_selection.begin(), m_selection.end()}, columns, withHeaders);
+}
+
+ListEditResult HeadlessListControl::paste(std::size_t row, std::size_t column, ListBlock const& block)
+{
+    auto const control = getListControl();
+    if (!control || !isReachableCell(row, column))
+        return {};
+    bool const isOneCell = block.size() == 1 && block.front().size() == 1;
+    std::vector<std::size_t> rows;
+    if (isOneCell && m_selection.contains(row))
+        rows.assign(m_selection.begin(), m_selection.end());
+    else
+        for (auto index = row; index < (isOneCell ? row + 1 : m_rowCount); ++index)
+            rows.push_back(index);
+    std::vector<std::size_t> columns{column};
+    for (auto index = column + 1; !isOneCell && index < m_columnCount; ++index) {
+        if (!isColumnHidden(index))
+            columns.push_back(index);
+    }
+    return ListEditing(control).paste(rows, columns, block);
+}
+
+ListEditResult HeadlessListControl::fillDown(std::size_t column)
+{
+    auto const control = getListControl();
+    if (!control || !isReachableColumn(column))
+        return {};
+    return ListEditing(control).fillDown({m_selection.begin(), m_selection.end()}, {column});
+}
+
+ListEditResult HeadlessListControl::clear(std::size_t column)
+{
+    auto const control = getListControl();
+    if (!control || !isReachableColumn(column))
+        return {};
+    return ListEditing(control).clear(getSelectedCells(column));
 }
 
 bool HeadlessListControl::openContextMenu(std::size_t row, std::size_t column)
@@ -289,6 +329,7 @@ void HeadlessListControl::setItemAndColumnCounts(std::size_t rows, std::size_t c
     m_checkBoxColumns.clear();
     m_comboBoxColumns.clear();
     m_settings = {};
+    m_defaultHiddenColumns.clear();
 }
 
 void HeadlessListControl::setColumnCheckBoxes(std::size_t column, bool enabled, int mode)
@@ -319,6 +360,9 @@ void HeadlessListControl::startLabelEdit(std::size_t row, std::size_t column)
 
 void HeadlessListControl::setDefaultHiddenColumns(std::set<std::size_t> const& columns)
 {
+    if (m_defaultHiddenColumns == columns)
+        return;
+    m_defaultHiddenColumns = columns;
     m_settings.hiddenColumns = columns;
 }
 
@@ -329,7 +373,20 @@ std::shared_ptr<ListControl> HeadlessListControl::getListControl() const
 
 bool HeadlessListControl::isReachableCell(std::size_t row, std::size_t column) const
 {
-    return isReachable() && row < m_rowCount && column < m_columnCount && !isColumnHidden(column);
+    return row < m_rowCount && isReachableColumn(column);
+}
+
+bool HeadlessListControl::isReachableColumn(std::size_t column) const
+{
+    return isReachable() && column < m_columnCount && !isColumnHidden(column);
+}
+
+std::vector<ListControl::ItemInfo> HeadlessListControl::getSelectedCells(std::size_t column) const
+{
+    std::vector<ListControl::ItemInfo> cells;
+    for (auto const row : m_selection)
+        cells.push_back(cell(row, column));
+    return cells;
 }
 
 std::string HeadlessListControl::getCellText(std::size_t row, std::size_t column) const
@@ -343,6 +400,15 @@ std::string HeadlessListControl::getCellText(std::size_t row, std::size_t column
     return text.empty() || value.empty() ? text + value : text + ' ' + value;
 }
 
+bool HeadlessListControl::click(std::vector<ListControl::ItemInfo> const& items)
+{
+    m_editResult = ListEditing(getListControl()).clickCheckBoxes(items);
+    auto const& refusals = m_editResult.refusals;
+    return !items.empty() && std::none_of(refusals.begin(), refusals.end(), [](ListRefusal const& refusal) {
+        return refusal.reason == ListRefusalReason::NotEditable;
+    });
+}
+
 bool HeadlessListControl::openEditor(std::vector<ListControl::ItemInfo> items)
 {
     auto const control = getListControl();
@@ -352,12 +418,10 @@ bool HeadlessListControl::openEditor(std::vector<ListControl::ItemInfo> items)
         cancelEdit();
     // The owner may end the list instead of answering.
     auto const keepAlive = shared_from_this();
-    auto editor = fireEvent(control->onLabelEditBegin, ListControl::LabelEditBeginParams{items});
-    if (editor.editType == ListControl::NoEdit || isDestroyed())
+    auto edit = ListEditing(control).begin(std::move(items));
+    if (!edit || isDestroyed())
         return false;
-    auto const first = items.front();
-    auto text = *first.item < m_rowCount ? getText(*first.item, *first.column) : std::string();
-    m_edit = Edit{std::move(items), std::move(editor), std::move(text)};
+    m_edit = std::move(edit);
     m_editBox = std::make_shared<HeadlessWindow>(WindowClass::Window, 0, WindowPlacement());
     if (auto const backend = getBackend())
         backend->insertWindow(m_editBox, this);
@@ -365,8 +429,8 @@ bool HeadlessListControl::openEditor(std::vector<ListControl::ItemInfo> items)
     return true;
 }
 
-bool HeadlessListControl::endEdit(bool accepted, std::string_view text,
-                                  std::optional<std::size_t> selectedIndex)
+template <class Operation>
+void HeadlessListControl::endEdit(Operation const& operation)
 {
     auto const keepAlive = shared_from_this();
     auto const edit = std::exchange(m_edit, std::nullopt);
@@ -375,13 +439,9 @@ bool HeadlessListControl::endEdit(bool accepted, std::string_view text,
     if (hadFocus)
         setFocus();
     editBox->destroy();
-    auto const control = getListControl();
-    if (!control)
-        return false;
-    fireEvent(control->onLabelEditEnd,
-              ListControl::LabelEditEndParams{accepted, edit->items, edit->editor.editType, std::string(text),
-                                              selectedIndex.value_or(0), selectedIndex.has_value(), nullptr});
-    return true;
+    m_editResult = {};
+    if (auto const control = getListControl())
+        m_editResult = operation(ListEditing(control), *edit);
 }
 
 } // namespace qev::ui

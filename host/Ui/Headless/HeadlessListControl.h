@@ -2,6 +2,7 @@
 
 #include "HostUiExport.h"
 #include "Ui/Headless/HeadlessWindow.h"
+#include "Ui/List/ListEditing.h"
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 
 #include <cstddef>
@@ -20,15 +21,7 @@ namespace qev::ui {
 class HOSTUI_EXPORT HeadlessListControl final : public HeadlessWindow
 {
 public:
-    /// The cell that is being edited.
-    struct Edit
-    {
-        std::vector<ListControl::ItemInfo> items;
-        /// What the owner answered: the kind of editor and the entries of its list.
-        ListControl::LabelEditBeginResultParams editor;
-        /// What the editor opened with.
-        std::string text;
-    };
+    using Edit = ListEdit;
 
     HeadlessListControl(int controlId, WindowPlacement const& placement, unsigned int style);
 
@@ -54,8 +47,11 @@ public:
     [[nodiscard]] std::set<std::size_t> const& getSelection() const { return m_selection; }
     bool activate(std::size_t row, std::size_t column);
     bool triggerSecondaryEvent(std::size_t row, std::size_t column);
-    /// Asks for the other state of a cell's check box; the owner decides what becomes of it.
+    /// Asks for the other state of a cell's check box; the owner decides what becomes of it. False for a cell
+    /// without a box and for one that cannot be changed.
     bool clickCheckBox(std::size_t row, std::size_t column);
+    /// The same for all selected rows, as the space bar does.
+    bool clickCheckBoxes(std::size_t column);
     /// Hides or shows a column, as in the menu of the header. False when the owner does not let the user.
     bool hideColumn(std::size_t column, bool hidden);
 
@@ -71,6 +67,18 @@ public:
     bool cancelEdit();
     /// `beginEdit` followed by typing, or by choosing the entry of that text.
     bool type(std::size_t row, std::size_t column, std::string_view text);
+
+    /// The cells of the selected rows in \p columns, as they go to the clipboard.
+    [[nodiscard]] ListBlock copy(std::vector<std::size_t> const& columns, bool withHeaders) const;
+    /// Puts \p block into the cells from the given one on; a block of one cell into all selected rows.
+    /// The result is empty where a user cannot get at the cell.
+    ListEditResult paste(std::size_t row, std::size_t column, ListBlock const& block);
+    /// Puts the value of the first selected row into the others.
+    ListEditResult fillDown(std::size_t column);
+    /// Takes the values of the selected rows away.
+    ListEditResult clear(std::size_t column);
+    /// What became of the last input that ended an edit.
+    [[nodiscard]] ListEditResult const& getEditResult() const { return m_editResult; }
 
     /// Opens the context menu of a cell; the back end's menu answer chooses from it. A \p row past the end
     /// is the free space below. False when the menu is empty.
@@ -101,9 +109,14 @@ public:
 private:
     [[nodiscard]] std::shared_ptr<ListControl> getListControl() const;
     [[nodiscard]] bool isReachableCell(std::size_t row, std::size_t column) const;
+    [[nodiscard]] bool isReachableColumn(std::size_t column) const;
     [[nodiscard]] std::string getCellText(std::size_t row, std::size_t column) const;
+    [[nodiscard]] std::vector<ListControl::ItemInfo> getSelectedCells(std::size_t column) const;
+    bool click(std::vector<ListControl::ItemInfo> const& items);
     bool openEditor(std::vector<ListControl::ItemInfo> items);
-    bool endEdit(bool accepted, std::string_view text, std::optional<std::size_t> selectedIndex);
+    /// Closes the editor, and hands what was edited to \p operation.
+    template <class Operation>
+    void endEdit(Operation const& operation);
 
     unsigned int m_style;
     unsigned int m_styleFlags = 0;
@@ -114,8 +127,10 @@ private:
     std::map<std::size_t, int> m_checkBoxColumns;
     std::set<std::size_t> m_comboBoxColumns;
     ListControlSettings m_settings;
+    std::set<std::size_t> m_defaultHiddenColumns;
     std::vector<std::size_t> m_redrawnRows;
-    std::optional<Edit> m_edit;
+    std::optional<ListEdit> m_edit;
+    ListEditResult m_editResult;
     std::shared_ptr<HeadlessWindow> m_editBox;
 };
 

@@ -124,6 +124,67 @@ TEST_F(HeadlessListControlTest, AnEditInASelectedRowIsForAllSelectedRows)
     EXPECT_THAT(ends[1].items, ElementsAre(ListControl::ItemInfo{1, 2}));
 }
 
+TEST_F(HeadlessListControlTest, TheSpaceBarClicksTheBoxesOfAllSelectedRows)
+{
+    std::vector<std::size_t> rows;
+    control->onCheckBoxClicked.iHandlerAdd([&](auto&, ListControl::ItemInfo const& item, CheckState state) {
+        EXPECT_EQ(state, CheckState::Checked);
+        rows.push_back(*item.item);
+    });
+    EXPECT_FALSE(list->clickCheckBoxes(1));
+    list->select({0, 1, 2});
+    EXPECT_TRUE(list->clickCheckBoxes(1));
+    EXPECT_THAT(rows, ElementsAre(0u, 2u));
+}
+
+TEST_F(HeadlessListControlTest, AReadOnlyCheckBoxCannotBeClicked)
+{
+    control->onIsItemReadOnly.iHandlerAdd([](auto&, ListControl::ItemInfo const&) { return true; });
+    EXPECT_FALSE(list->clickCheckBox(0, 1));
+}
+
+TEST_F(HeadlessListControlTest, SelectedRowsAreCopiedPastedFilledAndCleared)
+{
+    answerEditsWith(ListControl::EditBox);
+    list->select({0, 2});
+    EXPECT_EQ(list->copy({0, 2}, true), (ListBlock{{"Column 0", "Column 2"}, {"W1", "F30"}, {"W10", ""}}));
+
+    EXPECT_EQ(list->paste(2, 0, {{"W"}}).takenCells, 2u);
+    EXPECT_THAT(ends.back().items, ElementsAre(ListControl::ItemInfo{0, 0}, ListControl::ItemInfo{2, 0}));
+    EXPECT_EQ(list->paste(1, 0, {{"W"}}).takenCells, 1u);
+    EXPECT_THAT(ends.back().items, ElementsAre(ListControl::ItemInfo{1, 0}));
+
+    EXPECT_EQ(list->fillDown(2).takenCells, 1u);
+    EXPECT_EQ(ends.back().text, "F30");
+    EXPECT_THAT(ends.back().items, ElementsAre(ListControl::ItemInfo{2, 2}));
+    EXPECT_EQ(list->clear(2).takenCells, 1u);
+    EXPECT_EQ(ends.back().text, "");
+    EXPECT_THAT(ends.back().items, ElementsAre(ListControl::ItemInfo{0, 2}));
+}
+
+TEST_F(HeadlessListControlTest, ABlockGoesIntoTheVisibleColumns)
+{
+    answerEditsWith(ListControl::EditBox);
+    list->hideColumn(1, true);
+    EXPECT_EQ(list->paste(1, 0, {{"A", "B"}, {"C", "D"}, {"E", "F"}}).takenCells, 4u);
+    std::vector<ListControl::ItemInfo> cells;
+    for (auto const& end : ends)
+        cells.push_back(end.items.front());
+    EXPECT_THAT(cells, ElementsAre(ListControl::ItemInfo{1, 0}, ListControl::ItemInfo{2, 0},
+                                   ListControl::ItemInfo{1, 2}, ListControl::ItemInfo{2, 2}));
+}
+
+TEST_F(HeadlessListControlTest, ToldTheSameHiddenColumnsAgainTheUsersChoiceStays)
+{
+    control->getHeader().setDefaultHiddenColumns({2});
+    EXPECT_TRUE(list->isColumnHidden(2));
+    EXPECT_TRUE(list->hideColumn(2, false));
+    control->getHeader().setDefaultHiddenColumns({2});
+    EXPECT_FALSE(list->isColumnHidden(2));
+    control->getHeader().setDefaultHiddenColumns({0});
+    EXPECT_TRUE(list->isColumnHidden(0));
+}
+
 TEST_F(HeadlessListControlTest, ADropListTakesItsEntriesOnly)
 {
     answerEditsWith(ListControl::DropList, {"F30", "F60"});
@@ -217,6 +278,10 @@ TEST_F(HeadlessListControlTest, ADisabledListCannotBeDriven)
     EXPECT_FALSE(list->beginEdit(0, 2));
     EXPECT_FALSE(list->openContextMenu(0, 0));
     EXPECT_FALSE(list->hideColumn(0, true));
+    EXPECT_EQ(list->paste(0, 2, {{"F90"}}).takenCells, 0u);
+    EXPECT_EQ(list->fillDown(2).takenCells, 0u);
+    EXPECT_EQ(list->clear(2).takenCells, 0u);
+    EXPECT_THAT(ends, testing::IsEmpty());
 }
 
 TEST_F(HeadlessListControlTest, AColumnStaysWhereTheOwnerDoesNotLetItGo)

@@ -180,8 +180,8 @@ public:
     EventHandlerContainer<Window, void, ItemInfo const&> onItemSecondaryEvent;
     EventHandlerContainer<Window, std::string, std::size_t> onGetColumnHeaderText;
     EventHandlerContainer<Window, std::string, ItemInfo const&> onGetItemText;
-    /// The text that an editor of the cell opens with, numbers with all their digits. Without a handler it
-    /// is the text of the cell.
+    /// The text that an editor of the cell opens with: numbers with all their digits, "TRUE" and "FALSE" for a
+    /// check box alone, and empty for a cell without a value. Without a handler it is the text of the cell.
     EventHandlerContainer<Window, std::string, ItemInfo const&> onGetItemEditText;
     /// The number that the text of the cell stands for, to sort by; nothing for a cell that shows none.
     EventHandlerContainer<Window, std::optional<double>, ItemInfo const&> onGetItemNumber;
@@ -195,6 +195,8 @@ public:
     EventHandlerContainer<Window, bool, ItemInfo const&> onDoesItemContainLocalValue;
     EventHandlerContainer<Window, void, std::vector<std::size_t> const&, std::size_t>
         onResetItemsToGlobalValues;
+    /// Tells if the user cannot change a cell. Its check box is grey then, and clicks on it do nothing.
+    EventHandlerContainer<Window, bool, ItemInfo const&> onIsItemReadOnly;
     /// Several edits follow that make one for the user. What the owner returns is held until they are done.
     EventHandlerContainer<Window, std::shared_ptr<void>> onEditsBegin;
     EventHandlerContainer<Window, LabelEditBeginResultParams, LabelEditBeginParams const&> onLabelEditBegin;

@@ -13,6 +13,7 @@ class HOSTUI_EXPORT ListControlHeaderInterface
 public:
     virtual ~ListControlHeaderInterface() = default;
 
+    /// Telling the same columns again leaves alone what the user has hidden and shown since.
     virtual void setDefaultHiddenColumns(std::set<std::size_t> const& columns) = 0;
 };
 
