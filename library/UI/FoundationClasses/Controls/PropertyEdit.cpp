@@ -1,4 +1,4 @@
-#include "UI/FoundationClasses/Controls/PropertySetGridControl/GridEdit.h"
+#include "UI/FoundationClasses/Controls/PropertyEdit.h"
 
 #include "FoundationClasses/Data.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"

@@ -10,6 +10,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qev::fc {
@@ -102,6 +103,14 @@ public:
     }
 
 protected:
+    /// Builds the sets that the objects have in common.
+    virtual void initSets();
+
+    /// Puts another object in the place of one that is shown; the sets stay as they are.
+    void replaceObject(std::size_t index, std::shared_ptr<FcBase> object)
+    {
+        m_objects[index] = std::move(object);
+    }
     [[nodiscard]] std::shared_ptr<Data> const& getData() const { return m_data; }
     [[nodiscard]] std::shared_ptr<qev::ui::Dialog> const& getDialog() const { return m_dialog; }
     [[nodiscard]] PropertySetDefinitionFilterInterface* getFilter() const { return m_filter.get(); }
@@ -112,7 +121,6 @@ private:
     /// The sets of one object or of several, by name.
     using SetInfos = std::map<std::string, PropertySetDefinitionInfo>;
 
-    virtual void initSets();
     virtual void refreshDisplay() = 0;
     /// The window of the flavour; null before it is made.
     [[nodiscard]] virtual std::shared_ptr<qev::ui::Window> getWindow() = 0;

@@ -6,7 +6,7 @@
 #include "FoundationClasses/Data.h"
 #include "UI/FoundationClasses/Controls/Formatters/PropertyFormatterInterface.h"
 #include "UI/FoundationClasses/Controls/PropertySetDefinitionFilterInterface.h"
-#include "UI/FoundationClasses/Controls/PropertySetGridControl/GridEdit.h"
+#include "UI/FoundationClasses/Controls/PropertyEdit.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertyFactories/GridControlPropertyFactories.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertyFactories/GridRows.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/SetsToBeDisplayed.h"

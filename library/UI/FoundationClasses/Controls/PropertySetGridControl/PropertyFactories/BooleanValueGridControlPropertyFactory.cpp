@@ -1,6 +1,6 @@
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertyFactories/BooleanValueGridControlPropertyFactory.h"
 
-#include "UI/FoundationClasses/Controls/PropertySetGridControl/GridEdit.h"
+#include "UI/FoundationClasses/Controls/PropertyEdit.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertyFactories/GridRows.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControlInterface.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertySingleValueWithBooleanToggle.h"
