@@ -1,5 +1,7 @@
 #include "UI/FoundationClasses/Controls/Formatters/ListControlPropertyFormatter.h"
 
+#include "kit/ReportRecorder.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -99,6 +101,31 @@ TEST(ListControlPropertyFormatter, AllStrategiesAreToldInTheirOrder)
     formatter.setListControl(nullptr);
     formatter.onItemAndColumnCountUpdated();
     formatter.onResetItemToGlobalValue("S", "P");
+}
+
+TEST(ListControlPropertyFormatter, AStrategyThatRefusesIsHeardBeforeALaterOneThatAgrees)
+{
+    ListControlPropertyFormatter formatter;
+    auto const refusing = std::make_shared<NiceMock<Strategy>>();
+    auto const agreeing = std::make_shared<StrictMock<Strategy>>();
+    formatter.addStrategy(refusing);
+    formatter.addStrategy(agreeing);
+    ON_CALL(*refusing, isPropertyToBeHiddenByDefault("S", "P")).WillByDefault(Return(false));
+    ON_CALL(*refusing, getCustomColumnItemString("id")).WillByDefault(Return(""));
+
+    EXPECT_FALSE(formatter.isPropertyToBeHiddenByDefault("S", "P"));
+    EXPECT_EQ(formatter.getCustomColumnItemString("id"), "") << "an empty text is an answer too";
+}
+
+TEST(ListControlPropertyFormatter, NoStrategyIsReportedAndLeftOut)
+{
+    ListControlPropertyFormatter formatter;
+
+    formatter.addStrategy(nullptr);
+
+    qev::test::expectReport("Strategy is nullptr.", "qev::fc::ui::ListControlPropertyFormatter::addStrategy",
+                            "UI/FoundationClasses/Controls/Formatters/ListControlPropertyFormatter");
+    EXPECT_FALSE(formatter.isPropertyToBeHiddenByDefault("S", "P"));
 }
 
 } // namespace

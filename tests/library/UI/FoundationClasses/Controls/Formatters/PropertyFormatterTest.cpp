@@ -1,5 +1,7 @@
 #include "UI/FoundationClasses/Controls/Formatters/PropertyFormatter.h"
 
+#include "FoundationClasses/AllEntities.h"
+#include "kit/ModelBuilder.h"
 #include "kit/ReportRecorder.h"
 
 #include <gmock/gmock.h>
@@ -98,6 +100,30 @@ TEST(PropertyFormatter, NoStrategyIsReportedAndLeftOut)
     qev::test::expectReport("Strategy is nullptr.", "qev::fc::ui::PropertyFormatter::addStrategy",
                             "UI/FoundationClasses/Controls/Formatters/PropertyFormatter");
     EXPECT_TRUE(formatter.isEnabled("S", "P"));
+}
+
+TEST(PropertyFormatter, AnObjectReachesAllStrategies)
+{
+    PropertyFormatter formatter;
+    auto const strategy = std::make_shared<StrictMock<Strategy>>();
+    formatter.addStrategy(strategy);
+    qev::test::Model model;
+    std::shared_ptr<FcBase> const wall = model.wall("W1");
+    EXPECT_CALL(*strategy, setObject(model.data(), wall));
+
+    formatter.setObject(model.data(), wall);
+}
+
+TEST(PropertyFormatter, AStrategyThatRefusesIsHeardBeforeALaterOneThatAgrees)
+{
+    PropertyFormatter formatter;
+    auto const refusing = std::make_shared<NiceMock<Strategy>>();
+    auto const agreeing = std::make_shared<StrictMock<Strategy>>();
+    formatter.addStrategy(refusing);
+    formatter.addStrategy(agreeing);
+    ON_CALL(*refusing, isReadOnly("S", "P")).WillByDefault(Return(false));
+
+    EXPECT_FALSE(formatter.isReadOnly("S", "P"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter.h"
 
+#include "kit/ReportRecorder.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridProperty.h"
 
 #include <gmock/gmock.h>
@@ -104,6 +105,59 @@ TEST(PropertyGridControlPropertyFormatter, AllStrategiesAreToldInTheirOrder)
     formatter.setObject(nullptr, nullptr);
     formatter.onButtonClicked("S", "P");
     formatter.onPropertyCreated("S", "P", row);
+}
+
+TEST(PropertyGridControlPropertyFormatter, AStrategyThatRefusesIsHeardBeforeALaterOneThatAgrees)
+{
+    PropertyGridControlPropertyFormatter formatter;
+    auto const refusing = std::make_shared<NiceMock<Strategy>>();
+    auto const agreeing = std::make_shared<StrictMock<Strategy>>();
+    formatter.addStrategy(refusing);
+    formatter.addStrategy(agreeing);
+    ON_CALL(*refusing, wantCustomButtonProperties()).WillByDefault(Return(false));
+    ON_CALL(*refusing, wantButton("S", "P")).WillByDefault(Return(false));
+    ON_CALL(*refusing, getAlignment("S", "P")).WillByDefault(Return(Interface::Alignment::Alignment0));
+    ON_CALL(*refusing, getEmptyLineState("S", "P")).WillByDefault(Return(Interface::EmptyLineState::None));
+    ON_CALL(*refusing, getHorizontalLineState("S", "P"))
+        .WillByDefault(Return(Interface::HorizontalLineState::None));
+    ON_CALL(*refusing, wantBoldFontStyleForNameAndValue("S", "P")).WillByDefault(Return(false));
+    ON_CALL(*refusing, getPropertyNameIndentationInCharacters("S", "P")).WillByDefault(Return(0u));
+    ON_CALL(*refusing, getPropertySetOrder()).WillByDefault(Return(Names()));
+
+    EXPECT_FALSE(formatter.wantCustomButtonProperties());
+    EXPECT_FALSE(formatter.wantButton("S", "P"));
+    EXPECT_EQ(formatter.getAlignment("S", "P"), Interface::Alignment::Alignment0);
+    EXPECT_EQ(formatter.getEmptyLineState("S", "P"), Interface::EmptyLineState::None);
+    EXPECT_EQ(formatter.getHorizontalLineState("S", "P"), Interface::HorizontalLineState::None);
+    EXPECT_FALSE(formatter.wantBoldFontStyleForNameAndValue("S", "P"));
+    EXPECT_EQ(formatter.getPropertyNameIndentationInCharacters("S", "P"), 0u);
+    EXPECT_EQ(formatter.getPropertySetOrder(), Names());
+}
+
+TEST(PropertyGridControlPropertyFormatter, StatesHaveTheNumbersOfTheToolkit)
+{
+    EXPECT_EQ(static_cast<int>(Interface::Alignment::Alignment0), 0);
+    EXPECT_EQ(static_cast<int>(Interface::Alignment::Alignment1), 1);
+    EXPECT_EQ(static_cast<int>(Interface::EmptyLineState::None), 0);
+    EXPECT_EQ(static_cast<int>(Interface::EmptyLineState::Before), 1);
+    EXPECT_EQ(static_cast<int>(Interface::EmptyLineState::After), 2);
+    EXPECT_EQ(static_cast<int>(Interface::EmptyLineState::BeforeAndAfter), 3);
+    EXPECT_EQ(static_cast<int>(Interface::HorizontalLineState::None), 0);
+    EXPECT_EQ(static_cast<int>(Interface::HorizontalLineState::Line0), 1);
+    EXPECT_EQ(static_cast<int>(Interface::HorizontalLineState::Line1), 2);
+    EXPECT_EQ(static_cast<int>(Interface::HorizontalLineState::Line2), 3);
+}
+
+TEST(PropertyGridControlPropertyFormatter, NoStrategyIsReportedAndLeftOut)
+{
+    PropertyGridControlPropertyFormatter formatter;
+
+    formatter.addStrategy(nullptr);
+
+    qev::test::expectReport("Strategy is nullptr.",
+                            "qev::fc::ui::PropertyGridControlPropertyFormatter::addStrategy",
+                            "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter");
+    EXPECT_FALSE(formatter.wantButton("S", "P"));
 }
 
 } // namespace
