@@ -13,12 +13,44 @@
 #include "UI/FoundationClasses/PropertyInterface/IsValueAllowed.h"
 #include "UI/FoundationClasses/PropertyInterface/SetValue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace qev::fc::ui::propertyinterface {
 
 using object::PropertyId;
 using object::PropertyValue;
+
+namespace {
+
+/// An entity whose rows are being listed. Broken files have groups that are in themselves, by way of others;
+/// such an entity is not listed again below itself.
+class ListingInProgress
+{
+public:
+    explicit ListingInProgress(FcBase const& entity)
+        : m_isRepeated(std::find(entities().begin(), entities().end(), &entity) != entities().end())
+    {
+        entities().push_back(&entity);
+    }
+    ~ListingInProgress() { entities().pop_back(); }
+    ListingInProgress(ListingInProgress const&) = delete;
+    ListingInProgress& operator=(ListingInProgress const&) = delete;
+
+    [[nodiscard]] bool isRepeated() const { return m_isRepeated; }
+
+private:
+    /// From the outermost to the innermost.
+    static std::vector<FcBase const*>& entities()
+    {
+        thread_local std::vector<FcBase const*> inProgress;
+        return inProgress;
+    }
+
+    bool m_isRepeated;
+};
+
+} // namespace
 
 PropertyValue getValue(Data const& data, FcBase const& entity, PropertyId id,
                        std::optional<std::string> setName)
@@ -43,6 +75,9 @@ bool isValueAllowed(Data const& data, FcBase const& entity, PropertyId id, Prope
 
 std::vector<std::shared_ptr<Property>> getProperties(FcBase const& entity)
 {
+    ListingInProgress const listing(entity);
+    if (listing.isRepeated())
+        return {};
     GetProperties visitor;
     entity.accept(visitor);
     return std::move(visitor.properties);

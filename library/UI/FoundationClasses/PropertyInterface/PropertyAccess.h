@@ -37,7 +37,8 @@ QEVFOUNDATIONCLASSESUI_EXPORT void setValue(Data& data, FcBase& entity, object::
 QEVFOUNDATIONCLASSESUI_EXPORT bool isValueAllowed(Data const& data, FcBase const& entity,
                                                   object::PropertyId id, object::PropertyValue const& value);
 
-/// The rows of an entity that is held by a shared pointer, as most often below one group node.
+/// The rows of an entity that is held by a shared pointer, as most often below one group node. An entity that
+/// contains itself is not listed again below itself.
 /// \throws std::bad_weak_ptr for an entity that is not
 QEVFOUNDATIONCLASSESUI_EXPORT std::vector<std::shared_ptr<Property>> getProperties(FcBase const& entity);
 

@@ -1,17 +1,48 @@
+#include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
+#include "FoundationClasses/Localize.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
-
-#include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using core::kernel::FcPropertySetDefinition;
 
-bool GetProperties::visit(FcPropertySetDefinition const&) { return true; }
+namespace {
 
-bool GetPropertyName::visit(FcPropertySetDefinition const&) { return true; }
+/// The id by which a set is asked for the texts of its heading.
+constexpr char setHeading[] = "PropertySetDefinitionPsets";
 
-bool GetPropertyDescription::visit(FcPropertySetDefinition const&) { return true; }
+} // namespace
+
+bool GetProperties::visit(FcPropertySetDefinition const& set)
+{
+    auto const& setName = set.Name.get();
+    if (!setName)
+        return false;
+    auto group = makeGroup(*setName, set);
+    group->mappedId = object::PropertyId(setHeading);
+    properties.push_back(std::move(group));
+    return false;
+}
+
+bool GetPropertyName::visit(FcPropertySetDefinition const& set)
+{
+    if (id.text() != setHeading)
+        return true;
+    if (auto const& key = set.Name.get())
+        name = localize(*key);
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcPropertySetDefinition const& set)
+{
+    if (id.text() != setHeading)
+        return true;
+    if (auto const& key = set.Name.get())
+        description = localize(*key + "_Description");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface
