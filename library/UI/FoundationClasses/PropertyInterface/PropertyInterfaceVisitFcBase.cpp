@@ -157,11 +157,11 @@ struct PropertyValueOf
     {
         switch (value.number) {
         case 1:
-            return localize("LogicalValue_True", "FoundationClassesUi");
+            return qev::localize("LogicalValue_True", "FoundationClassesUi");
         case 0:
-            return localize("LogicalValue_False", "FoundationClassesUi");
+            return qev::localize("LogicalValue_False", "FoundationClassesUi");
         case -1:
-            return localize("LogicalValue_Unknown", "FoundationClassesUi");
+            return qev::localize("LogicalValue_Unknown", "FoundationClassesUi");
         default:
             assert::report("Invalid LogicalValue", "qev::fc::ui::propertyinterface::GetValue::visit", path);
             return {};

@@ -148,9 +148,8 @@ TEST_F(PropertyWrapper, BeginsPathsWithTheTopLevelWhereToldSo)
                                                 "    Top.A.B\n");
 }
 
-TEST_F(PropertyWrapper, TellsElementsOfAListByPositionOrPrefix)
+TEST_F(PropertyWrapper, TellsElementsOfAListByTheirPosition)
 {
-    auto const classification = model.addSet(wall, "Set", {{"A", label("a")}});
     auto list = node("List", wall, {node("A", wall), node("B", other), node("C", nullptr)});
     list->isList = true;
     drawn->nodes = {node("Top", wall, {list})};
@@ -456,7 +455,7 @@ TEST_F(PropertyWrapper, LabelsAPropertyThatIsNotThereByItsNames)
     EXPECT_EQ(wrapper->getPropertyName(PropertyId("IsTypedBy.PropertySets.Pset_Y.X")), "Label");
     EXPECT_EQ(wrapper->getPropertyName(PropertyId("PropertySets.Pset_Y")), "");
     EXPECT_EQ(wrapper->getPropertyName(PropertyId("PropertySets.A.B.C")), "");
-    EXPECT_EQ(wrapper->getPropertyName(PropertyId("PropertySets")), "");
+    EXPECT_EQ(wrapper->getPropertyName(PropertyId("IsTypedBy.PropertySets")), "");
 }
 
 // --- Read-only --------------------------------------------------------------------------------------

@@ -1,13 +1,13 @@
 #include "Core/Unit/QuantityPresentation.h"
-#include "FoundationClasses/Core/Kernel/FcRelAggregates.h"
+#include "FoundationClasses/Core/Kernel/FcRelAssignsToGroup.h"
 #include "FoundationClasses/LocalValue.h"
 #include "FoundationClasses/Resource/Actor/FcActorRole.h"
-#include "FoundationClasses/Resource/Geometry/FcAxis2Placement3D.h"
+#include "FoundationClasses/Resource/Geometry/FcBSplineSurfaceWithKnots.h"
 #include "FoundationClasses/Resource/Geometry/FcCartesianPoint.h"
 #include "FoundationClasses/Resource/Geometry/FcDirection.h"
-#include "FoundationClasses/Resource/Geometry/FcVector.h"
 #include "FoundationClasses/Resource/Utility/FcOwnerHistory.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcDoor.h"
+#include "FoundationClasses/Shared/SharedBldgElements/FcStairFlight.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "FoundationClasses/Tree/FcFileInfo.h"
 #include "kit/ModelBuilder.h"
@@ -21,7 +21,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <map>
 
 namespace {
 
@@ -229,13 +228,16 @@ TEST_F(BaseVisits, ReadAttributesByTheirKind)
 
 TEST_F(BaseVisits, GiveAnUnsetAttributeTheKindItWouldHave)
 {
-    using fc::resource::actor::FcActorRole;
     EXPECT_EQ(value(*door, "OverallWidth"), PropertyValue(std::optional<double>()));
     EXPECT_EQ(value(*door, "Description"), PropertyValue(std::optional<std::string>()));
     EXPECT_EQ(value(*door, "PredefinedType"), PropertyValue(std::optional<std::string>()));
     EXPECT_EQ(value(*door, "OwnerHistory"), PropertyValue(std::optional<std::string>()));
-    EXPECT_EQ(value(fc::resource::utility::FcOwnerHistory(), "LastModifiedDate").kind(),
-              PropertyValue::Kind::OptionalString);
+    EXPECT_EQ(value(fc::resource::geometry::FcBSplineSurfaceWithKnots(), "SelfIntersect").kind(),
+              PropertyValue::Kind::String);
+    EXPECT_EQ(value(fc::core::kernel::FcRelAssignsToGroup(), "RelatedObjectsType"),
+              PropertyValue(std::optional<bool>()));
+    EXPECT_EQ(value(fc::shared::sharedbldgelements::FcStairFlight(), "NumberOfRisers"),
+              PropertyValue(std::optional<int>()));
 }
 
 TEST_F(BaseVisits, ReportAnUnsetAttributeThatTheSchemaDoesNotHave)
