@@ -11,20 +11,41 @@
 #include "FoundationClasses/Core/ProductExtension/FcDistributionElement.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace qev::fc::core::kernel {
 
 namespace {
 
-void appendSets(FcRelDefinesByProperties const& relation, std::vector<std::shared_ptr<FcBase>>& sets)
+/// The places of the relations by which \p object has its sets, ascending. Good until a relation changes.
+std::vector<EntityIndex> const& setRelations(FcObjectDefinition const& object)
+{
+    static unsigned int const slot = slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects");
+    static std::vector<EntityIndex> const none;
+    Data const* const data = object.getData();
+    return data ? data->relating(object.getIndex(), FcRelDefinesByProperties::idFirst, FcRelDefinesByProperties::idLast,
+                                 slot)
+                : none;
+}
+
+std::shared_ptr<FcRelDefinesByProperties> relationAt(Data const& data, EntityIndex index)
+{
+    return entityCast<FcRelDefinesByProperties>(data.entity(index));
+}
+
+using SetVisitor = std::function<bool(std::shared_ptr<FcBase> const&)>;
+
+/// False when \p visit ended the work.
+bool visitSets(FcRelDefinesByProperties const& relation, SetVisitor const& visit)
 {
     auto const& definition = relation.RelatingPropertyDefinition.get();
-    if (auto set = definition.entity())
-        sets.push_back(std::move(set));
+    if (auto const set = definition.entity(); set && !visit(set))
+        return false;
     for (ReferenceBase const& reference : definition.references()) {
-        if (auto set = reference.entity())
-            sets.push_back(std::move(set));
+        if (auto const set = reference.entity(); set && !visit(set))
+            return false;
     }
+    return true;
 }
 
 /// Takes one object from a relation to several sets, so that it keeps all of them but \p set.
@@ -56,41 +77,44 @@ void leaveOutSet(FcRelDefinesByProperties& relation, std::shared_ptr<FcPropertyS
 std::vector<std::shared_ptr<FcBase>> FcObjectDefinition::attachedSets() const
 {
     std::vector<std::shared_ptr<FcBase>> sets;
-    if (isOfClass<FcTypeObject>(*this)) {
-        auto const& own = static_cast<FcTypeObject const&>(*this).HasPropertySets.get();
-        if (own)
-            sets.assign(own->get().begin(), own->get().end());
-        return sets;
-    }
-    for (auto const& relation : setRelations())
-        appendSets(*relation, sets);
+    forEachAttachedSet([&sets](std::shared_ptr<FcBase> const& set) {
+        sets.push_back(set);
+        return true;
+    });
     return sets;
 }
 
-std::vector<std::shared_ptr<FcRelDefinesByProperties>> FcObjectDefinition::setRelations() const
+void FcObjectDefinition::forEachAttachedSet(SetVisitor const& visit) const
 {
-    static unsigned int const slot = slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects");
-    std::vector<std::shared_ptr<FcRelDefinesByProperties>> relations;
-    if (!getData())
-        return relations;
-    for (EntityIndex const index : getData()->relating(getIndex(), FcRelDefinesByProperties::idFirst,
-                                                       FcRelDefinesByProperties::idLast, slot)) {
-        if (auto relation = entityCast<FcRelDefinesByProperties>(getData()->entity(index)))
-            relations.push_back(std::move(relation));
+    if (!isOfClass<FcTypeObject>(*this)) {
+        for (EntityIndex const index : setRelations(*this)) {
+            auto const relation = relationAt(*getData(), index);
+            if (relation && !visitSets(*relation, visit))
+                return;
+        }
+        return;
     }
-    return relations;
+    auto const& own = static_cast<FcTypeObject const&>(*this).HasPropertySets.get();
+    if (!own)
+        return;
+    for (auto const& set : own->get()) {
+        if (!visit(set))
+            return;
+    }
 }
 
 std::shared_ptr<FcBase> FcObjectDefinition::findSet(std::string_view name, unsigned int first, unsigned int last) const
 {
-    for (auto& set : attachedSets()) {
+    std::shared_ptr<FcBase> found;
+    forEachAttachedSet([&](std::shared_ptr<FcBase> const& set) {
         if (set->getIdFirst() < first || set->getIdFirst() > last)
-            continue;
+            return true;
         auto const& setName = static_cast<FcPropertySetDefinition const&>(*set).Name.get();
         if (setName && *setName == name)
-            return set;
-    }
-    return nullptr;
+            found = set;
+        return !found;
+    });
+    return found;
 }
 
 void FcObjectDefinition::attachNewSet(Data& data, std::shared_ptr<FcPropertySetDefinition> const& set,
@@ -141,12 +165,19 @@ bool FcObjectDefinition::deletePropertySetDefinition(std::string const& name)
 void FcObjectDefinition::detachFromRelations(std::shared_ptr<FcPropertySetDefinition> const& set)
 {
     auto const self = std::static_pointer_cast<FcObjectDefinition>(shared_from_this());
-    for (auto const& relation : setRelations()) {
-        std::vector<std::shared_ptr<FcBase>> sets;
-        appendSets(*relation, sets);
-        if (std::find(sets.begin(), sets.end(), set) == sets.end())
+    for (EntityIndex const index : setRelations(*this)) {
+        auto const relation = relationAt(*getData(), index);
+        std::size_t setCount = 0;
+        bool hasSet = false;
+        if (relation)
+            visitSets(*relation, [&](std::shared_ptr<FcBase> const& candidate) {
+                ++setCount;
+                hasSet = hasSet || candidate == set;
+                return true;
+            });
+        if (!hasSet)
             continue;
-        if (sets.size() > 1)
+        if (setCount > 1)
             leaveOutSet(*relation, set, self);
         else if (relation->RelatedObjects->get().size() > 1)
             relation->RelatedObjects.edit([&self](auto& objects) { objects.erase(self); });

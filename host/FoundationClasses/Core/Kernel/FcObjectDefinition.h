@@ -2,6 +2,7 @@
 
 #include "FoundationClasses/Core/Kernel/FcObjectDefinitionAttributes.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,14 +44,18 @@ public:
     [[nodiscard]] std::vector<std::shared_ptr<T const>> getPropertySetDefinitions() const
     {
         std::vector<std::shared_ptr<T const>> sets;
-        for (auto const& set : attachedSets()) {
+        forEachAttachedSet([&sets](std::shared_ptr<FcBase> const& set) {
             if (auto found = entityCast<T>(set))
                 sets.push_back(std::move(found));
-        }
+            return true;
+        });
         return sets;
     }
     /// All attached sets. A definition that cannot be read is left out.
     [[nodiscard]] std::vector<std::shared_ptr<FcBase>> attachedSets() const;
+    /// Calls \p visit with each of them, in the same order, until it returns false. \p visit must not attach
+    /// or detach sets.
+    void forEachAttachedSet(std::function<bool(std::shared_ptr<FcBase> const&)> const& visit) const;
 
     /// Detaches the set of this name from this object; the set and its relation go with their last
     /// object. False when there is no such set.
@@ -85,7 +90,6 @@ protected:
 private:
     [[nodiscard]] std::shared_ptr<FcBase> findSet(std::string_view name, unsigned int first, unsigned int last) const;
     void attachNewSet(Data& data, std::shared_ptr<FcPropertySetDefinition> const& set, std::string const& name);
-    [[nodiscard]] std::vector<std::shared_ptr<FcRelDefinesByProperties>> setRelations() const;
     void detachFromRelations(std::shared_ptr<FcPropertySetDefinition> const& set);
 };
 
