@@ -3,36 +3,20 @@
 #include "Format/Ifc/Schema/Xml/SetDef.h"
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
-#include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace qev::fc::ui {
 
 using core::kernel::FcObject;
 using core::kernel::FcObjectDefinition;
-using core::kernel::FcRelDefinesByProperties;
+using core::kernel::FcPropertySetDefinition;
 using core::kernel::FcTypeObject;
 
 namespace {
 
 constexpr std::string_view typeSuffix = "TYPE";
-
-void appendSet(std::vector<std::shared_ptr<FcBase>>& sets, std::shared_ptr<FcBase> set)
-{
-    if (set)
-        sets.push_back(std::move(set));
-}
-
-void appendSets(std::vector<std::shared_ptr<FcBase>>& sets, FcRelDefinesByProperties const& relation)
-{
-    auto const& definition = relation.RelatingPropertyDefinition.get();
-    appendSet(sets, definition.entity());
-    for (auto const& reference : definition.references())
-        appendSet(sets, reference.entity());
-}
 
 } // namespace
 
@@ -60,22 +44,11 @@ bool isForOtherPredefinedType(ifc::def::xml::SetDef const& set, std::string cons
     return isTied;
 }
 
-std::vector<std::shared_ptr<FcBase>> ownSets(FcObjectDefinition& object)
+std::vector<std::shared_ptr<FcPropertySetDefinition const>> ownSets(FcObjectDefinition const& object)
 {
-    std::vector<std::shared_ptr<FcBase>> sets;
-    if (isOfClass<FcObject>(object)) {
-        for (auto const& weakRelation : static_cast<FcObject&>(object).IsDefinedBy()) {
-            if (auto const relation = weakRelation.lock())
-                appendSets(sets, *relation);
-        }
-    } else if (isOfClass<FcTypeObject>(object)) {
-        auto const& list = static_cast<FcTypeObject&>(object).HasPropertySets.get();
-        if (list) {
-            for (auto const& set : list->get())
-                appendSet(sets, set);
-        }
-    }
-    return sets;
+    if (!isOfClass<FcObject>(object) && !isOfClass<FcTypeObject>(object))
+        return {};
+    return object.getPropertySetDefinitions<FcPropertySetDefinition>();
 }
 
 } // namespace qev::fc::ui

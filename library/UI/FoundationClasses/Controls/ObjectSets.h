@@ -4,12 +4,10 @@
 #include <string>
 #include <vector>
 
-namespace qev::fc {
-class FcBase;
-}
 namespace qev::fc::core::kernel {
 class FcObjectDefinition;
-}
+class FcPropertySetDefinition;
+} // namespace qev::fc::core::kernel
 namespace qev::ifc::def::xml {
 class SetDef;
 }
@@ -27,6 +25,7 @@ namespace qev::fc::ui {
 
 /// The sets that \p object itself has: an occurrence by its relations, a type by its list. Others have none.
 /// No entry is null.
-[[nodiscard]] std::vector<std::shared_ptr<FcBase>> ownSets(core::kernel::FcObjectDefinition& object);
+[[nodiscard]] std::vector<std::shared_ptr<core::kernel::FcPropertySetDefinition const>>
+ownSets(core::kernel::FcObjectDefinition const& object);
 
 } // namespace qev::fc::ui

@@ -1,13 +1,11 @@
 #include "UI/FoundationClasses/Controls/PropertySetControl.h"
 
 #include "Core/Assert/Assert.h"
-#include "Format/Ifc/Schema/SchemaPset.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
-#include "FoundationClasses/Core/Kernel/FcQuantitySet.h"
 #include "FoundationClasses/Data.h"
+#include "UI/FoundationClasses/Controls/CommonSets.h"
 #include "UI/FoundationClasses/Controls/Formatters/PropertyFormatterInterface.h"
-#include "UI/FoundationClasses/Controls/ObjectSets.h"
 #include "UI/FoundationClasses/Controls/PropertySetDefinitionFilterInterface.h"
 #include "UI/FoundationClasses/Set/PropertySetDefinition.h"
 #include "UI/FoundationClasses/Set/PropertyTypePropertySetAndPropertyNameQppOverrideInterface.h"
@@ -20,8 +18,6 @@ namespace qev::fc::ui {
 
 using core::kernel::FcObjectDefinition;
 using core::kernel::FcPropertySet;
-using core::kernel::FcPropertySetDefinition;
-using core::kernel::FcQuantitySet;
 
 namespace {
 
@@ -29,35 +25,6 @@ void reportFrom(std::string_view operation, std::string_view text)
 {
     assert::report(text, "qev::fc::ui::PropertySetControl::" + std::string(operation),
                    "UI/FoundationClasses/Controls/PropertySetControl");
-}
-
-PropertySetDefinitionType typeOfOwnSet(std::shared_ptr<FcBase> const& set)
-{
-    if (entityCast<FcPropertySet>(set))
-        return PropertySetDefinitionType::PropertySet;
-    if (entityCast<FcQuantitySet>(set))
-        return PropertySetDefinitionType::QuantitySet;
-    reportFrom("getXmlSets::<lambda_2>::operator ()", "Unknown property set definition type.");
-    return PropertySetDefinitionType::Unknown;
-}
-
-/// Adds the sets that \p object itself has; a set of the same name that is there already goes first.
-void addOwnSets(FcObjectDefinition& object, std::map<std::string, PropertySetDefinitionInfo>& infos)
-{
-    for (auto const& set : ownSets(object)) {
-        auto const definition = entityCast<FcPropertySetDefinition>(set);
-        auto const name = definition ? definition->Name.get() : std::nullopt;
-        if (name && !infos.contains(*name))
-            infos.emplace(*name, PropertySetDefinitionInfo(*name, typeOfOwnSet(set)));
-    }
-}
-
-bool holds(std::map<std::string, PropertySetDefinitionInfo> const& infos,
-           std::pair<std::string const, PropertySetDefinitionInfo> const& sought)
-{
-    return std::any_of(infos.begin(), infos.end(), [&sought](auto const& candidate) {
-        return candidate.first == sought.first && candidate.second.name == sought.second.name;
-    });
 }
 
 } // namespace
@@ -156,7 +123,7 @@ void PropertySetControl::initSets()
         m_definitions.clear();
         return;
     }
-    for (auto const& [name, info] : getCommonXmlSets()) {
+    for (auto const& [name, info] : CommonSets(m_schemaPset).of(m_objects)) {
         m_definitions.push_back(PropertySetDefinition::create(
             info, [this]() -> decltype(auto) { return getObjectsBeingEdited(); }, m_formatter, m_filter,
             m_contexts, m_qppOverride));
@@ -173,43 +140,6 @@ void PropertySetControl::tellObject(std::shared_ptr<FcBase> const& object)
         m_filter->setObject(object);
     if (m_formatter)
         m_formatter->setObject(m_data, object);
-}
-
-PropertySetControl::SetInfos PropertySetControl::getCommonXmlSets() const
-{
-    std::optional<SetInfos> common;
-    for (auto const& entity : m_objects) {
-        auto const object = entityCast<FcObjectDefinition>(entity);
-        if (!object)
-            continue;
-        auto infos = getXmlSets(*object);
-        if (infos.empty())
-            return {};
-        if (common)
-            std::erase_if(*common, [&infos](auto const& entry) { return !holds(infos, entry); });
-        else
-            common = std::move(infos);
-    }
-    return common.value_or(SetInfos());
-}
-
-PropertySetControl::SetInfos PropertySetControl::getXmlSets(FcObjectDefinition& object) const
-{
-    auto const className = setClassName(object);
-    auto const* const entity = m_schemaPset ? m_schemaPset->schema().findEntity(className) : nullptr;
-    if (!entity) {
-        reportFrom("getXmlSets", "Schema entity doesn't exist.");
-        return {};
-    }
-    SetInfos infos;
-    char const* const predefinedType = object.getPredefinedTypeText();
-    for (auto const* const set : m_schemaPset->getXmlSetsAllToEntity(*entity, true, {})) {
-        if (predefinedType && isForOtherPredefinedType(*set, className, predefinedType))
-            continue;
-        infos.emplace(set->name, PropertySetDefinitionInfo(*set));
-    }
-    addOwnSets(object, infos);
-    return infos;
 }
 
 bool PropertySetControl::notifyFormatter(std::string const& setName, std::string const& propertyName,

@@ -5,7 +5,6 @@
 #include "UI/FoundationClasses/Set/PropertySetDefinitionInfo.h"
 
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -17,9 +16,6 @@ namespace qev::fc {
 class Data;
 class FcBase;
 } // namespace qev::fc
-namespace qev::fc::core::kernel {
-class FcObjectDefinition;
-}
 namespace qev::ifc::def {
 class SchemaPset;
 }
@@ -118,9 +114,6 @@ protected:
     [[nodiscard]] std::vector<std::string> const& getContexts() const { return m_contexts; }
 
 private:
-    /// The sets of one object or of several, by name.
-    using SetInfos = std::map<std::string, PropertySetDefinitionInfo>;
-
     virtual void refreshDisplay() = 0;
     /// The window of the flavour; null before it is made.
     [[nodiscard]] virtual std::shared_ptr<qev::ui::Window> getWindow() = 0;
@@ -128,8 +121,6 @@ private:
     [[nodiscard]] virtual std::vector<std::shared_ptr<FcBase>> const& getObjectsBeingEdited();
 
     void tellObject(std::shared_ptr<FcBase> const& object);
-    [[nodiscard]] SetInfos getCommonXmlSets() const;
-    [[nodiscard]] SetInfos getXmlSets(core::kernel::FcObjectDefinition& object) const;
     bool notifyFormatter(std::string const& setName, std::string const& propertyName,
                          std::set<std::size_t> const& objectIndices);
 

@@ -9,6 +9,7 @@
 #include "FoundationClasses/Resource/Measure/FcValue.h"
 #include "FoundationClasses/Resource/Property/FcProperty.h"
 #include "UI/FoundationClasses/LocalizedText.h"
+#include "UI/FoundationClasses/Set/EmptiedSet.h"
 #include "UI/FoundationClasses/Set/PropertySet.h"
 
 namespace qev::fc::ui {
@@ -25,13 +26,7 @@ std::string aliasOr(ifc::def::pset::PropertyDef const& definition, std::string c
     return alias.empty() ? key : alias;
 }
 
-void deleteEmptySet(FcObjectDefinition& object, FcPropertySet const& set)
-{
-    if (!set.HasProperties.getProperties().empty())
-        return;
-    if (auto const name = set.Name.get())
-        object.deletePropertySetDefinition(*name);
-}
+bool isEmpty(FcPropertySet const& set) { return set.HasProperties.getProperties().empty(); }
 
 } // namespace
 
@@ -59,7 +54,7 @@ bool FcPropertyBase::updateValue(Data& data, PropertyOrQuantityValue const& valu
         if (!object)
             continue;
         if (value.isClearing())
-            removeFrom(*object);
+            removeFrom(*object, data);
         else if (!storeIn(*object, data, value))
             return false;
     }
@@ -117,11 +112,11 @@ void FcPropertyBase::reportUncreatedProperty()
 
 resource::measure::FcValue const& FcPropertyBase::getFcValue() const { return getEmptyFcValue(); }
 
-void FcPropertyBase::removeFrom(FcObjectDefinition& object)
+void FcPropertyBase::removeFrom(FcObjectDefinition& object, Data& data)
 {
     auto const set = object.getPropertySetDefinitionNonConst<FcPropertySet>(getPropertySetName());
-    if (set && set->HasProperties.removeProperty(getName()))
-        deleteEmptySet(object, *set);
+    if (set && set->HasProperties.removeProperty(getName()) && isEmpty(*set))
+        deleteEmptiedSet(object, *set, data);
 }
 
 bool FcPropertyBase::storeIn(FcObjectDefinition& object, Data& data, PropertyOrQuantityValue const& value)
@@ -129,7 +124,8 @@ bool FcPropertyBase::storeIn(FcObjectDefinition& object, Data& data, PropertyOrQ
     auto const set = object.getOrCreatePropertySetDefinition<FcPropertySet>(data, getPropertySetName());
     if (!set || setNewValue(value, *set, object))
         return true;
-    deleteEmptySet(object, *set);
+    if (isEmpty(*set))
+        deleteEmptiedSet(object, *set, data);
     return false;
 }
 

@@ -67,7 +67,7 @@ private:
     /// The value on which all objects agree; the empty one when they do not.
     [[nodiscard]] virtual resource::measure::FcValue const& getFcValue() const;
 
-    void removeFrom(core::kernel::FcObjectDefinition& object);
+    void removeFrom(core::kernel::FcObjectDefinition& object, Data& data);
     bool storeIn(core::kernel::FcObjectDefinition& object, Data& data, PropertyOrQuantityValue const& value);
 
     ifc::def::pset::PropertyDef& m_definition;

@@ -5,22 +5,13 @@
 #include "FoundationClasses/Core/ProductExtension/FcElementQuantity.h"
 #include "FoundationClasses/Data.h"
 #include "FoundationClasses/Resource/Quantity/FcPhysicalQuantity.h"
+#include "UI/FoundationClasses/Set/EmptiedSet.h"
 #include "UI/FoundationClasses/Set/QuantitySet.h"
 
 namespace qev::fc::ui {
 
 using core::kernel::FcObjectDefinition;
 using core::productextension::FcElementQuantity;
-
-namespace {
-
-void deleteNamedSet(FcObjectDefinition& object, FcElementQuantity const& set)
-{
-    if (auto const name = set.Name.get())
-        object.deletePropertySetDefinition(*name);
-}
-
-} // namespace
 
 FcQuantityBase::FcQuantityBase(ifc::def::qto::QuantityDef const& definition, QuantitySet& set)
     : m_definition(definition)
@@ -45,7 +36,7 @@ bool FcQuantityBase::updateValue(Data& data, PropertyOrQuantityValue const& valu
             continue;
         auto const text = value.getStringValue();
         if (text.empty())
-            removeFrom(*object);
+            removeFrom(*object, data);
         else if (!storeIn(*object, data, text))
             return false;
     }
@@ -66,11 +57,11 @@ void FcQuantityBase::onPropertyCustomButtonClicked() { m_set.onPropertyCustomBut
 
 std::vector<std::shared_ptr<FcBase>> const& FcQuantityBase::getObjects() const { return m_set.getObjects(); }
 
-void FcQuantityBase::removeFrom(FcObjectDefinition& object)
+void FcQuantityBase::removeFrom(FcObjectDefinition& object, Data& data)
 {
     auto const set = object.getPropertySetDefinitionNonConst<FcElementQuantity>(getPropertySetName());
     if (set && set->removeQuantity(getName()))
-        deleteNamedSet(object, *set);
+        deleteEmptiedSet(object, *set, data);
 }
 
 bool FcQuantityBase::storeIn(FcObjectDefinition& object, Data& data, std::string const& text)
@@ -79,7 +70,7 @@ bool FcQuantityBase::storeIn(FcObjectDefinition& object, Data& data, std::string
     if (!set || setNewValue(text, *set))
         return true;
     if (set->Quantities.get().get().empty())
-        deleteNamedSet(object, *set);
+        deleteEmptiedSet(object, *set, data);
     return false;
 }
 

@@ -53,7 +53,7 @@ protected:
     [[nodiscard]] std::vector<std::shared_ptr<FcBase>> const& getObjects() const;
 
 private:
-    void removeFrom(core::kernel::FcObjectDefinition& object);
+    void removeFrom(core::kernel::FcObjectDefinition& object, Data& data);
     bool storeIn(core::kernel::FcObjectDefinition& object, Data& data, std::string const& text);
 
     ifc::def::qto::QuantityDef const& m_definition;

@@ -56,6 +56,9 @@ std::unique_ptr<PropertySetDef> PropertySet::definitionFromObjects() const
 {
     std::unique_ptr<PropertySetDef> first;
     for (auto const& entity : getObjects()) {
+        // Further sets change nothing; there is only something to report of them.
+        if (first && !assert::Assert::isEnabled())
+            break;
         auto const object = entityCast<FcObjectDefinition>(entity);
         auto const set =
             object ? object->getPropertySetDefinitionNonConst<FcPropertySet>(getName()) : nullptr;
@@ -103,7 +106,8 @@ void PropertySet::populatePropertiesByQueryingFormatterAndFilter(PropertySetDef 
     }
     for (auto* const property : included) {
         if (auto const relation = related.find(property->name); relation != related.end())
-            appendProperty(createToggleProperty(definitionsByName[relation->second], property));
+            appendProperty(createToggleProperty(definitionsByName[relation->second],
+                                                definitionsByName[relation->first]));
         else if (!relatedValues.contains(property->name))
             appendProperty(FcPropertyValueFactory::create(*property, *this, getContexts()));
     }

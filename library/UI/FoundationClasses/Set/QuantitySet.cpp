@@ -37,6 +37,9 @@ std::unique_ptr<QuantitySetDef> QuantitySet::definitionFromObjects() const
 {
     std::unique_ptr<QuantitySetDef> first;
     for (auto const& entity : getObjects()) {
+        // Further sets change nothing; there is only something to report of them.
+        if (first && !assert::Assert::isEnabled())
+            break;
         auto const object = entityCast<FcObjectDefinition>(entity);
         auto const set =
             object ? object->getPropertySetDefinitionNonConst<FcElementQuantity>(getName()) : nullptr;
