@@ -1,11 +1,14 @@
 #include "UI/FoundationClasses/Property/FcPropertyBase.h"
 
+#include "Core/Localization/LocalizationAdmin.h"
 #include "FoundationClasses/AllEntities.h"
 #include "kit/ModelBuilder.h"
 #include "kit/ReportRecorder.h"
 #include "library/kit/LogFormatter.h"
 #include "library/kit/SetBuilder.h"
 #include "library/kit/ShownSet.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertySingleValue.h"
+#include "UI/FoundationClasses/Set/PropertySet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -86,6 +89,39 @@ TEST_F(FcPropertyBaseTest, ARefusedFirstValueLeavesNoSetBehind)
     EXPECT_THAT(wall->attachedSets(), IsEmpty());
 }
 
+TEST_F(FcPropertyBaseTest, ARefusedFirstValueTakesAnEmptySetAlong)
+{
+    model.addSet(wall, "Pset");
+    auto const shown = show({wall});
+
+    EXPECT_FALSE(shown["Count"].updateValue(*model.data(), text("many")));
+
+    EXPECT_THAT(wall->attachedSets(), IsEmpty());
+}
+
+TEST_F(FcPropertyBaseTest, ANumberNeverClears)
+{
+    model.addSet(wall, "Pset", {{"Count", integer(7)}});
+    auto const shown = show({wall});
+
+    EXPECT_TRUE(shown["Count"].updateValue(*model.data(), PropertyOrQuantityValue::fromNumber(0.0)));
+
+    EXPECT_EQ(shown["Count"].getValue(), "0.000000");
+}
+
+TEST_F(FcPropertyBaseTest, AnEditWithoutTextAndNumberIsReportedAndCountsAsAnEmptyTextThatIsStored)
+{
+    model.addSet(wall, "Pset", {{"Code", label("A")}});
+    auto const shown = show({wall});
+
+    EXPECT_TRUE(shown["Code"].updateValue(*model.data(), PropertyOrQuantityValue()));
+
+    expectReport("Not a string value.", "qev::fc::ui::PropertyOrQuantityValue::getStringValue",
+                 "Ui/FoundationClasses/PropertyOrQuantityValue");
+    EXPECT_THAT(wall->attachedSets(), SizeIs(1));
+    EXPECT_EQ(shown["Code"].getValue(), "");
+}
+
 TEST_F(FcPropertyBaseTest, ARefusedValueLeavesTheOtherPropertiesAlone)
 {
     model.addSet(wall, "Pset", {{"Code", label("A")}});
@@ -158,6 +194,58 @@ TEST_F(FcPropertyBaseTest, WithoutATextTheLabelIsTheAliasAndWithoutAnAliasTheKey
     EXPECT_EQ(shown["Code"].getLocalizedDescription(), "Code of the wall");
     EXPECT_EQ(shown["Count"].getLocalizedName(), key);
     EXPECT_EQ(shown["Count"].getLocalizedDescription(), key + "_Description");
+}
+
+TEST_F(FcPropertyBaseTest, TheTextsOfTheFirstContextThatHasThemGoBeforeTheAlias)
+{
+    auto& admin = qev::resource::localization::getAdminInstance();
+    auto definition = SetBuilder("Pset").single("Code", "IfcLabel").take();
+    auto const key = definition->propertyDefs[0]->getConcept();
+    definition->propertyDefs[0]->nameAliases.set(qev::locale::Locale::get(1), "Code of the wall");
+    qev::localization::Dictionary first;
+    first.set(key + "_Description", "What it is made of");
+    qev::localization::Dictionary second;
+    second.set(key, "Wall code");
+    second.set(key + "_Description", "Not come to");
+    admin.add("FcPropertyBaseTest1", admin.language(), first);
+    admin.add("FcPropertyBaseTest2", admin.language(), second);
+    ShownSet::Options options;
+    options.contexts = {"NoSuchContext", "FcPropertyBaseTest1", "FcPropertyBaseTest2"};
+    ShownSet const shown(std::move(definition), {wall}, options);
+
+    EXPECT_EQ(shown["Code"].getLocalizedName(), "Wall code");
+    EXPECT_EQ(shown["Code"].getLocalizedDescription(), "What it is made of");
+}
+
+/// A kind of property that changes nothing of the common ground.
+class PlainProperty : public FcPropertyBase
+{
+public:
+    using FcPropertyBase::FcPropertyBase;
+    [[nodiscard]] static resource::measure::FcValue const& emptyValue() { return getEmptyFcValue(); }
+};
+
+TEST_F(FcPropertyBaseTest, BySelfNothingIsShownEditedOrStored)
+{
+    auto const definition = SetBuilder("Pset").single("Code", "IfcLabel").take();
+    auto shown = show({wall});
+    std::vector<std::string> const contexts;
+    PlainProperty plain(*definition->propertyDefs[0], dynamic_cast<PropertySet&>(shown.set()), contexts);
+
+    EXPECT_FALSE(plain.isAllowedToEdit());
+    EXPECT_FALSE(plain.isValidValue());
+    EXPECT_EQ(plain.getValue(), "");
+    EXPECT_TRUE(plain.updateValue(*model.data(), text("A")));
+    auto const set = wall->getPropertySetDefinitionNonConst<core::kernel::FcPropertySet>("Pset");
+    ASSERT_NE(set, nullptr);
+    EXPECT_THAT(set->HasProperties.getProperties(), IsEmpty());
+}
+
+TEST_F(FcPropertyBaseTest, ThereIsOneEmptyValue)
+{
+    EXPECT_TRUE(PlainProperty::emptyValue().isEmpty());
+    EXPECT_EQ(&PlainProperty::emptyValue(), &PlainProperty::emptyValue());
+    EXPECT_EQ(&show({}).as<FcPropertySingleValue>("Code").getFcValue(), &PlainProperty::emptyValue());
 }
 
 TEST_F(FcPropertyBaseTest, TheButtonOfARowReachesTheFormatter)

@@ -1,5 +1,7 @@
 #include "UI/FoundationClasses/Property/FcValueBase.h"
 
+#include "Core/Localization/LocalizationAdmin.h"
+#include "Core/Unit/Quantity.h"
 #include "Core/Unit/QuantityPresentation.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "FoundationClasses/AllEntities.h"
@@ -7,6 +9,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace {
 
@@ -84,6 +88,55 @@ TEST_F(FcValueBaseTest, ItemsAreThoseOfAnEnumeration)
     EXPECT_EQ(attribute(*door, "Name").enumValues(), std::nullopt);
 }
 
+TEST_F(FcValueBaseTest, TextsOfTheFirstContextThatHasThemGoBeforeNames)
+{
+    auto& admin = qev::resource::localization::getAdminInstance();
+    qev::localization::Dictionary dictionary;
+    dictionary.set("Tag", "Mark");
+    dictionary.set("Tag_Description", "What is written on it");
+    admin.add("FcValueBaseTest", admin.language(), dictionary);
+    auto const door = model.door("D1");
+    FcValueBase const tag(attribute(*door, "Tag").getActiveValueDefinition(), *door,
+                          {"NoSuchContext", "FcValueBaseTest"});
+
+    EXPECT_EQ(tag.getLocalizedName(), "Mark");
+    EXPECT_EQ(tag.getLocalizedDescription(), "What is written on it");
+    EXPECT_EQ(tag.getName(), "Tag");
+}
+
+/// A door that cannot give its attributes.
+class UnreadableDoor : public shared::sharedbldgelements::FcDoor
+{
+public:
+    [[nodiscard]] std::optional<std::string>
+    getAttributeAsString(std::string const& /*attribute*/) const override
+    {
+        return "1e999";
+    }
+    [[nodiscard]] std::optional<double> getAttributeAsSiUnit(Data const& /*data*/,
+                                                             std::string const& /*attribute*/) const override
+    {
+        throw std::out_of_range("unreadable");
+    }
+};
+
+TEST_F(FcValueBaseTest, ANumberThatCannotBeReadIsNone)
+{
+    auto const door = model.add<UnreadableDoor>("D1");
+    auto const height = attribute(*door, "OverallHeight");
+
+    EXPECT_EQ(height.getValue(), "1e999");
+    EXPECT_EQ(height.valueAsDoubleGet(), std::nullopt);
+    EXPECT_EQ(height.getAsSiUnit(*model.data()), std::nullopt);
+}
+
+TEST_F(FcValueBaseTest, TheNumberIsTheOneAtTheStartOfTheText)
+{
+    auto const door = model.door("12.5 bis");
+
+    EXPECT_EQ(attribute(*door, "Name").valueAsDoubleGet(), 12.5);
+}
+
 TEST_F(FcValueBaseTest, LengthsHaveAPresentationAndLabelsHaveNone)
 {
     auto const door = model.door("D1");
@@ -122,8 +175,32 @@ TEST_F(FcValueBaseTest, PresentationsGoByTheNameWithItsPrefixAndPlainRatiosHaveN
           "IfcPositiveRatioMeasure", "IfcTimeMeasure", "IfcThermalTransmittanceMeasure",
           "IfcPlaneAngleMeasure"})
         EXPECT_TRUE(has(type)) << type;
-    for (auto const* const type : {"IfcRatioMeasure", "LengthMeasure", "IfcMassMeasure", "If", ""})
+    for (auto const* const type : {"IfcRatioMeasure", "LengthMeasure", "IfcMassMeasure", "IfcLabel", "Ifc",
+                                   "If", "", "ifcLengthMeasure", "IfcIfcLengthMeasure", "IfcLengthMeasureX"})
         EXPECT_FALSE(has(type)) << type;
+}
+
+TEST_F(FcValueBaseTest, PresentationsAreInTheSiUnitOfTheMeasure)
+{
+    auto const door = model.door("D1");
+    auto const any = attribute(*door, "Name");
+    auto const unitOf = [&](std::string const& type) {
+        return &RetypedValue(any, *door, type).quantityPresentation()->unit();
+    };
+
+    EXPECT_EQ(unitOf("IfcAreaMeasure"), &qev::unit::AreaUnit::get());
+    EXPECT_EQ(unitOf("IfcVolumetricFlowRateMeasure"), &qev::unit::VolumeFlowUnit::get());
+    EXPECT_EQ(unitOf("IfcCountMeasure"), &qev::unit::CountUnit::get());
+    EXPECT_EQ(unitOf("IfcThermodynamicTemperatureMeasure"), &qev::unit::TemperatureUnit::get());
+    EXPECT_EQ(unitOf("IfcPowerMeasure"), &qev::unit::PowerUnit::get());
+    EXPECT_EQ(unitOf("IfcLengthMeasure"), &qev::unit::LengthUnit::get());
+    EXPECT_EQ(unitOf("IfcPositiveLengthMeasure"), &qev::unit::LengthUnit::get());
+    EXPECT_EQ(unitOf("IfcNonNegativeLengthMeasure"), &qev::unit::LengthUnit::get());
+    EXPECT_EQ(unitOf("IfcVolumeMeasure"), &qev::unit::VolumeUnit::get());
+    EXPECT_EQ(unitOf("IfcPositiveRatioMeasure"), &qev::unit::RatioUnit::get());
+    EXPECT_EQ(unitOf("IfcTimeMeasure"), &qev::unit::TimeUnit::get());
+    EXPECT_EQ(unitOf("IfcThermalTransmittanceMeasure"), &qev::unit::ThermalTransmittanceUnit::get());
+    EXPECT_EQ(unitOf("IfcPlaneAngleMeasure"), &qev::unit::PlaneAngleUnit::get());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "UI/FoundationClasses/Set/IfcXmlPropertySetDefFromFcPropertySet.h"
 #include "UI/FoundationClasses/Set/IfcXmlQuantitySetDefFromFcElementQuantity.h"
 
+#include "Format/Ifc/Schema/Pset/TypePropertyEnumeratedValue.h"
 #include "Format/Ifc/Schema/Pset/TypePropertyReferenceValue.h"
 
 #include <gmock/gmock.h>
@@ -103,6 +104,33 @@ TEST_F(DefinitionsFromModel, APropertyOfAnotherClassIsReportedAndLeftOut)
     expectReport("Unknown property.", "qev::fc::ui::IfcXmlPropertySetDefFromFcPropertySet::get",
                  propertiesPath);
     EXPECT_THAT(entriesOf(*definition), ElementsAre("A IfcPropertySingleValue IfcLabel"));
+}
+
+TEST_F(DefinitionsFromModel, ANullPropertyIsReportedAndLeftOut)
+{
+    auto const set = setOf({singleValue("A", label("A"))});
+    // A set of this model never holds null. Another host's may.
+    auto& properties = const_cast<std::vector<std::shared_ptr<resource::property::FcProperty>>&>(
+        set->HasProperties.getProperties());
+    properties.insert(properties.begin(), nullptr);
+
+    auto const definition = FromProperties::get(set.get());
+
+    expectReport("Property not set.", "qev::fc::ui::IfcXmlPropertySetDefFromFcPropertySet::get",
+                 propertiesPath);
+    EXPECT_THAT(entriesOf(*definition), ElementsAre("A IfcPropertySingleValue IfcLabel"));
+}
+
+TEST_F(DefinitionsFromModel, AnEnumerationHasNoValues)
+{
+    using Enumerated = qev::ifc::def::pset::TypePropertyEnumeratedValue;
+    auto const set = setOf({enumeratedValue("E", {label("A")}, {label("A"), label("B")})});
+
+    auto const definition = FromProperties::get(set.get());
+
+    auto const* const type = dynamic_cast<Enumerated const*>(definition->propertyDefs[0]->propertyType.get());
+    ASSERT_NE(type, nullptr);
+    EXPECT_THAT(type->values, IsEmpty());
 }
 
 TEST_F(DefinitionsFromModel, NoPropertySetIsReported)

@@ -1,6 +1,7 @@
 #include "UI/FoundationClasses/Set/PropertySetDefinition.h"
 
 #include "Core/Localization/LocalizationAdmin.h"
+#include "Core/Unit/Quantity.h"
 #include "Core/Unit/QuantityPresentation.h"
 #include "FoundationClasses/AllEntities.h"
 #include "kit/ModelBuilder.h"
@@ -131,6 +132,30 @@ TEST_F(SetDefinitions, QuantitiesOfASetWithoutDefinitionAreThoseOfTheFirstObject
     EXPECT_THAT(shown.names(), ElementsAre("A"));
 }
 
+TEST_F(SetDefinitions, TheFirstObjectIsTheFirstThatHasTheSet)
+{
+    model.addSet(other, "Own", {{"B", label("2")}});
+    model.addQuantities(other, "OwnQuantities", {{"C", 1.0}});
+    Entities const objects{std::shared_ptr<FcBase>(singleValue("A", label("1"))), nullptr, wall, other};
+
+    EXPECT_THAT(ShownSet("Own", Type::PropertySet, objects).names(), ElementsAre("B"));
+    EXPECT_THAT(ShownSet("OwnQuantities", Type::QuantitySet, objects).names(), ElementsAre("C"));
+}
+
+TEST_F(SetDefinitions, EachFurtherObjectWithTheSetIsReported)
+{
+    auto const set = model.addSet(wall, "Own", {{"A", label("1")}});
+    model.joinSet(set, other);
+    auto const third = model.wall("W3");
+    model.shareSet(set, third);
+
+    ShownSet const shown("Own", Type::PropertySet, {wall, other, third});
+
+    EXPECT_THAT(takeReportTexts(), ElementsAre("Not implemented: Need to merge with existing values.",
+                                               "Not implemented: Need to merge with existing values."));
+    EXPECT_THAT(shown.names(), ElementsAre("A"));
+}
+
 TEST_F(SetDefinitions, WithoutDefinitionAndSetThereAreNoRows)
 {
     EXPECT_THAT(ShownSet("Own", Type::PropertySet, {wall}).names(), IsEmpty());
@@ -198,6 +223,158 @@ TEST_F(SetDefinitions, AToggleWhoseValueIsLeftOutHasNoRowEither)
                  "qev::fc::ui::PropertySet::populatePropertiesByQueryingFormatterAndFilter",
                  "UI/FoundationClasses/Set/PropertySet");
     EXPECT_THAT(shown.names(), ElementsAre("Code", "WantsHeight"));
+}
+
+TEST_F(SetDefinitions, AValueThatTheDefinitionDoesNotHaveLeavesItsToggleWithoutARow)
+{
+    formatter->related["HasHeight"] = "Width";
+    ShownSet shown(toggles(), {wall}, withFormatter());
+
+    EXPECT_THAT(
+        takeReportTexts(),
+        ElementsAre("Definition for property that uses another property for toggling on/off not found."));
+    EXPECT_THAT(shown.names(), ElementsAre("Height", "Code", "WantsHeight"));
+    EXPECT_THAT(shown.set().getTogglesToValues(), ElementsAre(Pair("HasHeight", "Width")));
+}
+
+TEST_F(SetDefinitions, AToggleMayBeTheValueOfAnotherToggle)
+{
+    formatter->related = {{"HasHeight", "Height"}, {"WantsHeight", "HasHeight"}};
+    ShownSet const shown(toggles(), {wall}, withFormatter());
+
+    EXPECT_THAT(shown.names(), ElementsAre("Code", "Height", "HasHeight"));
+}
+
+TEST_F(SetDefinitions, AToggleThatTheFilterLeavesOutIsNotAskedForAValue)
+{
+    formatter->related["HasHeight"] = "Height";
+    filter->excludedProperties = {"HasHeight"};
+    ShownSet shown(toggles(), {wall}, withFormatter());
+
+    EXPECT_THAT(shown.names(), ElementsAre("Height", "Code", "WantsHeight"));
+    EXPECT_THAT(shown.set().getTogglesToValues(), IsEmpty());
+}
+
+TEST_F(SetDefinitions, KindsThatCannotHaveAToggleHaveNoRow)
+{
+    formatter->related["HasStatus"] = "Status";
+    ShownSet const shown(
+        SetBuilder("Pset").enumerated("Status", {"NEW"}).single("HasStatus", "IfcBoolean").take(), {wall},
+        withFormatter());
+
+    EXPECT_THAT(takeReportTexts(),
+                ElementsAre("Only single value properties support being accompanied by a boolean toggle "
+                            "property."));
+    EXPECT_THAT(shown.names(), IsEmpty());
+}
+
+/// Keeps by which names it is asked.
+class NameLog : public LogFormatter
+{
+public:
+    mutable std::vector<std::string> asked;
+    [[nodiscard]] std::optional<std::string> getRelatedValueProperty(std::string const& setName,
+                                                                     std::string const& name) const override
+    {
+        asked.push_back(setName + " " + name);
+        return std::nullopt;
+    }
+};
+
+TEST_F(SetDefinitions, TheFormatterIsAskedByTheNameOfTheSetAndTheFilterByThatOfTheDefinition)
+{
+    auto const definition = SetBuilder("Definition").single("Code", "IfcLabel").take();
+    PropertySetDefinitionInfo info(*definition);
+    info.name = "Set";
+    auto const names = std::make_shared<NameLog>();
+
+    auto const set = PropertySetDefinition::create(info, {}, names, filter, {}, nullptr);
+
+    EXPECT_THAT(names->asked, ElementsAre("Set Code"));
+    EXPECT_THAT(filter->askedSets, ElementsAre("Definition"));
+    EXPECT_EQ(set->getName(), "Set");
+    EXPECT_EQ(set->getProperties().front()->getPropertySetName(), "Set");
+    EXPECT_EQ(set->getLocalizedName({}), "Set");
+}
+
+/// Gives a property another name when it is asked for its value.
+class RenamingFormatter : public LogFormatter
+{
+public:
+    qev::ifc::def::pset::PropertyDef* property = nullptr;
+    [[nodiscard]] std::optional<std::string> getRelatedValueProperty(std::string const& /*setName*/,
+                                                                     std::string const& name) const override
+    {
+        if (name != property->name)
+            return std::nullopt;
+        property->name = "Renamed";
+        return "Height";
+    }
+};
+
+TEST_F(SetDefinitions, AToggleThatIsNotFoundByItsNameIsReported)
+{
+    auto definition = toggles();
+    auto const renaming = std::make_shared<RenamingFormatter>();
+    renaming->property = definition->propertyDefs[2].get();
+    auto options = withFormatter();
+    options.formatter = renaming;
+
+    ShownSet const shown(std::move(definition), {wall}, options);
+
+    expectReport("Toggle property definition not found.",
+                 "qev::fc::ui::PropertySet::populatePropertiesByQueryingFormatterAndFilter",
+                 "UI/FoundationClasses/Set/PropertySet");
+    EXPECT_THAT(shown.names(), ElementsAre("Code", "WantsHeight"));
+}
+
+TEST_F(SetDefinitions, OfTwoPropertiesOfOneNameTheFirstIsTheValue)
+{
+    formatter->related["HasHeight"] = "Height";
+    ShownSet const shown(SetBuilder("Pset")
+                             .single("Height", "IfcLengthMeasure")
+                             .single("Height", "IfcLabel")
+                             .single("HasHeight", "IfcBoolean")
+                             .take(),
+                         {wall}, withFormatter());
+
+    ASSERT_THAT(shown.names(), ElementsAre("Height"));
+    EXPECT_NE(shown.as<FcPropertySingleValue>("Height").quantityPresentation(), nullptr);
+}
+
+// --- Quantities ---------------------------------------------------------------------------------
+
+TEST_F(SetDefinitions, NeitherFilterNorFormatterDecidesOnQuantities)
+{
+    filter->excludedSets = {"Qto"};
+    filter->excludedProperties = {"Area"};
+    formatter->related["Area"] = "Length";
+    ShownSet shown(everyQuantity("Qto"), {wall}, withFormatter());
+
+    EXPECT_THAT(shown.names(), ElementsAre("Area", "Count", "Length", "Time", "Volume", "Weight"));
+    EXPECT_THAT(shown.set().getTogglesToValues(), IsEmpty());
+}
+
+/// Has a presentation for everything.
+class GeneralOverride : public PropertyTypePropertySetAndPropertyNameQppOverrideInterface
+{
+public:
+    std::unique_ptr<qev::unit::QuantityPresentationBase>
+    createQuantityPresentation(std::string /*type*/, std::string /*set*/, std::string /*name*/) override
+    {
+        return qev::unit::makeQuantityPresentation<qev::unit::AreaUnit>();
+    }
+};
+
+TEST_F(SetDefinitions, AQuantitySetHasNoOverride)
+{
+    ShownSet::Options options;
+    options.qppOverride = std::make_shared<GeneralOverride>();
+    ShownSet quantities(everyQuantity("Qto"), {wall}, options);
+    ShownSet properties(SetBuilder("Pset").take(), {wall}, options);
+
+    EXPECT_EQ(quantities.set().quantityPresentationOverride("AreaMeasure", "Qto", "Area"), nullptr);
+    EXPECT_NE(properties.set().quantityPresentationOverride("AreaMeasure", "Pset", "Area"), nullptr);
 }
 
 // --- Texts --------------------------------------------------------------------------------------

@@ -129,6 +129,36 @@ TEST_F(FcPropertyValueFactoryTest, AnEnumeratedValueCannotHaveAToggle)
                  "qev::fc::ui::FcPropertyValueFactory::createWithToggleProperty", path);
 }
 
+TEST_F(FcPropertyValueFactoryTest, AReportOfAToggleIsOfABrokenRule)
+{
+    EXPECT_EQ(createToggle(SetBuilder("S").enumerated("P", {"A"}).single("T", "IfcBoolean")), nullptr);
+    EXPECT_EQ(createToggle(SetBuilder("S").single("P", "IfcLabel").single("T", "IfcLabel")), nullptr);
+
+    auto const reports = takeReports();
+    ASSERT_EQ(reports.size(), 2u);
+    EXPECT_EQ(reports[0].kind, 0u);
+    EXPECT_EQ(reports[1].kind, 0u);
+}
+
+class StrangeType : public qev::ifc::def::pset::PropertyType
+{
+public:
+    [[nodiscard]] std::string sEntityName() const override { return "IfcPropertyOfTaste"; }
+    bool checkForErrors(qev::ifc::def::schema::Schema const& /*schema*/,
+                        qev::ifc::def::xml::XmlSetErrors& /*errors*/) const override
+    {
+        return true;
+    }
+    void vExport(qev::xml::Element& /*parent*/, qev::ifc::def::xml::ExtraExportInfo* /*info*/) const override
+    {
+    }
+};
+
+TEST_F(FcPropertyValueFactoryTest, AnyOtherKindHasNoRowAndNoReport)
+{
+    EXPECT_EQ(create(SetBuilder("S").property("P", std::make_unique<StrangeType>())), nullptr);
+}
+
 // --- Settings -----------------------------------------------------------------------------------
 
 class ToySettings : public PropertySettingsInterface

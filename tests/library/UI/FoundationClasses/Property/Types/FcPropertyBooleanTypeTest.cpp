@@ -1,6 +1,7 @@
 #include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
 
 #include "Core/Exception.h"
+#include "Core/Unit/QuantityPresentation.h"
 #include "FoundationClasses/AllEntities.h"
 #include "kit/ModelBuilder.h"
 #include "kit/ReportRecorder.h"
@@ -9,6 +10,7 @@
 #include "library/kit/ShownSet.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyLogicalType.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertySingleValueWithBooleanToggle.h"
+#include "UI/FoundationClasses/Set/PropertySet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -77,6 +79,58 @@ TEST_F(BooleanType, ATextThatIsNoNumberReachesTheCaller)
                  std::out_of_range);
 }
 
+TEST_F(BooleanType, APropertyMadeForAnUnreadableTextStays)
+{
+    auto const shown = show({wall, other});
+
+    EXPECT_THROW(shown["IsExternal"].updateValue(*model.data(), text("yes")), std::invalid_argument);
+
+    EXPECT_EQ(show({wall})["IsExternal"].getValue(), "0");
+    EXPECT_THAT(other->attachedSets(), IsEmpty());
+}
+
+TEST_F(BooleanType, ANumberIsReportedAndIsNoText)
+{
+    auto const shown = show({wall});
+
+    EXPECT_THROW(shown["IsExternal"].updateValue(*model.data(), PropertyOrQuantityValue::fromNumber(1.0)),
+                 std::invalid_argument);
+
+    expectReport("Not a string value.", "qev::fc::ui::PropertyOrQuantityValue::getStringValue",
+                 "Ui/FoundationClasses/PropertyOrQuantityValue");
+}
+
+TEST_F(BooleanType, OnlyTheStartOfTheTextNeedsToBeANumber)
+{
+    auto const shown = show({wall});
+
+    EXPECT_TRUE(shown["IsExternal"].updateValue(*model.data(), text(" 0x")));
+    EXPECT_EQ(shown["IsExternal"].getValue(), "0");
+    EXPECT_TRUE(shown["IsExternal"].updateValue(*model.data(), text("1.9")));
+    EXPECT_EQ(shown["IsExternal"].getValue(), "1");
+}
+
+TEST_F(BooleanType, AnEmptyValueBecomesABoolean)
+{
+    model.addSet(wall, "Pset", {{"IsExternal", FcValue()}});
+    auto const shown = show({wall});
+    EXPECT_EQ(shown["IsExternal"].getValue(), "");
+
+    EXPECT_TRUE(shown["IsExternal"].updateValue(*model.data(), text("1")));
+
+    EXPECT_EQ(shown["IsExternal"].getValue(), "1");
+}
+
+TEST_F(BooleanType, TheSameValueAgainIsNoChange)
+{
+    model.addSet(wall, "Pset", {{"IsExternal", boolean(true)}});
+    model.data()->changes().setSaved();
+
+    EXPECT_TRUE(show({wall})["IsExternal"].updateValue(*model.data(), text("7")));
+
+    EXPECT_FALSE(model.data()->changes().isModified());
+}
+
 TEST_F(BooleanType, TheEmptyTextRemovesTheProperty)
 {
     model.addSet(wall, "Pset", {{"IsExternal", boolean(true)}});
@@ -95,7 +149,12 @@ TEST_F(BooleanType, AValueOfAnotherTypeIsReportedShowsNothingAndRefusesEdits)
     expectReport("FcSimpleValue doesn't hold a boolean.",
                  "qev::fc::ui::FcPropertyBooleanType::getFcValueAsString",
                  "UI/FoundationClasses/Property/Types/FcPropertyBooleanType");
-    EXPECT_THROW(shown["IsExternal"].updateValue(*model.data(), text("1")), qev::exception);
+    try {
+        shown["IsExternal"].updateValue(*model.data(), text("1"));
+        ADD_FAILURE() << "nothing was raised";
+    } catch (qev::exception const& error) {
+        EXPECT_STREQ(error.what(), "Not of correct type");
+    }
 }
 
 TEST_F(BooleanType, AValueOfAnotherFamilyIsReportedShowsNothingAndRefusesEdits)
@@ -107,7 +166,12 @@ TEST_F(BooleanType, AValueOfAnotherFamilyIsReportedShowsNothingAndRefusesEdits)
     expectReport("Must be a simple value to hold a boolean.",
                  "qev::fc::ui::FcPropertyBooleanType::getFcValueAsString",
                  "UI/FoundationClasses/Property/Types/FcPropertyBooleanType");
-    EXPECT_THROW(shown["IsExternal"].updateValue(*model.data(), text("1")), qev::exception);
+    try {
+        shown["IsExternal"].updateValue(*model.data(), text("1"));
+        ADD_FAILURE() << "nothing was raised";
+    } catch (qev::exception const& error) {
+        EXPECT_STREQ(error.what(), "Not of correct type");
+    }
 }
 
 // --- Logical ------------------------------------------------------------------------------------
@@ -179,6 +243,79 @@ TEST_F(Toggle, WritesEachSideToItsOwnProperty)
     EXPECT_TRUE(row().updateValue(*model.data(), text("3")));
     EXPECT_EQ(row().getValue(), "3.000000");
     EXPECT_EQ(row().getBooleanValue(), "0");
+}
+
+TEST_F(Toggle, ClearsEachSideAlone)
+{
+    model.addSet(wall, "Pset", {{"HasHeight", boolean(true)}, {"Height", real(2.0)}});
+
+    EXPECT_TRUE(row().updateValue(*model.data(), text("")));
+    EXPECT_EQ(row().getValue(), "");
+    EXPECT_EQ(row().getBooleanValue(), "1");
+
+    row().updateBooleanValue(*model.data(), text(""));
+    EXPECT_EQ(row().getBooleanValue(), "");
+    EXPECT_THAT(wall->attachedSets(), IsEmpty());
+}
+
+TEST_F(Toggle, TheToggleIsEmptyWhereTheObjectsDoNotAgree)
+{
+    model.addSet(wall, "Pset", {{"HasHeight", boolean(true)}, {"Height", real(2.0)}});
+    model.addSet(other, "Pset", {{"HasHeight", boolean(false)}, {"Height", real(2.0)}});
+    shown->objects = {wall, other};
+
+    EXPECT_EQ(row().getBooleanValue(), "");
+    EXPECT_EQ(row().getValue(), "2.000000");
+}
+
+TEST_F(Toggle, AToggleThatIsNoBooleanIsReportedForTheToggleAlone)
+{
+    model.addSet(wall, "Pset", {{"HasHeight", label("yes")}, {"Height", real(2.0)}});
+
+    EXPECT_EQ(row().getValue(), "2.000000");
+    EXPECT_EQ(row().getBooleanValue(), "");
+    expectReport("FcSimpleValue doesn't hold a boolean.",
+                 "qev::fc::ui::FcPropertyBooleanType::getFcValueAsString",
+                 "UI/FoundationClasses/Property/Types/FcPropertyBooleanType");
+}
+
+/// Tells what a row is about while it works on its toggle.
+class OpenToggle : public FcPropertySingleValueWithBooleanToggle
+{
+public:
+    using FcPropertySingleValueWithBooleanToggle::FcPropertySingleValueWithBooleanToggle;
+
+    std::vector<std::string> namesWithinNestedGuards()
+    {
+        std::vector<std::string> names;
+        auto const note = [&] {
+            names.push_back(getName() + (quantityPresentation() ? " with a unit" : ""));
+        };
+        note();
+        {
+            auto const outer = workWithBooleanProperty();
+            note();
+            {
+                auto const inner = workWithBooleanProperty();
+                note();
+            }
+            note();
+        }
+        note();
+        return names;
+    }
+};
+
+TEST_F(Toggle, FollowsTheSideItWorksOnAlsoWhenGuardsAreNested)
+{
+    auto const definition =
+        SetBuilder("Pset").single("Height", "IfcLengthMeasure").single("HasHeight", "IfcBoolean").take();
+    std::vector<std::string> const contexts;
+    OpenToggle toggle(*definition->propertyDefs[0], *definition->propertyDefs[1],
+                      dynamic_cast<PropertySet&>(shown->set()), contexts);
+
+    EXPECT_THAT(toggle.namesWithinNestedGuards(), ElementsAre("Height with a unit", "HasHeight", "HasHeight",
+                                                              "HasHeight", "Height with a unit"));
 }
 
 TEST_F(Toggle, IsBackOnTheValueSideAfterAnException)

@@ -1,3 +1,4 @@
+#include "Core/Localization/LocalizationAdmin.h"
 #include "FoundationClasses/AllEntities.h"
 #include "kit/ModelBuilder.h"
 #include "kit/ReportRecorder.h"
@@ -95,6 +96,75 @@ TEST_F(SeveralValues, AnEnumeratedValueIsShownPlainAndSeveralInBrackets)
     EXPECT_EQ(shownFor("Status", enumeratedValue("Status", {}, {})), "");
 }
 
+TEST_F(SeveralValues, AnEnumerationWithoutAListOfValuesShowsNothing)
+{
+    auto const property = enumeratedValue("Status", {}, {});
+    property->EnumerationValues = std::nullopt;
+
+    EXPECT_EQ(shownFor("Status", property), "");
+}
+
+TEST_F(SeveralValues, EnumeratedNumbersAndTruthValuesAreShownAsTheirText)
+{
+    EXPECT_EQ(shownFor("Status", enumeratedValue("Status", {real(2.5), boolean(true)}, {})), "(2.5, true)");
+}
+
+/// The enumeration with texts of a language of its own.
+class LocalizedEnumeration : public SeveralValues
+{
+protected:
+    LocalizedEnumeration()
+    {
+        auto& admin = qev::resource::localization::getAdminInstance();
+        qev::localization::Dictionary dictionary;
+        dictionary.set("Pset.Status.NEW", "brand new");
+        dictionary.set("Pset.Status.STRANGE", "out of the ordinary");
+        admin.add("FcPropertyListsTest", admin.language(), dictionary);
+    }
+    ShownSet showLocalized(Entities objects)
+    {
+        ShownSet::Options options;
+        options.contexts = {"FcPropertyListsTest"};
+        return {SetBuilder("Pset").enumerated("Status", {"NEW", "EXISTING"}).take(), std::move(objects),
+                options};
+    }
+};
+
+TEST_F(LocalizedEnumeration, OffersTextsInTheOrderOfTheValues)
+{
+    auto const shown = showLocalized({wall});
+    auto const& status = shown.as<FcPropertyEnumeratedValue>("Status");
+
+    EXPECT_THAT(status.getEnumeratedValues(), ElementsAre("NEW", "EXISTING"));
+    EXPECT_THAT(status.getLocalizedEnumeratedValues(), ElementsAre("brand new", "EXISTING"));
+}
+
+TEST_F(LocalizedEnumeration, ShowsEachValueByItsTextAlsoOneOutsideOfTheList)
+{
+    add(wall, enumeratedValue("Status", {label("NEW"), label("EXISTING"), label("STRANGE")}, {}));
+
+    EXPECT_EQ(showLocalized({wall})["Status"].getValue(), "(brand new, EXISTING, out of the ordinary)");
+}
+
+TEST_F(LocalizedEnumeration, AChosenTextIsStoredAsTheValueItStandsFor)
+{
+    auto const shown = showLocalized({wall});
+
+    EXPECT_TRUE(shown["Status"].updateValue(*model.data(), text("brand new")));
+    EXPECT_THAT(storedStatus(wall), ElementsAre(label("NEW")));
+    EXPECT_EQ(shown["Status"].getValue(), "brand new");
+}
+
+TEST_F(LocalizedEnumeration, AValueThatIsNoOfferedTextIsStoredAsTyped)
+{
+    auto const shown = showLocalized({wall});
+
+    for (auto const* const typed : {"NEW", "Brand new", "out of the ordinary"}) {
+        EXPECT_TRUE(shown["Status"].updateValue(*model.data(), text(typed)));
+        EXPECT_THAT(storedStatus(wall), ElementsAre(label(typed)));
+    }
+}
+
 TEST_F(SeveralValues, AValueOutsideOfTheListIsShownAsItIs)
 {
     EXPECT_EQ(shownFor("Status", enumeratedValue("Status", {label("STRANGE")}, {})), "STRANGE");
@@ -140,6 +210,46 @@ TEST_F(SeveralValues, AnEnumeratedValueThatIsNoLabelStaysAndTheEditCountsAsTaken
     EXPECT_THAT(storedStatus(wall), ElementsAre(integer(3)));
 }
 
+TEST_F(SeveralValues, AnEmptyListOfEnumeratedValuesStaysAndTheEditCountsAsTaken)
+{
+    add(wall, enumeratedValue("Status", {}, {}));
+
+    EXPECT_TRUE(show({wall})["Status"].updateValue(*model.data(), text("NEW")));
+
+    EXPECT_THAT(storedStatus(wall), IsEmpty());
+}
+
+TEST_F(SeveralValues, SeveralEnumeratedValuesOfWhichTheFirstIsNoLabelStayWithAReport)
+{
+    add(wall, enumeratedValue("Status", {identifier("NEW"), label("EXISTING")}, {}));
+
+    EXPECT_TRUE(show({wall})["Status"].updateValue(*model.data(), text("OLD")));
+
+    EXPECT_THAT(takeReportTexts(),
+                ElementsAre("Currently only support for enumerated values containing one entry."));
+    EXPECT_THAT(storedStatus(wall), ElementsAre(identifier("NEW"), label("EXISTING")));
+}
+
+TEST_F(SeveralValues, TheSameChoiceAgainIsNoChange)
+{
+    add(wall, enumeratedValue("Status", {label("NEW")}, {}));
+    model.data()->changes().setSaved();
+
+    EXPECT_TRUE(show({wall})["Status"].updateValue(*model.data(), text("NEW")));
+
+    EXPECT_FALSE(model.data()->changes().isModified());
+}
+
+TEST_F(SeveralValues, AnEnumerationOfObjectsAloneOffersNothingAndStoresWhatIsTyped)
+{
+    add(wall, enumeratedValue("Status", {label("A")}, {label("A"), label("B")}));
+    ShownSet const shown("Pset", PropertySetDefinitionType::PropertySet, {wall});
+
+    EXPECT_THAT(shown.as<FcPropertyEnumeratedValue>("Status").getLocalizedEnumeratedValues(), IsEmpty());
+    EXPECT_TRUE(shown["Status"].updateValue(*model.data(), text("C")));
+    EXPECT_THAT(storedStatus(wall), ElementsAre(label("C")));
+}
+
 // --- Bounded values -----------------------------------------------------------------------------
 
 TEST_F(SeveralValues, BoundsStandInBracketsAndTheSetPointBehindThem)
@@ -155,6 +265,8 @@ TEST_F(SeveralValues, BoundsStandInBracketsAndTheSetPointBehindThem)
     EXPECT_EQ(range({}, {}, real(1.5)), "1.500000");
     EXPECT_EQ(range({}, {}, {}), "");
     EXPECT_EQ(range(label("low"), {}, {}), "(low, )");
+    EXPECT_EQ(range(real(1), {}, label("now")), "(1.000000, ) now");
+    EXPECT_EQ(range(integer(1), integer(-2), {}), "(1.000000, -2.000000)");
 }
 
 TEST_F(SeveralValues, BoundedValuesAreInSiUnitsWithoutPresentation)
@@ -170,6 +282,21 @@ TEST_F(SeveralValues, ValuesOfAListAreKeptApartBySemicolons)
     EXPECT_EQ(shownFor("Codes", listValue("Codes", {integer(1), integer(2)})), "1; 2");
     EXPECT_EQ(shownFor("Codes", listValue("Codes", {label("A"), FcValue(), label("B")})), "A; B");
     EXPECT_EQ(shownFor("Codes", listValue("Codes", {})), "");
+}
+
+TEST_F(SeveralValues, AListThatIsAbsentShowsNothing)
+{
+    auto const property = listValue("Codes", {});
+    property->ListValues = std::nullopt;
+
+    EXPECT_EQ(shownFor("Codes", property), "");
+}
+
+TEST_F(SeveralValues, OnlyTheLastSeparatorOfAListIsCutOff)
+{
+    EXPECT_EQ(shownFor("Codes", listValue("Codes", {label("; ")})), "; ");
+    EXPECT_EQ(shownFor("Codes", listValue("Codes", {label(""), label("")})), "; ");
+    EXPECT_EQ(shownFor("Codes", listValue("Codes", {FcValue(), FcValue()})), "");
 }
 
 TEST_F(SeveralValues, DifferentListsAreEmpty)

@@ -238,6 +238,9 @@ TEST_F(SingleValue, PresentationsAreInTheSiUnitOfTheTable)
               (&qev::unit::SiUnit<46, qev::unit::Quantity<11, 2, 1, -3, 0, 0, 0, 0>>::get()));
     EXPECT_EQ(unitOf("IfcLengthMeasure"),
               (&qev::unit::SiUnit<4, qev::unit::Quantity<1, 1, 0, 0, 0, 0, 0, 0>>::get()));
+    EXPECT_EQ(unitOf("IfcPositiveLengthMeasure"), &qev::unit::LengthUnit::get());
+    EXPECT_EQ(unitOf("IfcNonNegativeLengthMeasure"), &qev::unit::LengthUnit::get());
+    EXPECT_EQ(unitOf("IfcPositiveRatioMeasure"), &qev::unit::RatioUnit::get());
     EXPECT_EQ(unitOf("IfcVolumeMeasure"),
               (&qev::unit::SiUnit<14, qev::unit::Quantity<3, 3, 0, 0, 0, 0, 0, 0>>::get()));
     EXPECT_EQ(unitOf("IfcRatioMeasure"),
@@ -256,6 +259,54 @@ TEST_F(SingleValue, OtherTypesHaveNone)
 
     EXPECT_EQ(shown.as<FcPropertySingleValue>("Code").quantityPresentation(), nullptr);
     EXPECT_EQ(shown.as<FcPropertySingleValue>("Real").quantityPresentation(), nullptr);
+}
+
+TEST_F(SingleValue, APresentationWithoutAValueShowsAZero)
+{
+    EXPECT_EQ(show({})["Length"].getValue(), written("LengthMeasure", 0.0));
+    EXPECT_EQ(show({wall})["Length"].getValue(), written("LengthMeasure", 0.0));
+    model.addSet(wall, "Pset", {{"Length", label("long")}});
+    EXPECT_EQ(show({wall})["Length"].getValue(), written("LengthMeasure", 0.0));
+}
+
+TEST_F(SingleValue, TheTypeOfTheDefinitionDecidesOnThePresentationAndNotThatOfTheValue)
+{
+    model.addSet(wall, "Pset", {{"Real", length(1.5)}});
+
+    EXPECT_EQ(show({wall})["Real"].getValue(), "1.500000");
+}
+
+TEST_F(SingleValue, NumbersOfUnequalTypesDiffer)
+{
+    model.addSet(wall, "Pset", {{"Real", real(2)}});
+    model.addSet(other, "Pset", {{"Real", integer(2)}});
+
+    EXPECT_EQ(show({wall, other})["Real"].getValue(), "");
+}
+
+TEST_F(SingleValue, TwoEmptyValuesAgreeAndShowNothing)
+{
+    model.addSet(wall, "Pset", {{"Code", FcValue()}});
+    model.addSet(other, "Pset", {{"Code", FcValue()}});
+    auto const shown = show({wall, other});
+
+    EXPECT_EQ(shown["Code"].getValue(), "");
+    EXPECT_TRUE(shown.as<FcPropertySingleValue>("Code").getFcValue().isEmpty());
+}
+
+TEST_F(SingleValue, TheValueIsThatOfTheModel)
+{
+    model.addSet(wall, "Pset", {{"Code", label("A")}});
+    model.addSet(other, "Pset", {{"Code", label("A")}});
+
+    EXPECT_EQ(show({wall, other}).as<FcPropertySingleValue>("Code").getFcValue(), label("A"));
+}
+
+TEST_F(SingleValue, AnAbsentPropertyEndsTheWalk)
+{
+    // The null behind the object without the property is not come to.
+    EXPECT_EQ(show({wall, nullptr})["Code"].getValue(), "");
+    EXPECT_THAT(takeReportTexts(), IsEmpty());
 }
 
 TEST_F(SingleValue, AStrangeTypeNameIsReportedAndCut)
