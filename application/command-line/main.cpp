@@ -1,10 +1,12 @@
 #include "Commands.h"
 #include "Core/Assert/Assert.h"
 #include "Definitions.h"
+#include "Format/Ifc/Schema/SchemaLoader.h"
 
 #include <CLI/CLI.hpp>
 
 #include <functional>
+#include <future>
 
 namespace {
 
@@ -101,6 +103,15 @@ void CommandLine::addTo(CLI::App& app)
     app.require_subcommand(1);
 }
 
+/// Reads the schemas that every grid needs while the file is read.
+std::future<void> readSchemasAhead()
+{
+    return std::async(std::launch::async, [] {
+        qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1");
+        qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X1");
+    });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -115,6 +126,7 @@ int main(int argc, char** argv)
     }
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers only.
     qev::assert::Assert::setEnabled(commandLine.showReports);
+    std::future<void> const schemas = readSchemasAhead();
     if (!addDefinitions(commandLine.definitions))
         return static_cast<int>(ExitCode::UnreadableFile);
     return static_cast<int>(commandLine.run());

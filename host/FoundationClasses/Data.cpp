@@ -267,8 +267,15 @@ InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relati
     if (auto const found = m_inverseIndexes.find(key); found != m_inverseIndexes.end())
         return found->second;
     std::vector<std::pair<EntityIndex, EntityIndex>> references;
-    for (EntityIndex const relation : indicesFromId(relationFirst, relationLast))
+    std::vector<EntityIndex> const relations = indicesFromId(relationFirst, relationLast);
+    // So many further on, a record has come from memory when its turn comes.
+    constexpr std::size_t ahead = 8;
+    for (std::size_t i = 0; i < relations.size(); ++i) {
+        EntityIndex const relation = relations[i];
+        if (i + ahead < relations.size() && !isCreated(relations[i + ahead]))
+            m_source->expect(relations[i + ahead]);
         visitReferences(relation, slot, [&](EntityIndex target) { references.emplace_back(target, relation); });
+    }
     return m_inverseIndexes.emplace(key, InverseIndex(std::move(references))).first->second;
 }
 

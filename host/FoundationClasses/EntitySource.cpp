@@ -16,6 +16,8 @@ void EntitySource::appendRecordsOfClass(std::uint16_t number, std::vector<Entity
     }
 }
 
+void EntitySource::expect(EntityIndex) const {}
+
 AttributeReader::~AttributeReader() = default;
 AttributeWriter::~AttributeWriter() = default;
 

@@ -32,6 +32,8 @@ public:
     /// \p slot is a slot of the class in this model, not of the file's own version.
     virtual void forEachReference(EntityIndex index, unsigned int slot,
                                   std::function<void(EntityIndex)> const& visit) const = 0;
+    /// A hint that the record will be asked for a few records from now. Here it does nothing.
+    virtual void expect(EntityIndex index) const;
 };
 
 } // namespace qev::fc

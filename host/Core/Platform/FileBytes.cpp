@@ -1,8 +1,10 @@
 #include "Core/Platform/FileBytes.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstring>
+#include <future>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -20,8 +22,8 @@ namespace qev::platform {
 namespace {
 
 constexpr char emptyContent[FileBytes::padding] = {};
-/// So much is read between two calls of the progress function.
-constexpr std::size_t readStep = std::size_t{16} << 20;
+/// So much is read at once, between two calls of the progress function.
+constexpr std::size_t readStep = std::size_t{4} << 20;
 
 std::string describe(std::filesystem::path const& path, std::string const& reason)
 {
@@ -93,6 +95,88 @@ private:
     int m_descriptor;
 };
 
+/// Reads a file in steps, which the caller and a second thread take in turns. Most of the time goes into
+/// copying and into making fresh pages, which two processors do in half of it.
+class SharedReading
+{
+public:
+    SharedReading(int descriptor, char* target, std::size_t size)
+        : m_descriptor(descriptor)
+        , m_target(target)
+        , m_size(size)
+    {
+    }
+
+    /// False when reading failed or \p progress, called on the caller's thread, answered so.
+    bool run(FileBytes::Progress const& progress)
+    {
+        std::future<void> const helper = m_size > readStep ? startHelper() : std::future<void>();
+        while (readNextStep()) {
+            if (progress && !progress(m_done, m_size)) {
+                m_cancelled = true;
+                m_stop = true;
+            }
+        }
+        if (helper.valid())
+            helper.wait();
+        return !m_cancelled && m_errorNumber == 0 && m_done == m_size;
+    }
+
+    [[nodiscard]] bool wasCancelled() const { return m_cancelled; }
+    [[nodiscard]] std::string error() const
+    {
+        return m_errorNumber == 0 ? "it became shorter meanwhile" : systemReason(m_errorNumber);
+    }
+
+private:
+    std::future<void> startHelper()
+    {
+        try {
+            return std::async(std::launch::async, [this] {
+                while (readNextStep()) {
+                }
+            });
+        } catch (std::system_error const&) {
+            // A machine without a thread to spare reads alone.
+            return {};
+        }
+    }
+
+    bool readNextStep()
+    {
+        std::size_t const begin = m_next.fetch_add(readStep);
+        return !m_stop && begin < m_size && readRange(begin, std::min(begin + readStep, m_size));
+    }
+
+    bool readRange(std::size_t begin, std::size_t end)
+    {
+        while (begin < end) {
+            ssize_t const count =
+                ::pread(m_descriptor, m_target + begin, end - begin, static_cast<off_t>(begin));
+            if (count < 0 && errno == EINTR)
+                continue;
+            if (count <= 0) {
+                if (count < 0)
+                    m_errorNumber = errno;
+                m_stop = true;
+                return false;
+            }
+            begin += static_cast<std::size_t>(count);
+            m_done += static_cast<std::size_t>(count);
+        }
+        return true;
+    }
+
+    int m_descriptor;
+    char* m_target;
+    std::size_t m_size;
+    std::atomic<std::size_t> m_next = 0;
+    std::atomic<std::size_t> m_done = 0;
+    std::atomic<int> m_errorNumber = 0;
+    std::atomic<bool> m_stop = false;
+    bool m_cancelled = false;
+};
+
 } // namespace
 
 FileReadResult FileBytes::read(std::filesystem::path const& path, Progress const& progress)
@@ -120,21 +204,12 @@ FileReadResult FileBytes::read(std::filesystem::path const& path, Progress const
             describe(path, "there is not enough memory for its " + std::to_string(size) + " bytes");
         return result;
     }
-    std::size_t done = 0;
-    while (done < size) {
-        ssize_t const count = ::pread(file.descriptor(), bytes->m_data.get() + done,
-                                      std::min(readStep, size - done), static_cast<off_t>(done));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0) {
-            result.error = describe(path, count == 0 ? "it became shorter meanwhile" : systemReason(errno));
-            return result;
-        }
-        done += static_cast<std::size_t>(count);
-        if (progress && !progress(done, size)) {
-            result.cancelled = true;
-            return result;
-        }
+    SharedReading reading(file.descriptor(), bytes->m_data.get(), size);
+    if (!reading.run(progress)) {
+        result.cancelled = reading.wasCancelled();
+        if (!result.cancelled)
+            result.error = describe(path, reading.error());
+        return result;
     }
     result.bytes = std::move(bytes);
     return result;

@@ -40,6 +40,7 @@ public:
     void read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity) override;
     void forEachReference(fc::EntityIndex index, unsigned int slot,
                           std::function<void(fc::EntityIndex)> const& visit) const override;
+    void expect(fc::EntityIndex index) const override { m_file->expect(index); }
     void appendRecordsOfClass(std::uint16_t number, std::vector<fc::EntityIndex>& records) const override;
 
     [[nodiscard]] step::StepFile& file() { return *m_file; }

@@ -230,7 +230,12 @@ void IfcFile::findGlobalIds(unsigned int lastClass) const
     auto const places = m_data->indicesFromId(m_nextClass, lastClass);
     m_globalIds.reserve(m_globalIds.size() + places.size());
     m_nextClass = lastClass + 1;
-    for (fc::EntityIndex const index : places) {
+    // So many further on, a record has come from memory when its turn comes.
+    constexpr std::size_t ahead = 8;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        fc::EntityIndex const index = places[i];
+        if (i + ahead < places.size() && places[i + ahead] < m_source.count())
+            m_source.expect(places[i + ahead]);
         if (index >= m_source.count())
             continue;
         int const slot = m_source.mappingOf(index)->fileSlot(0);

@@ -115,6 +115,8 @@ public:
     [[nodiscard]] std::uint64_t lineOf(std::size_t position) const;
     [[nodiscard]] std::uint64_t lineOfRecord(RecordIndex record) const;
     [[nodiscard]] std::size_t positionOf(RecordIndex record) const;
+    /// A hint that the record will be asked for a few records from now: its bytes are brought near.
+    void expect(RecordIndex record) const;
 
     /// Just behind the last complete record of the last DATA section, or behind the section's
     /// head when it has none: where new records go. 0 without a DATA section.
