@@ -19,6 +19,9 @@
 #include <utility>
 #include <vector>
 
+namespace qev::fc::core::kernel {
+class FcObjectDefinition;
+} // namespace qev::fc::core::kernel
 namespace qev::ui {
 class PopupMenu;
 } // namespace qev::ui
