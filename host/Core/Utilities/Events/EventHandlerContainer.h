@@ -46,7 +46,7 @@ struct EventHandlerFunction<void, Result, Args...>
 /// What both flavours of `EventHandlerContainer` share: adding and removing handlers by id.
 ///
 /// A container is not copied or moved: attachments refer to it. Use from the toolkit's thread.
-template <class Derived, class Owner, class Result, class... Args>
+template <class Owner, class Result, class... Args>
 class EventHandlerContainerCommon
 {
 public:
@@ -106,15 +106,10 @@ private:
 /// Handlers that receive the running event: the last added one runs, and decides by
 /// `pEventHandlerFromInd` whether the one before it runs too.
 template <class Owner, class Result, class... Args>
-class EventHandlerContainer final
-    : public EventHandlerContainerCommon<EventHandlerContainer<Owner, Result, Args...>, Owner, Result,
-                                         Args...>
+class EventHandlerContainer final : public EventHandlerContainerCommon<Owner, Result, Args...>
 {
-    using Common =
-        EventHandlerContainerCommon<EventHandlerContainer<Owner, Result, Args...>, Owner, Result, Args...>;
-
 public:
-    using typename Common::Function;
+    using typename EventHandlerContainerCommon<Owner, Result, Args...>::Function;
 
     /// The next handler of \p event, or null when none is left.
     ///
@@ -139,7 +134,7 @@ public:
 /// added to the last; none may be removed during the walk.
 template <class Result, class... Args>
 class EventHandlerContainer<void, Result, Args...> final
-    : public EventHandlerContainerCommon<EventHandlerContainer<void, Result, Args...>, void, Result, Args...>
+    : public EventHandlerContainerCommon<void, Result, Args...>
 {
 };
 

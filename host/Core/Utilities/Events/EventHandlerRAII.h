@@ -14,7 +14,8 @@ namespace qev::fc::ui {
 class EventHandlerRAII
 {
 public:
-    /// Adds \p handler, a callable with the arguments of the event alone, to \p container.
+    /// Adds \p handler, a callable with the arguments of the event alone, to \p container. What it returns
+    /// is dropped where the event has no result.
     template <class Owner, class Result, class... Args, class Callable>
     EventHandlerRAII(EventHandlerContainer<Owner, Result, Args...>& container, Callable handler)
     {
@@ -50,7 +51,10 @@ private:
         else
             return [handler = std::move(handler)](Event<Owner, Result, Args...>&,
                                                   Args... args) mutable -> Result {
-                return handler(std::forward<Args>(args)...);
+                if constexpr (std::is_void_v<Result>)
+                    handler(std::forward<Args>(args)...);
+                else
+                    return handler(std::forward<Args>(args)...);
             };
     }
 

@@ -17,6 +17,15 @@ TEST(EventHandlerRAII, ItsHandlerTakesTheArgumentsAlone)
     EXPECT_EQ(fireEvent(events, 3, "four"), 12);
 }
 
+TEST(EventHandlerRAII, DropsWhatTheHandlerReturnsWhereTheEventHasNoResult)
+{
+    EventHandlerContainer<Owner, void, int> events;
+    std::set<int> seen;
+    EventHandlerRAII const attachment(events, [&seen](int value) { return seen.insert(value).second; });
+    fireEvent(events, 3);
+    EXPECT_EQ(seen, std::set<int>{3});
+}
+
 TEST(EventHandlerRAII, EndsTheAttachmentWithItsOwnLifetime)
 {
     EventHandlerContainer<Owner, void> events;
