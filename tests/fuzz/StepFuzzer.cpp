@@ -68,7 +68,7 @@ void checkPatch(StepFile const& file)
     require(StepPatch(file).toText() == file.bytes(), "no change, same bytes");
     StepPatch patch(file);
     RecordIndex const last = file.recordCount() - 1;
-    InstanceId const newId = patch.nextFreeId();
+    InstanceId const newId = file.firstFreeId();
     bool const replaced = patch.replaceArgument(last, 0, "'changed'");
     patch.appendRecord(newId, "IFCWALL", "$");
     StepOpenResult const again = StepFile::fromText(patch.toText());

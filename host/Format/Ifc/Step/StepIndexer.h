@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Format/Ifc/Step/ChunkedArray.h"
 #include "Format/Ifc/Step/CompactColumn.h"
 #include "Format/Ifc/Step/StepFile.h"
 #include "Format/Ifc/Step/StepScanner.h"

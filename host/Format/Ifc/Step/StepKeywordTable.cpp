@@ -73,7 +73,8 @@ void StepKeywordTable::add(std::string_view keyword, ClassNumber number)
     if (keyword.empty() || keyword.size() > inlineLength)
         return;
     Entry entry;
-    std::transform(keyword.begin(), keyword.end(), entry.bytes.begin(), [](char c) { return str::toUpper(c); });
+    std::transform(keyword.begin(), keyword.end(), entry.bytes.begin(),
+                   [](char c) { return str::toUpper(c); });
     entry.length = static_cast<std::uint32_t>(keyword.size());
     entry.number = number;
     m_classCount = std::max<std::size_t>(m_classCount, std::size_t{number} + 1);

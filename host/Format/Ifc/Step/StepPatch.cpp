@@ -133,16 +133,6 @@ bool StepPatch::replaceArguments(RecordIndex record,
     return true;
 }
 
-void StepPatch::restoreArgument(RecordIndex record, std::size_t slot)
-{
-    auto const found = m_replaced.find(record);
-    if (found == m_replaced.end())
-        return;
-    found->second.erase(slot);
-    if (found->second.empty())
-        m_replaced.erase(found);
-}
-
 bool StepPatch::removeRecord(RecordIndex record)
 {
     if (record >= m_file->recordCount() || m_file->endingOf(record) != StepFile::Ending::Complete)
@@ -151,24 +141,9 @@ bool StepPatch::removeRecord(RecordIndex record)
     return true;
 }
 
-void StepPatch::restoreRecord(RecordIndex record) { m_removed.erase(record); }
-
 void StepPatch::appendRecord(InstanceId id, std::string_view keyword, std::string_view arguments)
 {
     m_appended.push_back({id, std::string(keyword), std::string(arguments)});
-    m_highestAppended = std::max(m_highestAppended, id);
-}
-
-void StepPatch::clearAppended()
-{
-    m_appended.clear();
-    m_highestAppended = 0;
-}
-
-InstanceId StepPatch::nextFreeId() const
-{
-    InstanceId const free = m_file->firstFreeId();
-    return m_highestAppended >= free && free != 0 ? m_highestAppended + 1 : free;
 }
 
 bool StepPatch::empty() const { return m_replaced.empty() && m_removed.empty() && m_appended.empty(); }

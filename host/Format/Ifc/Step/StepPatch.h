@@ -57,19 +57,13 @@ public:
     bool replaceArgument(RecordIndex record, std::size_t slot, std::string text);
     /// Several arguments at once, finding their places in one go. All or none.
     bool replaceArguments(RecordIndex record, std::span<std::pair<std::size_t, std::string> const> texts);
-    /// Goes back to what the file has in this place.
-    void restoreArgument(RecordIndex record, std::size_t slot);
 
     /// \returns false for a record that does not end properly, for then nobody knows what would be removed.
     bool removeRecord(RecordIndex record);
-    void restoreRecord(RecordIndex record);
 
-    /// A new record; \p arguments as they stand between the parentheses.
+    /// A new record with an id that is free (`StepFile::firstFreeId`); \p arguments as they stand between the
+    /// parentheses.
     void appendRecord(InstanceId id, std::string_view keyword, std::string_view arguments);
-    void clearAppended();
-
-    /// An id that neither the file nor a new record uses, not even as a reference that leads nowhere.
-    [[nodiscard]] InstanceId nextFreeId() const;
 
     [[nodiscard]] bool empty() const;
 
@@ -114,7 +108,6 @@ private:
     std::map<RecordIndex, std::map<std::size_t, Replacement>> m_replaced;
     std::set<RecordIndex> m_removed;
     std::vector<Appended> m_appended;
-    InstanceId m_highestAppended = 0;
 };
 
 } // namespace qev::step
