@@ -1,6 +1,7 @@
 #include "Commands.h"
 #include "FileAccess.h"
 #include "GridSession.h"
+#include "ObjectLabel.h"
 #include "Output.h"
 
 #include <iostream>
@@ -40,7 +41,7 @@ Json gridAsJson(std::vector<std::shared_ptr<fc::FcBase>> const& objects, std::ve
 {
     Json document = {{"objects", Json::array()}, {"groups", Json::array()}};
     for (auto const& object : objects)
-        document["objects"].push_back(globalIdOf(*object));
+        document["objects"].push_back(ObjectLabel::of(*object).globalId);
     for (GridGroup const& group : groups) {
         Json rows = Json::array();
         for (GridGroup::Row const& row : group.rows)
@@ -59,10 +60,13 @@ std::string valueText(ui::PropertyGridRowRecord const& record)
     return text;
 }
 
-void printAsText(std::vector<std::shared_ptr<fc::FcBase>> const& objects, std::vector<GridGroup> const& groups)
+void printAsText(std::vector<std::shared_ptr<fc::FcBase>> const& objects,
+                 std::vector<GridGroup> const& groups)
 {
-    for (auto const& object : objects)
-        std::cout << globalIdOf(*object) << "  " << object->getEntityName() << "  " << onOneLine(nameOf(*object)) << '\n';
+    for (auto const& object : objects) {
+        auto const label = ObjectLabel::of(*object);
+        std::cout << label.globalId << "  " << label.className << "  " << onOneLine(label.name) << '\n';
+    }
     for (GridGroup const& group : groups) {
         std::cout << '\n' << onOneLine(group.label) << "  (" << group.kind << ")\n";
         std::vector<std::vector<std::string>> rows;

@@ -1,5 +1,6 @@
 #include "GridSession.h"
 
+#include "Core/Localization/Dictionaries.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
@@ -21,7 +22,8 @@ constexpr int gridId = 101;
 
 } // namespace
 
-/// Listens while the control builds its rows: rows of attributes carry no hint of their own of what they show.
+/// Listens while the control builds its rows: rows of attributes carry no hint of their own of what they
+/// show.
 class GridSession::Recorder final : public fc::ui::PropertySetDefinitionFilterInterface,
                                     public fc::ui::PropertyGridControlPropertyFormatterStrategyInterface
 {
@@ -33,7 +35,10 @@ public:
         std::vector<std::string> names;
     };
 
-    explicit Recorder(RowFilter filter) : m_filter(std::move(filter)) {}
+    explicit Recorder(RowFilter filter)
+        : m_filter(std::move(filter))
+    {
+    }
 
     void clear() { m_groups.clear(); }
     [[nodiscard]] std::vector<AttributeGroup> const& attributeGroups() const { return m_groups; }
@@ -43,7 +48,8 @@ public:
     {
         m_isAttributeGroup = setName == "Instance Attributes" || setName == "Type Attributes";
         if (m_isAttributeGroup && !m_filter)
-            m_groups.push_back({setName == "Instance Attributes" ? "instance attributes" : "type attributes", {}});
+            m_groups.push_back(
+                {setName == "Instance Attributes" ? "instance attributes" : "type attributes", {}});
         return !m_isAttributeGroup || !m_filter;
     }
     bool isPropertyIncluded(std::string const& setName, std::string const& propertyName) const override
@@ -52,24 +58,33 @@ public:
     }
 
     std::optional<bool> wantCustomButtonProperties() const override { return std::nullopt; }
-    std::optional<bool> wantButton(std::string const&, std::string const&) const override { return std::nullopt; }
+    std::optional<bool> wantButton(std::string const&, std::string const&) const override
+    {
+        return std::nullopt;
+    }
     void onButtonClicked(std::string const&, std::string const&) override {}
     void setObject(std::shared_ptr<fc::Data>, std::shared_ptr<fc::FcBase>) override {}
-    void onPropertyCreated(std::string const&, std::string const& propertyName, ui::PropertyGridProperty&) override
+    void onPropertyCreated(std::string const&, std::string const& propertyName,
+                           ui::PropertyGridProperty&) override
     {
         if (m_isAttributeGroup)
             m_groups.back().names.push_back(propertyName);
     }
-    std::optional<Alignment> getAlignment(std::string const&, std::string const&) const override { return std::nullopt; }
+    std::optional<Alignment> getAlignment(std::string const&, std::string const&) const override
+    {
+        return std::nullopt;
+    }
     std::optional<EmptyLineState> getEmptyLineState(std::string const&, std::string const&) const override
     {
         return std::nullopt;
     }
-    std::optional<HorizontalLineState> getHorizontalLineState(std::string const&, std::string const&) const override
+    std::optional<HorizontalLineState> getHorizontalLineState(std::string const&,
+                                                              std::string const&) const override
     {
         return std::nullopt;
     }
-    std::optional<bool> wantBoldFontStyleForNameAndValue(std::string const&, std::string const&) const override
+    std::optional<bool> wantBoldFontStyleForNameAndValue(std::string const&,
+                                                         std::string const&) const override
     {
         return std::nullopt;
     }
@@ -95,11 +110,12 @@ GridSession::GridSession(std::shared_ptr<fc::Data> data, bool showUnused, RowFil
 {
     auto const formatter = std::make_shared<fc::ui::PropertyGridControlPropertyFormatter>();
     formatter->addStrategy(m_recorder);
-    std::vector<std::string> const contexts = {"IfcProperties", "Ifc", "FoundationClassesUi"};
     m_control = std::make_shared<fc::ui::PropertySetGridControl>(
-        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_data, m_dialog, m_recorder,
-        fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>{nullptr, formatter},
-        contexts, nullptr);
+        ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_data, m_dialog,
+        m_recorder,
+        fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>{
+            nullptr, formatter},
+        localization::Dictionaries::getContexts("IFC"), nullptr);
     if (!showUnused)
         m_control->hideUnusedProperties();
     m_control->init(gridId, std::nullopt, true);
@@ -152,7 +168,9 @@ GridGroup GridSession::groupOf(ui::PropertyGridRow const& top, std::size_t& attr
     for (std::size_t i = 0; i < top.getChildren().size(); ++i) {
         auto const& row = top.getChildren()[i];
         auto* const property = static_cast<fc::ui::PropertyInterface*>(row->getUserData());
-        std::string name = attributes ? attributes->names[i] : property ? property->getName() : row->getName();
+        std::string name = attributes ? attributes->names[i]
+                           : property ? property->getName()
+                                      : row->getName();
         group.rows.push_back({std::move(name), row->getName(), row, ui::PropertyGridRowRecord::of(*row)});
     }
     return group;
@@ -173,7 +191,8 @@ bool GridSession::type(GridGroup::Row const& row, std::string const& text)
     else
         isAccepted = window.type(row.row, text);
     // The control blanks a row whose value the model refused.
-    bool const isBlanked = isAccepted && !text.empty() && ui::PropertyGridEditing::getDisplayedText(*row.row).empty();
+    bool const isBlanked =
+        isAccepted && !text.empty() && ui::PropertyGridEditing::getDisplayedText(*row.row).empty();
     if (isBlanked || (!isAccepted && row.record.editor != "none"))
         m_message = window.getMessage().empty() ? "it does not take this value" : window.getMessage();
     return isAccepted && !isBlanked;

@@ -2,7 +2,6 @@
 
 #include "Format/Ifc/Model/IfcFile.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,12 +23,5 @@ std::vector<fc::EntityIndex> findObjects(ifc::IfcFile const& file, ObjectSelecti
 
 /// The class of the model with this schema name, in any case; null for an unknown one.
 fc::EntityClass const* findClass(std::string const& name);
-
-/// The structure, assembly or host that an object is part of; null when it stands alone.
-std::shared_ptr<fc::FcBase> containerOf(fc::FcBase const& object);
-
-/// The name of an entity, empty when it has none.
-std::string nameOf(fc::FcBase const& entity);
-std::string globalIdOf(fc::FcBase const& entity);
 
 } // namespace qev::application

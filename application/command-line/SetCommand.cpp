@@ -1,9 +1,9 @@
 #include "Commands.h"
 #include "FileAccess.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
-#include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
-#include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "GridSession.h"
+#include "ObjectLabel.h"
+#include "SharedSets.h"
 
 #include <iostream>
 
@@ -12,7 +12,6 @@ namespace qev::application {
 namespace {
 
 using fc::core::kernel::FcObjectDefinition;
-using fc::core::kernel::FcPropertySetDefinition;
 
 /// The row that an edit is for, and its set.
 struct Place
@@ -21,9 +20,9 @@ struct Place
     GridGroup::Row const* row = nullptr;
 };
 
-/// The property wanted; none when the object does not offer it. The rows are looked through by name even where
-/// the grid was asked for one property, for it shows all quantities in any case. Names may hold dots themselves,
-/// so the two are put together and never taken apart.
+/// The property wanted; none when the object does not offer it. The rows are looked through by name even
+/// where the grid was asked for one property, for it shows all quantities in any case. Names may hold dots
+/// themselves, so the two are put together and never taken apart.
 Place findPlace(std::vector<GridGroup> const& groups, std::string const& property)
 {
     for (GridGroup const& group : groups) {
@@ -35,21 +34,10 @@ Place findPlace(std::vector<GridGroup> const& groups, std::string const& propert
     return {};
 }
 
-/// How many further objects share the set, so that an edit of one does not change the others unnoticed.
-std::size_t countSharing(FcObjectDefinition& object, std::string const& setName)
-{
-    auto const set = object.getPropertySetDefinitionNonConst<FcPropertySetDefinition>(setName);
-    std::size_t count = 0;
-    for (auto const& reference : set ? set->DefinesOccurrence() : std::vector<std::weak_ptr<fc::core::kernel::FcRelDefinesByProperties>>()) {
-        if (auto const relation = reference.lock())
-            count += relation->RelatedObjects->size();
-    }
-    return count > 1 ? count - 1 : 0;
-}
-
 std::string describe(fc::FcBase const& object)
 {
-    return globalIdOf(object) + " " + object.getEntityName() + " '" + nameOf(object) + "'";
+    auto const label = ObjectLabel::of(object);
+    return label.globalId + " " + label.className + " '" + label.name + "'";
 }
 
 /// What came of the edit over all objects.
@@ -59,7 +47,8 @@ struct Outcome
     std::size_t refused = 0;
 };
 
-void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetOptions const& options, Outcome& outcome)
+void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetOptions const& options,
+           Outcome& outcome)
 {
     session.show({object});
     auto const groups = session.groups();
@@ -68,8 +57,9 @@ void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetO
         return;
     ++outcome.offered;
     auto const definition = fc::entityCast<FcObjectDefinition>(object);
-    if (std::size_t const others = countSharing(*definition, group->name); others > 0)
-        std::cerr << "qev-ifc: the set is shared: " << others << " further objects change with " << describe(*object) << '\n';
+    if (std::size_t const others = countOthersWithSet(*definition, group->name); others > 0)
+        std::cerr << "qev-ifc: the set is shared: " << others << " further objects change with "
+                  << describe(*object) << '\n';
     if (session.type(*row, options.value))
         return;
     ++outcome.refused;
@@ -84,9 +74,10 @@ ExitCode runSet(SetOptions const& options)
     if (!file)
         return ExitCode::UnreadableFile;
     auto const places = findObjects(*file, options.objects);
-    GridSession session(file->data(), true, [&options](std::string const& setName, std::string const& propertyName) {
-        return setName + "." + propertyName == options.property;
-    });
+    GridSession session(file->data(), true,
+                        [&options](std::string const& setName, std::string const& propertyName) {
+                            return setName + "." + propertyName == options.property;
+                        });
     Outcome outcome;
     for (fc::EntityIndex const place : places) {
         if (auto const object = file->data()->entity(place))
@@ -97,7 +88,9 @@ ExitCode runSet(SetOptions const& options)
         return ExitCode::NothingFound;
     }
     ExitCode const saved = saveFile(*file, options.output);
-    return saved != ExitCode::Success ? saved : outcome.refused > 0 ? ExitCode::RefusedEdit : ExitCode::Success;
+    return saved != ExitCode::Success ? saved
+           : outcome.refused > 0      ? ExitCode::RefusedEdit
+                                      : ExitCode::Success;
 }
 
 } // namespace qev::application

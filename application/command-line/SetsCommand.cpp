@@ -55,7 +55,10 @@ ExitCode runSets(SetsOptions const& options)
         std::size_t const count = countHaving(objects, set->getName());
         std::string const onObjects = "on " + std::to_string(count) + " of " + std::to_string(objects.size());
         rows.push_back({set->getName(), kindOf(*set), source, onObjects});
-        sets.push_back({{"name", set->getName()}, {"kind", kindOf(*set)}, {"source", source}, {"objectsHavingIt", count}});
+        sets.push_back({{"name", set->getName()},
+                        {"kind", kindOf(*set)},
+                        {"source", source},
+                        {"objectsHavingIt", count}});
     }
     if (options.format == Format::Json)
         printJson({{"sets", std::move(sets)}});

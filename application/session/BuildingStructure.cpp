@@ -50,15 +50,6 @@ bool isSpatial(fc::Data const& data, EntityIndex object)
 
 } // namespace
 
-ObjectLabel ObjectLabel::of(fc::Data const& data, EntityIndex index)
-{
-    auto const entity = data.entity(index);
-    if (!entity)
-        return {};
-    return {entity->getAttributeAsString("Name").value_or(""), entity->getEntityName(),
-            entity->getAttributeAsString("GlobalId").value_or("")};
-}
-
 std::vector<EntityIndex> BuildingStructure::getRoots() const
 {
     auto roots = m_data.indicesFromId(FcProject::idFirst, FcProject::idLast);

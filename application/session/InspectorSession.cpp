@@ -1,9 +1,8 @@
 #include "InspectorSession.h"
 
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
-#include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
+#include "SharedSets.h"
 
-#include <set>
 #include <utility>
 
 namespace qev::application {
@@ -11,7 +10,6 @@ namespace qev::application {
 namespace {
 
 using fc::core::kernel::FcObjectDefinition;
-using fc::core::kernel::FcRelDefinesByProperties;
 using step::StepPatch;
 using step::StepSaveResult;
 
@@ -23,18 +21,21 @@ InspectorSession::~InspectorSession() { close(); }
 
 bool InspectorSession::open(std::filesystem::path const& path, ifc::IfcFile::Progress const& progress)
 {
-    auto stamp = platform::fileStamp(path);
     auto opened = ifc::IfcFile::open(path, progress);
     if (!opened.file) {
         m_failedOpening = std::move(opened.messages);
         return false;
     }
-    replaceFile(std::move(opened.file), path);
-    m_stamp = stamp;
+    replaceFile(std::move(opened.file));
     return true;
 }
 
-void InspectorSession::close() { replaceFile(nullptr, {}); }
+void InspectorSession::close() { replaceFile(nullptr); }
+
+std::filesystem::path InspectorSession::getPath() const
+{
+    return m_file ? m_file->path() : std::filesystem::path();
+}
 
 std::shared_ptr<fc::Data> InspectorSession::getData() const { return m_file ? m_file->data() : nullptr; }
 
@@ -60,24 +61,7 @@ std::shared_ptr<fc::FcBase> InspectorSession::findObject(std::string_view global
 std::size_t InspectorSession::countOthersWithSet(std::string const& setName) const
 {
     auto const object = fc::entityCast<FcObjectDefinition>(m_selection);
-    if (!object || !m_file)
-        return 0;
-    auto const& data = *m_file->data();
-    auto const slot =
-        slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatingPropertyDefinition");
-    std::set<fc::EntityIndex> others;
-    for (auto const& set : object->attachedSets()) {
-        if (set->getAttributeAsString("Name").value_or("") != setName)
-            continue;
-        for (auto const index : data.relating(set->getIndex(), FcRelDefinesByProperties::idFirst,
-                                              FcRelDefinesByProperties::idLast, slot))
-            if (auto const relation = fc::entityCast<FcRelDefinesByProperties>(data.entity(index)))
-                for (auto const& reference : relation->RelatedObjects.get().references())
-                    others.insert(reference.index());
-    }
-    others.erase(object->getIndex());
-    others.erase(fc::noEntity);
-    return others.size();
+    return object ? application::countOthersWithSet(*object, setName) : 0;
 }
 
 bool InspectorSession::isModified() const { return m_file && m_file->data()->changes().isModified(); }
@@ -100,45 +84,32 @@ void InspectorSession::redo()
 
 ifc::SaveResult InspectorSession::save(StepPatch::IfChanged ifChanged)
 {
-    ifc::SaveResult result;
-    if (!m_file) {
-        result.status = StepSaveResult::Status::Failed;
-        result.text = "No file is open.";
-        return result;
-    }
-    if (ifChanged == StepPatch::IfChanged::Refuse && platform::fileStamp(m_path) != m_stamp) {
-        result.status = StepSaveResult::Status::ChangedMeanwhile;
-        result.text = "Another program has changed the file since it was read.";
-        return result;
-    }
-    result = m_file->save(m_path, ifChanged);
-    if (result.saved())
-        m_stamp = platform::fileStamp(m_path);
-    return result;
+    return saveTo(getPath(), ifChanged);
 }
 
 ifc::SaveResult InspectorSession::saveAs(std::filesystem::path const& path)
 {
-    if (!m_file)
-        return save();
     // Whoever names a file that is there has agreed to replace it.
-    auto result = m_file->save(path, StepPatch::IfChanged::Overwrite);
-    if (result.saved()) {
-        m_path = path;
-        m_stamp = platform::fileStamp(path);
-    }
+    return saveTo(path, StepPatch::IfChanged::Overwrite);
+}
+
+ifc::SaveResult InspectorSession::saveTo(std::filesystem::path const& path, StepPatch::IfChanged ifChanged)
+{
+    if (m_file)
+        return m_file->save(path, ifChanged);
+    ifc::SaveResult result;
+    result.status = StepSaveResult::Status::Failed;
+    result.text = "No file is open.";
     return result;
 }
 
-void InspectorSession::replaceFile(std::unique_ptr<ifc::IfcFile> file, std::filesystem::path path)
+void InspectorSession::replaceFile(std::unique_ptr<ifc::IfcFile> file)
 {
     if (m_file)
         m_file->data()->changed.vHandlerRemove(m_changeHandler);
     m_selection.reset();
     m_failedOpening.clear();
-    m_stamp.reset();
     m_file = std::move(file);
-    m_path = std::move(path);
     if (!m_file)
         return;
     m_changeHandler = m_file->data()->changed.iHandlerAdd(

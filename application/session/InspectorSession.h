@@ -1,13 +1,11 @@
 #pragma once
 
-#include "Core/Platform/FileStamp.h"
 #include "Core/Utilities/Events/EventHandlerContainer.h"
 #include "Format/Ifc/Model/IfcFile.h"
 
 #include <cstddef>
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,7 +35,8 @@ public:
     /// The model; null when no file is open.
     [[nodiscard]] std::shared_ptr<fc::Data> getData() const;
     /// Where the file is saved to: where it was opened from, or where it was last saved under another name.
-    [[nodiscard]] std::filesystem::path const& getPath() const { return m_path; }
+    /// Empty when no file is open.
+    [[nodiscard]] std::filesystem::path getPath() const;
     /// What was wrong with the file, and with one that could not be opened after it.
     [[nodiscard]] std::vector<step::StepMessage> getMessages() const;
     [[nodiscard]] std::size_t getObjectCount() const;
@@ -67,11 +66,10 @@ public:
     EventHandlerContainer<void, void, std::vector<fc::EntityIndex> const&> onModelChanged;
 
 private:
-    void replaceFile(std::unique_ptr<ifc::IfcFile> file, std::filesystem::path path);
+    ifc::SaveResult saveTo(std::filesystem::path const& path, step::StepPatch::IfChanged ifChanged);
+    void replaceFile(std::unique_ptr<ifc::IfcFile> file);
 
     std::unique_ptr<ifc::IfcFile> m_file;
-    std::filesystem::path m_path;
-    std::optional<platform::FileStamp> m_stamp;
     std::vector<step::StepMessage> m_failedOpening;
     std::shared_ptr<fc::FcBase> m_selection;
     int m_changeHandler = 0;

@@ -15,6 +15,7 @@ struct ObjectLabel
     std::string className;
     std::string globalId;
 
+    [[nodiscard]] static ObjectLabel of(fc::FcBase const& entity);
     /// The label of the entity at a place; empty when there is none.
     [[nodiscard]] static ObjectLabel of(fc::Data const& data, fc::EntityIndex index);
     /// The name, or the class for an object without one.

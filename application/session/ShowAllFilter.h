@@ -10,7 +10,10 @@ class ShowAllFilter final : public fc::ui::PropertySetDefinitionFilterInterface
 public:
     void setObject(std::shared_ptr<fc::FcBase>) override {}
     [[nodiscard]] bool isSetIncluded(std::string const&) const override { return true; }
-    [[nodiscard]] bool isPropertyIncluded(std::string const&, std::string const&) const override { return true; }
+    [[nodiscard]] bool isPropertyIncluded(std::string const&, std::string const&) const override
+    {
+        return true;
+    }
 };
 
 } // namespace qev::application
