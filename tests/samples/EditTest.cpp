@@ -1,6 +1,7 @@
 #include "ExpectedReports.h"
 #include "Format/Ifc/Model/IfcFile.h"
 #include "GridSession.h"
+#include "kit/TemporaryFolder.h"
 #include "reference-reader/ReferenceReader.h"
 #include "SampleFiles.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
@@ -18,6 +19,7 @@
 namespace {
 
 using namespace qev::test::samples;
+using qev::test::readFile;
 using namespace qev::test::reference;
 using qev::application::GridGroup;
 using qev::application::GridSession;
@@ -108,7 +110,7 @@ protected:
     Edit()
         : opened(IfcFile::open(GetParam().path))
         , reader(ReferenceReader::fromFile(GetParam().path.string(), SCHEMA_DIRECTORY))
-        , before(bytesOf(GetParam().path))
+        , before(readFile(GetParam().path))
     {
     }
 

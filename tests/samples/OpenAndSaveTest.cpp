@@ -1,5 +1,6 @@
 #include "Format/Ifc/Model/IfcFile.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+#include "kit/TemporaryFolder.h"
 #include "reference-reader/ReferenceReader.h"
 #include "SampleFiles.h"
 
@@ -8,6 +9,7 @@
 namespace {
 
 using namespace qev::test::samples;
+using qev::test::readFile;
 
 class OpenAndSave : public testing::TestWithParam<SampleFile>
 {
@@ -18,7 +20,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, OpenAndSave, testing::ValuesIn(allFiles()),
 
 TEST_P(OpenAndSave, GivesTheSameBytesWithoutAnEdit)
 {
-    std::string const before = bytesOf(GetParam().path);
+    std::string const before = readFile(GetParam().path);
     auto const opened = qev::ifc::IfcFile::open(GetParam().path);
     if (!opened.file) {
         EXPECT_TRUE(GetParam().isMalformed);

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <fstream>
-#include <iterator>
 #include <ostream>
 
 namespace qev::test::samples {
@@ -52,12 +50,6 @@ std::vector<SampleFile> wellFormedFiles()
     std::vector<SampleFile> files = allFiles();
     std::erase_if(files, [](SampleFile const& file) { return file.isMalformed; });
     return files;
-}
-
-std::string bytesOf(std::filesystem::path const& path)
-{
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 void PrintTo(SampleFile const& file, std::ostream* out) { *out << file.path.filename().string(); }

@@ -20,8 +20,6 @@ struct SampleFile
 /// Without those that are broken on purpose.
 [[nodiscard]] std::vector<SampleFile> wellFormedFiles();
 
-[[nodiscard]] std::string bytesOf(std::filesystem::path const& path);
-
 /// For messages of parameterised tests.
 void PrintTo(SampleFile const& file, std::ostream* out);
 

@@ -1,17 +1,17 @@
-#include "reference-reader/ReferenceReader.h"
-#include "SampleFiles.h"
-#include "TemporaryFolder.h"
+#include "kit/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
+#include <map>
 #include <sstream>
 
 namespace {
 
-using namespace qev::test::samples;
+using qev::test::readFile;
 using Json = nlohmann::json;
 
 /// What a run of the program gave.
@@ -38,7 +38,7 @@ protected:
 #else
         int const exitCode = status >> 8;
 #endif
-        return {exitCode, bytesOf(output), bytesOf(errors)};
+        return {exitCode, readFile(output), readFile(errors)};
     }
 
     Json json(std::string const& arguments) const
@@ -51,13 +51,14 @@ protected:
     }
 
     static std::string quoted(std::string const& text) { return '"' + text + '"'; }
-    static std::string sample(std::string const& name)
+    static std::filesystem::path samplePath(std::string const& name)
     {
-        return quoted((std::filesystem::path(OWN_SAMPLES_DIRECTORY) / name).string());
+        return std::filesystem::path(OWN_SAMPLES_DIRECTORY) / name;
     }
+    static std::string sample(std::string const& name) { return quoted(samplePath(name).string()); }
 
     std::string target() const { return quoted((folder.path() / "saved.ifc").string()); }
-    std::string saved() const { return bytesOf(folder.path() / "saved.ifc"); }
+    std::string saved() const { return readFile(folder.path() / "saved.ifc"); }
 
     qev::test::TemporaryFolder folder;
 };
@@ -87,7 +88,7 @@ TEST_F(CommandLine, InfoTellsSchemaAndCounts)
 TEST_F(CommandLine, SaveGivesTheSameBytes)
 {
     EXPECT_EQ(run("save " + sample("office-IFC4.ifc") + " --output " + target()).exitCode, 0);
-    EXPECT_TRUE(saved() == bytesOf(std::filesystem::path(OWN_SAMPLES_DIRECTORY) / "office-IFC4.ifc"));
+    EXPECT_TRUE(saved() == readFile(samplePath("office-IFC4.ifc")));
 }
 
 TEST_F(CommandLine, ObjectsAreListedByClass)
@@ -101,6 +102,20 @@ TEST_F(CommandLine, ObjectsAreListedByClass)
         EXPECT_TRUE(wall["class"].get<std::string>().starts_with("IfcWall"));
     }
     EXPECT_EQ(run("objects " + sample("office-IFC4X3.ifc")).exitCode, 0);
+}
+
+TEST_F(CommandLine, ObjectsTellWhatTheyAreIn)
+{
+    std::map<std::string, Json> objects;
+    for (Json const& object : json("objects " + sample("office-IFC4X3.ifc"))["objects"])
+        objects[object["globalId"]] = object;
+    auto const containerOf = [&objects](std::string const& globalId) {
+        return objects.at(globalId).at("container");
+    };
+    EXPECT_EQ(containerOf("0bGr2Pk8NKKSEWvK9Pd4cf"), "Ground floor") << "a wall of a storey";
+    EXPECT_EQ(containerOf("3Z9R5geGl2i6Lq9PMG87FB"), "Stair") << "a flight";
+    EXPECT_EQ(containerOf("3sRIKkLBswnft7$n9IBv2R"), "Duct 1") << "a port";
+    EXPECT_EQ(containerOf("16_6_gQx_QoKf_HPK9eWxG"), nullptr) << "the project";
 }
 
 TEST_F(CommandLine, SetsTellWhereTheyAreFrom)
@@ -160,6 +175,19 @@ TEST_F(CommandLine, SetChangesTheFile)
         }
     }
     EXPECT_EQ(found, 1u);
+}
+
+TEST_F(CommandLine, SetTellsHowManyOthersShareTheSet)
+{
+    auto const set = [this](std::string const& object, std::string const& property) {
+        return run("set " + sample("office-IFC4X3.ifc") + " --object " + object + " --property " + property +
+                   " --value F180 --output " + target());
+    };
+    std::string const wallEast = "0bGr2Pk8NKKSEWvK9Pd4cf";
+    EXPECT_NE(set(wallEast, "Pset_WallCommon.FireRating").errors.find("shared: 6 further objects"),
+              std::string::npos);
+    std::string const wallSouth = "1PeBX2K9oB3JLtFcWr2Otg";
+    EXPECT_EQ(set(wallSouth, "Pset_WallCommon.FireRating").errors, "");
 }
 
 Json quantitiesOf(std::string const& lines)
@@ -237,7 +265,7 @@ TEST_F(CommandLine, ARefusedEditGivesFive)
             " --output " + target());
     EXPECT_EQ(result.exitCode, 5) << result.errors;
     EXPECT_FALSE(result.output.empty()) << "a line for each object that refused";
-    EXPECT_TRUE(saved() == bytesOf(std::filesystem::path(OWN_SAMPLES_DIRECTORY) / "office-IFC4.ifc"));
+    EXPECT_TRUE(saved() == readFile(samplePath("office-IFC4.ifc")));
 }
 
 TEST_F(CommandLine, AnOutputThatCannotBeWrittenGivesSix)
