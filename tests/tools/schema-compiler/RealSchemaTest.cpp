@@ -1,5 +1,5 @@
-#include "Emit/CppNames.h"
 #include "Emit/Generate.h"
+#include "Model/CppNames.h"
 #include "ToySchema.h"
 
 #include <gmock/gmock.h>

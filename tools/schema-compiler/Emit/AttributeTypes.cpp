@@ -1,7 +1,7 @@
 #include "Emit/AttributeTypes.h"
 
-#include "Emit/CppNames.h"
 #include "Emit/CppType.h"
+#include "Model/CppNames.h"
 #include "Output/SourceText.h"
 
 #include <map>

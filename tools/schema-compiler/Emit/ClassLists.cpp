@@ -1,6 +1,6 @@
 #include "Emit/ClassLists.h"
 
-#include "Emit/CppNames.h"
+#include "Model/CppNames.h"
 #include "Output/SourceText.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Emit/CppType.h"
 
-#include "Emit/CppNames.h"
+#include "Model/CppNames.h"
 
 namespace qev::schemacompiler {
 

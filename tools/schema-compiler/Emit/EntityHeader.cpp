@@ -1,7 +1,7 @@
 #include "Emit/EntityHeader.h"
 
-#include "Emit/CppNames.h"
 #include "Emit/CppType.h"
+#include "Model/CppNames.h"
 #include "Output/SourceText.h"
 
 namespace qev::schemacompiler {
@@ -16,11 +16,6 @@ std::set<std::string> headerIncludes(ClassModel const& model, EntityModel const&
     for (AttributeModel const& attribute : entity.attributes)
         headers.merge(memberHeaders(model, attribute));
     return headers;
-}
-
-std::string baseClass(ClassModel const& model, EntityModel const& entity)
-{
-    return entity.supertype.empty() ? "FcBase" : qualified(model.entity(entity.supertype), entity.group);
 }
 
 void emitComment(EntityModel const& entity, SourceText& text)
@@ -78,7 +73,7 @@ std::string entityHeader(ClassModel const& model, EntityModel const& entity)
     text.includes(headerIncludes(model, entity)).blank();
     text.openNamespace(space);
     emitComment(entity, text);
-    text.line("class HOSTFOUNDATIONCLASSES_EXPORT " + name + " : public " + baseClass(model, entity));
+    text.line("class HOSTFOUNDATIONCLASSES_EXPORT " + name + " : public " + qualifiedBase(model, entity));
     text.line("{");
     text.line("public:");
     text.line("    static constexpr unsigned int idFirst = " + std::to_string(entity.first) + ";");

@@ -1,8 +1,9 @@
 #include "Emit/GroupSource.h"
 
-#include "Emit/CppNames.h"
+#include "Core/String/Ascii.h"
 #include "Emit/CppType.h"
 #include "Emit/EntityHeader.h"
+#include "Model/CppNames.h"
 #include "Output/SourceText.h"
 
 #include <sstream>
@@ -18,11 +19,6 @@ std::string hexadecimal(std::uint64_t number)
     std::ostringstream text;
     text << "0x" << std::hex << number;
     return text.str();
-}
-
-std::string baseClass(ClassModel const& model, EntityModel const& entity)
-{
-    return entity.supertype.empty() ? "FcBase" : qualified(model.entity(entity.supertype), entity.group);
 }
 
 std::set<std::string> sourceIncludes(ClassModel const& model, std::string const& group)
@@ -97,7 +93,7 @@ std::string inverseRow(ClassModel const& model, InverseModel const& inverse)
 void emitStaticEntityClass(ClassModel const& model, EntityModel const& entity, SourceText& text)
 {
     bool const isRoot = entity.supertype.empty();
-    std::string const base = baseClass(model, entity);
+    std::string const base = qualifiedBase(model, entity);
     std::string const inherited = isRoot ? "{}" : base + "::staticEntityClass().attributes";
     text.line("EntityClass const& " + generatedName(entity) + "::staticEntityClass()");
     text.line("{");
@@ -117,7 +113,7 @@ void emitStaticEntityClass(ClassModel const& model, EntityModel const& entity, S
     }
     text.line("    static EntityClass const entityClass = {");
     text.line("        .name = " + quoted(entity.name) + ",");
-    text.line("        .nameUpper = " + quoted(upper(entity.name)) + ",");
+    text.line("        .nameUpper = " + quoted(str::toUpper(entity.name)) + ",");
     text.line("        .group = " + quoted(shortGroupName(entity.group)) + ",");
     text.line("        .qualifiedGroup = " + quoted(entity.group) + ",");
     text.line("        .idFirst = " + std::to_string(entity.first) + ",");
@@ -140,7 +136,7 @@ void emitStaticEntityClass(ClassModel const& model, EntityModel const& entity, S
 void emitAccept(ClassModel const& model, EntityModel const& entity, SourceText& text)
 {
     std::string const name = generatedName(entity);
-    std::string const base = baseClass(model, entity);
+    std::string const base = qualifiedBase(model, entity);
     auto const self = [&](std::string const& type) {
         return entity.isHandwritten ? "static_cast<" + type + "&>(*this)" : std::string("*this");
     };

@@ -1,7 +1,7 @@
 #include "Emit/Selects.h"
 
-#include "Emit/CppNames.h"
 #include "Emit/CppType.h"
+#include "Model/CppNames.h"
 #include "Output/SourceText.h"
 
 namespace qev::schemacompiler {

@@ -1,6 +1,6 @@
 #include "Emit/Visitors.h"
 
-#include "Emit/CppNames.h"
+#include "Model/CppNames.h"
 #include "Output/SourceText.h"
 
 namespace qev::schemacompiler {

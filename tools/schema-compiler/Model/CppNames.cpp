@@ -1,8 +1,9 @@
-#include "Emit/CppNames.h"
+#include "Model/CppNames.h"
+
+#include "Core/String/Ascii.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <string_view>
 
 namespace qev::schemacompiler {
@@ -15,13 +16,6 @@ constexpr std::array<std::string_view, 24> macros = {
     "ERROR",    "FALSE",     "FAR",      "IGNORE", "IN",     "INFINITE",   "INFINITY", "NAN",
     "NEAR",     "NULL",      "OPAQUE",   "OUT",    "PASCAL", "STRICT",     "TRUE",     "VOID",
 };
-
-std::string lower(std::string text)
-{
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
-    return text;
-}
 
 std::string replacedDot(std::string const& group, std::string_view replacement)
 {
@@ -53,14 +47,7 @@ std::string generatedName(SelectModel const& select)
     return className(select.name) + (select.isHandwritten ? "Members" : "");
 }
 
-std::string upper(std::string text)
-{
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char character) { return static_cast<char>(std::toupper(character)); });
-    return text;
-}
-
-std::string groupNamespace(std::string const& group) { return lower(replacedDot(group, "::")); }
+std::string groupNamespace(std::string const& group) { return str::toLower(replacedDot(group, "::")); }
 
 std::string groupFolder(std::string const& group) { return "FoundationClasses/" + replacedDot(group, "/"); }
 
@@ -76,6 +63,11 @@ std::string qualified(EntityModel const& entity, std::string const& fromGroup)
 std::string qualified(SelectModel const& select, std::string const& fromGroup)
 {
     return qualified(className(select.name), select.group, fromGroup);
+}
+
+std::string qualifiedBase(ClassModel const& model, EntityModel const& entity)
+{
+    return entity.supertype.empty() ? "FcBase" : qualified(model.entity(entity.supertype), entity.group);
 }
 
 std::string header(EntityModel const& entity)

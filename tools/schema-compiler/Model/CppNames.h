@@ -14,7 +14,6 @@ std::string generatedName(EntityModel const& entity);
 std::string generatedName(SelectModel const& select);
 /// "IfcWall" gives "Wall".
 std::string withoutPrefix(std::string const& schemaName);
-std::string upper(std::string text);
 
 /// "Core.Kernel" gives "core::kernel", the namespace inside `qev::fc`.
 std::string groupNamespace(std::string const& group);
@@ -28,6 +27,8 @@ std::string shortGroupName(std::string const& group);
 /// The class as code in the namespace of \p fromGroup names it; an empty group means `qev::fc` itself.
 std::string qualified(EntityModel const& entity, std::string const& fromGroup);
 std::string qualified(SelectModel const& select, std::string const& fromGroup);
+/// The base class of an entity as code in the entity's own namespace names it.
+std::string qualifiedBase(ClassModel const& model, EntityModel const& entity);
 
 /// The header that users include.
 std::string header(EntityModel const& entity);

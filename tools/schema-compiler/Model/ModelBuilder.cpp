@@ -1,10 +1,11 @@
 #include "Model/ModelBuilder.h"
 
-#include "Emit/CppNames.h"
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/DataTypeEnum.h"
 #include "Format/Ifc/Schema/Entity.h"
 #include "Format/Ifc/Schema/Select.h"
 #include "Format/Ifc/Schema/Type.h"
+#include "Model/CppNames.h"
 #include "Model/InputError.h"
 
 #include <algorithm>
@@ -116,7 +117,7 @@ private:
     void checkTables() const
     {
         for (auto const& [name, entry] : m_groups.entries) {
-            auto const* const object = m_schema.find(upper(name));
+            auto const* const object = m_schema.find(str::toUpper(name));
             if (!dynamic_cast<schema::Entity const*>(object) && !dynamic_cast<schema::Select const*>(object))
                 throw InputError(m_groupFile, entry.line,
                                  name + " is no entity or select of " + m_schema.name());
@@ -131,7 +132,7 @@ private:
 
     schema::ObjectBase const* findClass(std::string const& cppName) const
     {
-        return cppName.starts_with("Fc") ? m_schema.find(upper("Ifc" + cppName.substr(2))) : nullptr;
+        return cppName.starts_with("Fc") ? m_schema.find(str::toUpper("Ifc" + cppName.substr(2))) : nullptr;
     }
 
     template <class T>

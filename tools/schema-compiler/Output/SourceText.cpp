@@ -1,21 +1,11 @@
 #include "Output/SourceText.h"
 
+#include "Core/String/Ascii.h"
+
 #include <algorithm>
-#include <cctype>
 #include <vector>
 
 namespace qev::schemacompiler {
-
-namespace {
-
-std::string lower(std::string text)
-{
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
-    return text;
-}
-
-} // namespace
 
 SourceText::SourceText(std::string const& source)
     : m_text("// Made by schema-compiler from " + source + ". Do not edit.\n")
@@ -35,8 +25,9 @@ SourceText& SourceText::includes(std::set<std::string> const& paths)
 {
     // The formatter of the project sorts includes without regard to case.
     std::vector<std::string> sorted(paths.begin(), paths.end());
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](std::string const& a, std::string const& b) { return lower(a) < lower(b); });
+    std::stable_sort(sorted.begin(), sorted.end(), [](std::string const& a, std::string const& b) {
+        return str::toLower(a) < str::toLower(b);
+    });
     for (auto const& path : sorted)
         line("#include \"" + path + "\"");
     return *this;
