@@ -1,6 +1,5 @@
 #include "Format/Ifc/Model/IfcFile.h"
 
-#include "Core/Platform/FileStamp.h"
 #include "Format/Ifc/Model/FileSource.h"
 #include "Format/Ifc/Model/OwnUnits.h"
 #include "Format/Ifc/Model/Spelling.h"
@@ -119,25 +118,23 @@ OpenResult IfcFile::index(step::StepOpenResult opened, Progress const& progress)
     auto const names = opened.file->header().schemaNames();
     std::string const name = names.empty() ? std::string() : names.front();
     VersionMapping::Version const version = VersionMapping::curr().fromFileSchema(name);
-    if (version.certainty != VersionMapping::Certainty::Exact)
-        result.messages.push_back(inexactVersion(name, version));
     if (!opened.file->index(FileSource::keywordTable(*version.schema), progress)) {
-        auto const messages = opened.file->messages().all();
-        result.messages.insert(result.messages.end(), messages.begin(), messages.end());
-        result.cancelled = messages.empty();
+        result.cancelled = true;
         return result;
     }
     auto source = std::make_unique<FileSource>(std::move(opened.file), *version.schema);
     FileSource& reference = *source;
     auto data = fc::Data::create(std::move(source));
-    result.file.reset(new IfcFile(std::move(data), reference, result.messages));
+    result.file.reset(new IfcFile(std::move(data), reference));
     result.file->m_schemaName = name;
+    if (version.certainty != VersionMapping::Certainty::Exact)
+        result.file->m_versionMessage = inexactVersion(name, version);
     result.messages = result.file->messages();
     return result;
 }
 
-IfcFile::IfcFile(std::shared_ptr<fc::Data> data, FileSource& source, std::vector<StepMessage> messages)
-    : m_data(std::move(data)), m_source(source), m_openMessages(std::move(messages)), m_nextClass(FcRoot::idFirst)
+IfcFile::IfcFile(std::shared_ptr<fc::Data> data, FileSource& source)
+    : m_data(std::move(data)), m_source(source), m_nextClass(FcRoot::idFirst)
 {}
 
 IfcFile::~IfcFile() = default;
@@ -166,7 +163,9 @@ std::map<std::string, std::size_t> IfcFile::countsByClass() const
 
 std::vector<StepMessage> IfcFile::messages() const
 {
-    std::vector<StepMessage> all = m_openMessages;
+    std::vector<StepMessage> all;
+    if (m_versionMessage)
+        all.push_back(*m_versionMessage);
     for (auto const* const messages : {&m_source.file().messages().all(), &m_source.messages().all()})
         all.insert(all.end(), messages->begin(), messages->end());
     return all;
@@ -336,12 +335,6 @@ std::string IfcFile::toText()
 {
     std::vector<std::string> notStored;
     return makePatch(notStored).toText();
-}
-
-bool IfcFile::changedOnDisk() const
-{
-    auto const& known = m_source.file().stamp();
-    return known && platform::fileStamp(path()) != known;
 }
 
 } // namespace qev::ifc

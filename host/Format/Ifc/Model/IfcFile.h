@@ -25,7 +25,9 @@ class IfcFile;
 /// What opening a file gives: the file, or the reason why there is none.
 struct OpenResult
 {
+    /// Null when the file is refused or opening was cancelled.
     std::unique_ptr<IfcFile> file;
+    /// What was found wrong; the reason of a refusal among it.
     std::vector<step::StepMessage> messages;
     bool cancelled = false;
 };
@@ -96,13 +98,11 @@ public:
                     Progress const& progress = {});
     /// The text of the file as `save` would write it.
     [[nodiscard]] std::string toText();
-    /// True when another program wrote the file since it was read or saved.
-    [[nodiscard]] bool changedOnDisk() const;
 
 private:
     class Writer;
 
-    IfcFile(std::shared_ptr<fc::Data> data, FileSource& source, std::vector<step::StepMessage> messages);
+    IfcFile(std::shared_ptr<fc::Data> data, FileSource& source);
     static OpenResult index(step::StepOpenResult opened, Progress const& progress);
 
     step::StepPatch makePatch(std::vector<std::string>& notStored);
@@ -116,7 +116,8 @@ private:
     std::shared_ptr<fc::Data> m_data;
     FileSource& m_source;
     std::string m_schemaName;
-    std::vector<step::StepMessage> m_openMessages;
+    /// There for a file of a version that is not known exactly.
+    std::optional<step::StepMessage> m_versionMessage;
     /// Ids of entities that were created since the file was read. Once given, an id stays.
     std::map<fc::EntityIndex, step::InstanceId> m_newIds;
     step::InstanceId m_nextId = 0;

@@ -39,7 +39,7 @@ struct StepFile::Private
     std::filesystem::path path;
     std::optional<platform::FileStamp> stamp;
     std::size_t dataPosition = 0;
-    /// How many messages there were before records were looked at.
+    /// Those from before records were looked at.
     StepMessages openingMessages;
     RecordColumns columns;
     std::size_t classCount = 1;

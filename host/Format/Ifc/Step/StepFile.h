@@ -73,7 +73,7 @@ public:
     ///
     /// A record that is not ended is taken to end before the next line that begins one. The escape
     /// `\S\'` hides its apostrophe, unless a text would have no end that way.
-    /// \returns false when \p progress asked to stop, or without a DATA section; `messages` tells which.
+    /// \returns false when \p progress asked to stop.
     bool index(StepKeywordTable const& table, Progress const& progress = {});
 
     /// What was found wrong so far.
