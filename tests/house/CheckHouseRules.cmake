@@ -1,7 +1,5 @@
 # Checks rules of the house that no compiler knows. Called with -DROOT=<source folder>.
 
-set(failures 0)
-
 function(forbid pattern hint)
     foreach(file IN LISTS ARGN)
         file(STRINGS ${ROOT}/${file} lines REGEX "${pattern}")
@@ -24,21 +22,37 @@ set(without_qt ${sources})
 list(FILTER without_qt EXCLUDE REGEX "^(host/Ui/Qt|application/desktop)/")
 forbid("^#include <Q[A-Za-z]+>" "Qt belongs into host/Ui/Qt and application/desktop." ${without_qt})
 
-set(host ${sources})
-list(FILTER host INCLUDE REGEX "^host/")
-forbid("^#include \"UI/FoundationClasses/" "The host does not know the library above it." ${host})
+# may_include(FOLDER ALLOWED...): of our own headers, sources in FOLDER include ALLOWED alone: folders, or headers
+# without their ending.
+function(may_include folder)
+    list(JOIN ARGN "|" allowed)
+    set(files ${sources})
+    list(FILTER files INCLUDE REGEX "^${folder}/")
+    if(NOT files)
+        message(SEND_ERROR "There are no sources in ${folder}.")
+    endif()
+    foreach(file IN LISTS files)
+        file(STRINGS ${ROOT}/${file} lines
+            REGEX "^#include \"(Core|Object|Format|FoundationClasses|Ui|UI)/")
+        list(FILTER lines EXCLUDE REGEX "^#include \"(${allowed})[/.]")
+        if(lines)
+            list(GET lines 0 first)
+            list(JOIN ARGN ", " allowed_text)
+            message(SEND_ERROR "${file}: ${first}\n  ${folder} may include ${allowed_text} alone.")
+        endif()
+    endforeach()
+endfunction()
 
-set(core ${sources})
-list(FILTER core INCLUDE REGEX "^host/Core/")
-forbid("^#include \"(Object|Format|FoundationClasses|Ui)/" "Core includes nothing but Core." ${core})
-
-set(ui ${sources})
-list(FILTER ui INCLUDE REGEX "^host/Ui/")
-forbid("^#include \"(Object|Format|FoundationClasses)/" "The toolkit includes Core alone." ${ui})
-
-set(step ${sources})
-list(FILTER step INCLUDE REGEX "^host/Format/Ifc/Step/")
-forbid("^#include \"(FoundationClasses|Format/Ifc/Schema|Format/Ifc/Model|Ui)/" "STEP files know nothing of IFC." ${step})
+may_include(host/Core Core)
+may_include(host/Object Core Object)
+may_include(host/Format/Ifc/Schema Core Format/Ifc/Schema)
+may_include(host/Format/Ifc/Step Core Format/Ifc/Step)
+may_include(host/FoundationClasses Core Object Format/Ifc/Step FoundationClasses)
+may_include(host/Format/Ifc/Model Core Format/Ifc FoundationClasses)
+may_include(host/Ui/PropertyGrid Core Ui/PropertyGrid Ui/Window)
+may_include(host/Ui/Window Core Ui/PropertyGrid Ui/Window Ui/WindowBackend)
+may_include(host/Ui Core Ui)
+may_include(library Core Object Format/Ifc FoundationClasses Ui/PropertyGrid Ui/Window UI)
 
 set(headers ${sources})
 list(FILTER headers INCLUDE REGEX "\\.h$")
