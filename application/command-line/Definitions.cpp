@@ -15,13 +15,16 @@ bool addDefinitions(std::vector<std::filesystem::path> const& filesOrFolders)
     for (auto const& path : filesOrFolders) {
         ifc::def::PsdResult result = ifc::def::readPsd(path);
         for (ifc::def::PsdError const& error : result.errors)
-            std::cerr << "qev-ifc: " << error.file.string() << ", line " << error.line << ": " << error.message << '\n';
+            std::cerr << "qev-ifc: " << error.file.string() << ", line " << error.line << ": "
+                      << error.message << '\n';
         if (result.definitions.sets().empty()) {
             std::cerr << "qev-ifc: there are no property-set definitions in " << path.string() << '\n';
             return false;
         }
         ifc::def::addTexts(result.definitions, "IfcProperties", resource::localization::getAdminInstance());
-        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1")->addDefinitions(path.string(), std::move(result.definitions));
+        ifc::SchemaLoader::curr()
+            .pSchemaFromName(ifc::SchemaLoader::modelVersion)
+            ->addDefinitions(path.string(), std::move(result.definitions));
     }
     return true;
 }

@@ -163,7 +163,7 @@ void PropertyPane::showHint(QString const& hint)
 void PropertyPane::createControl()
 {
     m_control = std::make_shared<PropertySetGridControl>(
-        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_session.getData(), m_dialog,
+        ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_session.getData(), m_dialog,
         std::make_shared<ShowAllFilter>(), GridFormatters{}, localization::Dictionaries::getContexts("IFC"),
         nullptr);
     m_control->init(0, std::nullopt, true);

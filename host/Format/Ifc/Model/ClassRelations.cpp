@@ -10,7 +10,7 @@ namespace {
 
 Entity const* entityOf(std::string_view className)
 {
-    auto const* const classes = SchemaLoader::curr().classesFromName("IFC4X3_TC1");
+    auto const* const classes = SchemaLoader::curr().classesFromName(SchemaLoader::modelVersion);
     return classes ? classes->findEntityByName(className) : nullptr;
 }
 

@@ -57,7 +57,12 @@ std::optional<unsigned int> slotOfParts(std::uint16_t classNumber)
 
 std::optional<step::RecordIndex> projectOf(step::StepFile const& file, VersionSchema const& version)
 {
-    auto const projects = file.recordsOf(FileSource::keywordTable(version).find("IFCPROJECT"));
+    ClassMapping const* const project = version.find("IFCPROJECT");
+    if (!project)
+        return std::nullopt;
+    // The table of keywords counts the mappings from 1.
+    auto const number = static_cast<std::uint16_t>(project - version.mappings().data() + 1);
+    auto const projects = file.recordsOf(number);
     return projects.empty() ? std::nullopt : std::optional(projects.front());
 }
 

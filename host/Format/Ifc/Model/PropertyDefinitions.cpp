@@ -25,7 +25,7 @@ namespace {
 
 SetDef const* definitionOfSet(std::string const& setName)
 {
-    auto const* const schema = SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1");
+    auto const* const schema = SchemaLoader::curr().pSchemaFromName(SchemaLoader::modelVersion);
     return schema ? schema->pXmlSetFromName(setName) : nullptr;
 }
 

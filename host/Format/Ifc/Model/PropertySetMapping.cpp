@@ -39,7 +39,7 @@ namespace {
 /// A new object of the class that a type of a definition names; null for a class that has no objects.
 std::shared_ptr<FcBase> newEntity(std::string const& className)
 {
-    auto const* const classes = SchemaLoader::curr().classesFromName("IFC4X3_TC1");
+    auto const* const classes = SchemaLoader::curr().classesFromName(SchemaLoader::modelVersion);
     auto const* const entity = classes ? classes->findEntityByName(className) : nullptr;
     auto const* const modelClass = entity ? fc::entityClassFromNumber(entity->firstNumber()) : nullptr;
     return modelClass && modelClass->create ? modelClass->create() : nullptr;

@@ -7,6 +7,10 @@ namespace qev::ifc {
 using def::schema::DeclaredType;
 using def::schema::Type;
 
+// The base kinds have the same numbers in both.
+static_assert(static_cast<int>(AttributeType::Real) == static_cast<int>(Type::BaseKind::Real));
+static_assert(static_cast<int>(AttributeType::Logical) == static_cast<int>(Type::BaseKind::Logical));
+
 AttributeType AttributeBase::TypeFromSchemaAttribute(def::schema::Attribute const& attribute)
 {
     DeclaredType const& first = attribute.declaredTypes().front();

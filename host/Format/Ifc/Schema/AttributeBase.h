@@ -21,9 +21,11 @@ enum class AttributeType : std::uint8_t
     Aggregate = 10
 };
 
+/// What code that knows no C++ type of an attribute can ask about it.
 class HOSTIFCSCHEMA_EXPORT AttributeBase
 {
 public:
+    /// An aggregate is told by its outermost level, everything else by what its values are in the end.
     static AttributeType TypeFromSchemaAttribute(def::schema::Attribute const& attribute);
 };
 

@@ -1,16 +1,14 @@
 #include "Format/Ifc/Schema/ObjectBase.h"
 
 #include "Core/String/Ascii.h"
-#include "Format/Ifc/Schema/NameHash.h"
+#include "Core/String/Hash.h"
 
 namespace qev::ifc::def::schema {
 
-std::string toUpperName(std::string_view name) { return str::toUpper(name); }
-
 ObjectBase::ObjectBase(std::string_view name)
     : m_name(name)
-    , m_nameUpper(toUpperName(name))
-    , m_hash(nameHash(m_nameUpper))
+    , m_nameUpper(str::toUpper(name))
+    , m_hash(str::fnv1a(m_nameUpper))
 {
 }
 

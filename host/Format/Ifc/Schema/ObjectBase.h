@@ -22,7 +22,7 @@ public:
     [[nodiscard]] std::string const& name() const { return m_name; }
     /// The name in capitals; names are looked up in this form.
     [[nodiscard]] std::string const& nameUpper() const { return m_nameUpper; }
-    /// `nameHash` of `nameUpper`.
+    /// `str::fnv1a` of `nameUpper`: the first key that a schema sorts its names by.
     [[nodiscard]] std::uint32_t hash() const { return m_hash; }
 
 protected:
@@ -33,8 +33,5 @@ private:
     std::string m_nameUpper;
     std::uint32_t m_hash;
 };
-
-/// ASCII letters in capitals; all other bytes as they are.
-HOSTIFCSCHEMA_EXPORT std::string toUpperName(std::string_view name);
 
 } // namespace qev::ifc::def::schema

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Schema/PsdReader.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/PsdDocument.h"
 #include "Format/Ifc/Schema/PsdTypeReader.h"
 #include "Format/Ifc/Schema/Qto/QuantitySetDef.h"
@@ -20,22 +21,14 @@ bool isUpper(std::string_view text)
            std::all_of(text.begin(), text.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    std::size_t const start = text.find_first_not_of(' ');
-    if (start == std::string_view::npos)
-        return {};
-    return text.substr(start, text.find_last_not_of(' ') - start + 1);
-}
-
 // "IfcXyz", "IfcXyz/PREDEFINED", or in a few old files "IFCCHAPTER/IfcXyz".
 xml::ApplicableClass applicableClass(std::string_view text)
 {
     std::size_t const slash = text.find('/');
     if (slash == std::string_view::npos)
-        return {std::string(trimmed(text)), {}};
-    std::string_view const first = trimmed(text.substr(0, slash));
-    std::string_view const second = trimmed(text.substr(slash + 1));
+        return {std::string(str::trimmed(text)), {}};
+    std::string_view const first = str::trimmed(text.substr(0, slash));
+    std::string_view const second = str::trimmed(text.substr(slash + 1));
     if (isUpper(first) && second.starts_with("Ifc"))
         return {std::string(second), {}};
     return {std::string(first), std::string(second)};

@@ -1,6 +1,7 @@
 #include "Format/Ifc/Schema/Schema.h"
 
-#include "Format/Ifc/Schema/NameHash.h"
+#include "Core/String/Ascii.h"
+#include "Core/String/Hash.h"
 #include "Format/Ifc/Schema/Type.h"
 
 #include <algorithm>
@@ -32,7 +33,7 @@ Schema::~Schema() = default;
 
 ObjectBase const* Schema::find(std::string_view nameUpper) const
 {
-    return find(nameUpper, nameHash(nameUpper));
+    return find(nameUpper, str::fnv1a(nameUpper));
 }
 
 ObjectBase const* Schema::find(std::string_view nameUpper, std::uint32_t hash) const
@@ -52,7 +53,7 @@ Entity const* Schema::findEntity(std::string_view nameUpper) const
 
 Entity const* Schema::findEntityByName(std::string_view entityName) const
 {
-    Entity const* const entity = findEntity(toUpperName(entityName));
+    Entity const* const entity = findEntity(str::toUpper(entityName));
     return entity && entity->name() == entityName ? entity : nullptr;
 }
 

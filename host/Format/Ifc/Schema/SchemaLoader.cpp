@@ -57,7 +57,7 @@ SchemaLoader::SchemaLoader()
                             std::string_view (*setsText)()) {
         m_versions.push_back(std::make_unique<Version>(Version{name, schemaText, setsText, nullptr, false}));
     };
-    add("IFC4X3_TC1", embedded::ifc4x3Tc1Schema, embedded::ifc4x3PropertySets);
+    add(modelVersion, embedded::ifc4x3Tc1Schema, embedded::ifc4x3PropertySets);
     add("IFC4X1", embedded::ifc4x1Schema, nullptr);
     add("IFC2X3", embedded::ifc2x3Schema, nullptr);
     add("IFC4", embedded::ifc4Schema, nullptr);

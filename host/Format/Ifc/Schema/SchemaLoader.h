@@ -9,11 +9,14 @@ namespace qev::ifc {
 /// Gives the versions of the standard by name. They are compiled in and read on first use.
 ///
 /// Names are those of the files: "IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_TC1" and "IFC4X3_ADD2". The
-/// model has the classes of "IFC4X3_TC1", and only that one comes with property and quantity sets: those of
+/// model has the classes of `modelVersion`, and only that one comes with property and quantity sets: those of
 /// the other releases would compete with them for the same objects. Look-ups may come from any thread.
 class HOSTIFCSCHEMA_EXPORT SchemaLoader
 {
 public:
+    /// The version whose classes the model has.
+    static constexpr char const* modelVersion = "IFC4X3_TC1";
+
     SchemaLoader();
     ~SchemaLoader();
     SchemaLoader(SchemaLoader const&) = delete;

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Schema/SetsText.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/Pset/PropertySetDef.h"
 #include "Format/Ifc/Schema/Pset/TypePropertyBoundedValue.h"
 #include "Format/Ifc/Schema/Pset/TypePropertyEnumeratedValue.h"
@@ -130,7 +131,8 @@ private:
         if (!type)
             fail("The kind of a property with its types is expected.");
         else {
-            auto property = std::make_unique<pset::PropertyDef>(*m_propertySet, std::string(name), std::move(type));
+            auto property =
+                std::make_unique<pset::PropertyDef>(*m_propertySet, std::string(name), std::move(type));
             // The names of the standard are English; without a dictionary they are what people should see.
             property->nameAliases.set(locale::Locale::get(1), name);
             m_propertySet->propertyDefs.push_back(std::move(property));
@@ -170,7 +172,7 @@ private:
 
     void readQuantity(std::string_view name, WordScanner& words)
     {
-        std::string const kind = "Q_" + schema::toUpperName(words.next());
+        std::string const kind = "Q_" + str::toUpper(words.next());
         std::unique_ptr<qto::QuantityType> type = qto::quantityTypeFromKind(kind);
         if (!type || !words.atEnd())
             fail("The kind of a quantity is expected.");

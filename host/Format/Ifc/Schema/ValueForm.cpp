@@ -8,6 +8,10 @@ namespace {
 
 using def::schema::Type;
 
+// The base kinds have the same numbers in both.
+static_assert(static_cast<int>(ValueForm::Kind::Real) == static_cast<int>(Type::BaseKind::Real));
+static_assert(static_cast<int>(ValueForm::Kind::Logical) == static_cast<int>(Type::BaseKind::Logical));
+
 ValueForm formOf(def::schema::DeclaredTypes const& levels)
 {
     def::schema::DeclaredType const& innermost = levels.back();

@@ -29,6 +29,7 @@ struct ValueForm
     bool operator==(ValueForm const&) const = default;
 };
 
+/// The form by the declared type, through all defined types.
 HOSTIFCSCHEMA_EXPORT ValueForm valueFormOf(def::schema::Attribute const& attribute);
 
 } // namespace qev::ifc

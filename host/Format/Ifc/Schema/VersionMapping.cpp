@@ -1,5 +1,6 @@
 #include "Format/Ifc/Schema/VersionMapping.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 
 #include "ifc2x3Mapping.h"
@@ -14,7 +15,7 @@ namespace {
 
 using Certainty = VersionMapping::Certainty;
 
-constexpr char const* modelVersion = "IFC4X3_TC1";
+constexpr char const* modelVersion = SchemaLoader::modelVersion;
 
 struct Choice
 {
@@ -26,7 +27,7 @@ std::string normalised(std::string_view name)
 {
     std::size_t const start = name.find_first_not_of(' ');
     name = start == std::string_view::npos ? std::string_view() : name.substr(start);
-    return def::schema::toUpperName(name.substr(0, name.find_first_of(" {")));
+    return str::toUpper(name.substr(0, name.find_first_of(" {")));
 }
 
 Choice chooseVersions(std::string const& name)

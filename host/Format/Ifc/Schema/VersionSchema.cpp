@@ -7,14 +7,6 @@ namespace qev::ifc {
 
 namespace {
 
-std::size_t classCount(std::vector<VersionSchema::Source> const& sources)
-{
-    std::size_t count = 0;
-    for (VersionSchema::Source const& source : sources)
-        count += source.schema->entities().size();
-    return count;
-}
-
 // The name in the model of an attribute of the file. The line for the nearest superclass counts.
 std::string_view modelName(def::schema::Entity const& entity, std::string_view attribute,
                            MappingTable const& table)
@@ -35,7 +27,6 @@ std::string_view modelName(def::schema::Entity const& entity, std::string_view a
 VersionSchema::VersionSchema(def::schema::Schema const& model, std::vector<Source> const& sources)
     : m_model(model)
     , m_file(*sources.front().schema)
-    , m_keywords(classCount(sources))
 {
     for (Source const& source : sources)
         addClasses(source);
@@ -44,24 +35,18 @@ VersionSchema::VersionSchema(def::schema::Schema const& model, std::vector<Sourc
 
 VersionSchema::~VersionSchema() = default;
 
-std::uint16_t VersionSchema::classOf(std::string_view keywordUpper) const
-{
-    std::uint16_t const position = m_keywords.find(keywordUpper);
-    return position == KeywordIndex::notFound ? std::uint16_t(0) : m_mappings[position].classNumber();
-}
-
 ClassMapping const* VersionSchema::find(std::string_view keywordUpper) const
 {
-    std::uint16_t const position = m_keywords.find(keywordUpper);
-    return position == KeywordIndex::notFound ? nullptr : &m_mappings[position];
+    auto const found = m_positions.find(keywordUpper);
+    return found == m_positions.end() ? nullptr : &m_mappings[found->second];
 }
 
 ClassMapping const* VersionSchema::forNewObject(unsigned int classNumber) const
 {
     if (classNumber >= m_forNewObjects.size())
         return nullptr;
-    std::uint16_t const position = m_forNewObjects[classNumber];
-    return position == KeywordIndex::notFound ? nullptr : &m_mappings[position];
+    auto const position = m_forNewObjects[classNumber];
+    return position ? &m_mappings[*position] : nullptr;
 }
 
 std::optional<std::string> VersionSchema::substituteItem(def::schema::DataTypeEnum const& target,
@@ -82,12 +67,11 @@ void VersionSchema::addClasses(Source const& source)
         assert::report(source.schema->name() + ", line " + std::to_string(error.line) + ": " + error.message,
                        "qev::ifc::VersionSchema::addClasses", "Format/Ifc/Schema/VersionSchema");
     for (def::schema::Entity const* const entity : source.schema->entities()) {
-        std::uint16_t const known = m_keywords.find(entity->nameUpper());
-        if (known == KeywordIndex::notFound) {
-            m_keywords.add(entity->nameUpper(), static_cast<std::uint16_t>(m_mappings.size()));
+        auto const [place, isNew] = m_positions.emplace(entity->nameUpper(), m_mappings.size());
+        if (isNew)
             m_mappings.push_back(mappingOf(*entity, table));
-        } else if (m_mappings[known].fileEntity().isAbstract() && !entity->isAbstract())
-            m_mappings[known] = mappingOf(*entity, table);
+        else if (m_mappings[place->second].fileEntity().isAbstract() && !entity->isAbstract())
+            m_mappings[place->second] = mappingOf(*entity, table);
     }
 }
 
@@ -135,16 +119,16 @@ void VersionSchema::pairSlots(ClassMapping& mapping, MappingTable const& table) 
 
 void VersionSchema::chooseClassesForNewObjects()
 {
-    m_forNewObjects.assign(m_model.entities().size() + 1, KeywordIndex::notFound);
+    m_forNewObjects.resize(m_model.entities().size() + 1);
     for (std::size_t number = 1; number < m_forNewObjects.size(); ++number) {
         auto const* level = m_model.entityFromNumber(static_cast<unsigned int>(number));
         for (; level; level = level->supertype()) {
-            std::uint16_t const position = m_keywords.find(level->nameUpper());
-            if (position == KeywordIndex::notFound)
+            auto const found = m_positions.find(level->nameUpper());
+            if (found == m_positions.end())
                 continue;
-            ClassMapping const& mapping = m_mappings[position];
+            ClassMapping const& mapping = m_mappings[found->second];
             if (!mapping.fileEntity().isAbstract() && mapping.modelEntity() == level) {
-                m_forNewObjects[number] = position;
+                m_forNewObjects[number] = found->second;
                 break;
             }
         }

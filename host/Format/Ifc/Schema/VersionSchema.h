@@ -2,10 +2,10 @@
 
 #include "Format/Ifc/Schema/ClassMapping.h"
 #include "Format/Ifc/Schema/DataTypeEnum.h"
-#include "Format/Ifc/Schema/KeywordIndex.h"
 #include "Format/Ifc/Schema/Schema.h"
 
 #include <optional>
+#include <unordered_map>
 
 namespace qev::ifc {
 
@@ -34,9 +34,6 @@ public:
     /// The version that comes first.
     [[nodiscard]] def::schema::Schema const& fileSchema() const { return m_file; }
 
-    /// The number of the model's class for the records of a keyword in capitals; 0 when the keyword is
-    /// unknown or the model has no counterpart.
-    [[nodiscard]] std::uint16_t classOf(std::string_view keywordUpper) const;
     /// All about the records of a keyword in capitals; null when the keyword is unknown.
     [[nodiscard]] ClassMapping const* find(std::string_view keywordUpper) const;
     /// How a new object of a class of the model is written: as its own class, else as the nearest superclass
@@ -60,9 +57,10 @@ private:
     def::schema::Schema const& m_model;
     def::schema::Schema const& m_file;
     std::vector<ClassMapping> m_mappings;
-    KeywordIndex m_keywords;
-    // By class number; an index into m_mappings, or KeywordIndex::notFound.
-    std::vector<std::uint16_t> m_forNewObjects;
+    // Positions in m_mappings. The keywords are those of the schemas.
+    std::unordered_map<std::string_view, std::size_t> m_positions;
+    // By class number, positions in m_mappings.
+    std::vector<std::optional<std::size_t>> m_forNewObjects;
 };
 
 } // namespace qev::ifc

@@ -1,5 +1,7 @@
 #include "Format/Ifc/Schema/Pset/TypePropertyBoundedValue.h"
 
+#include "Format/Ifc/Schema/Pset/ValueExport.h"
+
 namespace qev::ifc::def::pset {
 
 TypePropertyBoundedValue::TypePropertyBoundedValue() = default;
@@ -21,7 +23,7 @@ void TypePropertyBoundedValue::vExport(qev::xml::Element& parent, xml::ExtraExpo
         range.addChild("LowerBoundValue").setAttribute("value", lowerBound);
         range.addChild("UpperBoundValue").setAttribute("value", upperBound);
     }
-    exportDataType(element);
+    exportDataType(element, valueType, unit);
 }
 
 } // namespace qev::ifc::def::pset

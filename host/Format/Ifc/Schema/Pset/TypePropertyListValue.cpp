@@ -1,5 +1,6 @@
 #include "Format/Ifc/Schema/Pset/TypePropertyListValue.h"
 
+#include "Format/Ifc/Schema/Pset/ValueExport.h"
 #include "Format/Ifc/Schema/Pset/ValueTypeCheck.h"
 
 namespace qev::ifc::def::pset {
@@ -23,14 +24,8 @@ bool TypePropertyListValue::checkForErrors(schema::Schema const& schema, xml::Xm
 void TypePropertyListValue::vExport(qev::xml::Element& parent, xml::ExtraExportInfo* /*info*/) const
 {
     qev::xml::Element list = parent.addChild("TypePropertyListValue").addChild("ListValue");
-    list.addChild("DataType").setAttribute("type", valueType);
-    if (!unit.empty())
-        list.addChild("UnitType").setAttribute("type", unit);
-    if (values.empty())
-        return;
-    qev::xml::Element items = list.addChild("Values");
-    for (std::string const& value : values)
-        items.addChild("ValueItem", value);
+    exportDataType(list, valueType, unit);
+    exportValues(list, values);
 }
 
 } // namespace qev::ifc::def::pset

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Schema/Pset/TypePropertySingleValue.h"
 
+#include "Format/Ifc/Schema/Pset/ValueExport.h"
 #include "Format/Ifc/Schema/Pset/ValueTypeCheck.h"
 
 namespace qev::ifc::def::pset {
@@ -24,14 +25,7 @@ bool TypePropertySingleValue::checkForErrors(schema::Schema const& schema, xml::
 void TypePropertySingleValue::vExport(qev::xml::Element& parent, xml::ExtraExportInfo* /*info*/) const
 {
     qev::xml::Element element = parent.addChild("TypePropertySingleValue");
-    exportDataType(element);
-}
-
-void TypePropertySingleValue::exportDataType(qev::xml::Element& parent) const
-{
-    parent.addChild("DataType").setAttribute("type", valueType);
-    if (!unit.empty())
-        parent.addChild("UnitType").setAttribute("type", unit);
+    exportDataType(element, valueType, unit);
 }
 
 } // namespace qev::ifc::def::pset

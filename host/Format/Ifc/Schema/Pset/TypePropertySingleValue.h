@@ -18,10 +18,6 @@ public:
 
     /// The unit as published, for example "LENGTHUNIT"; empty where the value type says it all.
     std::string unit;
-
-protected:
-    /// Appends type and unit of the value.
-    void exportDataType(qev::xml::Element& parent) const;
 };
 
 } // namespace qev::ifc::def::pset

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Schema/Pset/TypePropertyTableValue.h"
 
+#include "Format/Ifc/Schema/Pset/ValueExport.h"
 #include "Format/Ifc/Schema/Pset/ValueTypeCheck.h"
 
 namespace qev::ifc::def::pset {
@@ -10,14 +11,8 @@ void exportColumn(qev::xml::Element& table, std::string_view name, std::string c
                   std::string const& unit, std::vector<std::string> const& values)
 {
     qev::xml::Element column = table.addChild(name);
-    column.addChild("DataType").setAttribute("type", type);
-    if (!unit.empty())
-        column.addChild("UnitType").setAttribute("type", unit);
-    if (values.empty())
-        return;
-    qev::xml::Element items = column.addChild("Values");
-    for (std::string const& value : values)
-        items.addChild("ValueItem", value);
+    exportDataType(column, type, unit);
+    exportValues(column, values);
 }
 
 } // namespace

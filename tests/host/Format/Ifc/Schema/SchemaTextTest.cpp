@@ -1,8 +1,8 @@
 #include "Format/Ifc/Schema/SchemaText.h"
 
+#include "Core/String/Hash.h"
 #include "Format/Ifc/Schema/AttributeBase.h"
 #include "Format/Ifc/Schema/DataTypeEnum.h"
-#include "Format/Ifc/Schema/NameHash.h"
 #include "Format/Ifc/Schema/Select.h"
 #include "Format/Ifc/Schema/Type.h"
 #include "ReportRecorder.h"
@@ -90,8 +90,8 @@ TEST(SchemaText, NamesAreFoundInCapitals)
     EXPECT_EQ(schema->find("ToyBush"), nullptr);
     EXPECT_EQ(schema->find(""), nullptr);
     EXPECT_EQ(schema->find("REAL"), nullptr);
-    EXPECT_EQ(schema->find("TOYBUSH", nameHash("TOYBUSH")), schema->find("TOYBUSH"));
-    EXPECT_EQ(schema->find("TOYBUSH")->hash(), nameHash("TOYBUSH"));
+    EXPECT_EQ(schema->find("TOYBUSH", qev::str::fnv1a("TOYBUSH")), schema->find("TOYBUSH"));
+    EXPECT_EQ(schema->find("TOYBUSH")->hash(), qev::str::fnv1a("TOYBUSH"));
 }
 
 TEST(SchemaText, OnlyEntitiesAreFoundAsEntities)
@@ -270,18 +270,11 @@ TEST(SchemaText, ClassesAreNumberedDepthFirstBySiblingsInCharacterOrder)
     EXPECT_FALSE(schema->findEntity("TOYPOT")->isA(*schema->findEntity("TOYTHING")));
 }
 
-TEST(SchemaText, TheHashIsThatOfTheNamesBytes)
-{
-    EXPECT_EQ(nameHash(""), 0x811C9DC5U);
-    EXPECT_EQ(nameHash("a"), 0xE40C292CU);
-    EXPECT_EQ(nameHash("foobar"), 0xBF9CF968U);
-}
-
 // Two pairs of names with one hash each, of equal and of different lengths.
 TEST(SchemaText, NamesWithEqualHashesAreToldApart)
 {
-    ASSERT_EQ(nameHash("IFCNMBKTOVK"), nameHash("IFCZWHVIOVU"));
-    ASSERT_EQ(nameHash("IFCENVZ"), nameHash("IFCMDHND"));
+    ASSERT_EQ(qev::str::fnv1a("IFCNMBKTOVK"), qev::str::fnv1a("IFCZWHVIOVU"));
+    ASSERT_EQ(qev::str::fnv1a("IFCENVZ"), qev::str::fnv1a("IFCMDHND"));
     auto const schema = parseSchema("schema T\nentity IFCZWHVIOVU\nentity IFCNMBKTOVK\nentity IFCMDHND\n"
                                     "entity IFCENVZ\nentity IFCWALL\n");
     for (char const* const name : {"IFCZWHVIOVU", "IFCNMBKTOVK", "IFCMDHND", "IFCENVZ", "IFCWALL"})

@@ -76,12 +76,12 @@ protected:
 
 TEST_F(ToyVersion, KeywordsGiveClassNumbers)
 {
-    EXPECT_EQ(version.classOf("BUSH"), newSchema->findEntity("BUSH")->firstNumber());
-    EXPECT_EQ(version.classOf("LAKE"), newSchema->findEntity("POND")->firstNumber());
-    EXPECT_EQ(version.classOf("ROCK"), 0);
-    EXPECT_EQ(version.classOf("POND"), 0);
-    EXPECT_EQ(version.classOf("bush"), 0);
-    EXPECT_EQ(version.classOf(""), 0);
+    EXPECT_EQ(version.find("BUSH")->classNumber(), newSchema->findEntity("BUSH")->firstNumber());
+    EXPECT_EQ(version.find("LAKE")->classNumber(), newSchema->findEntity("POND")->firstNumber());
+    EXPECT_EQ(version.find("ROCK")->classNumber(), 0);
+    EXPECT_EQ(version.find("POND"), nullptr);
+    EXPECT_EQ(version.find("bush"), nullptr);
+    EXPECT_EQ(version.find(""), nullptr);
 }
 
 TEST_F(ToyVersion, AVanishedClassKeepsItsKeyword)
