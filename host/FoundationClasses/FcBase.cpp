@@ -1,5 +1,6 @@
 #include "FoundationClasses/FcBase.h"
 
+#include "Core/String/Hash.h"
 #include "Core/Unit/QuantityPresentation.h"
 #include "Core/Unit/QuantityPresentationFactory.h"
 #include "FoundationClasses/AttributeOperations.h"
@@ -17,22 +18,12 @@ namespace qev::fc {
 
 namespace {
 
-std::uint32_t fnv1a(std::string_view text)
-{
-    std::uint32_t hash = 0x811C9DC5u;
-    for (char const c : text) {
-        hash ^= static_cast<unsigned char>(c);
-        hash *= 16777619u;
-    }
-    return hash;
-}
-
 /// By class number.
 std::vector<std::uint32_t> hashesOfNames(char const* EntityClass::*name)
 {
     std::vector<std::uint32_t> hashes;
     for (unsigned int number = 0; number <= FcBase::idLast; ++number)
-        hashes.push_back(fnv1a(entityClassFromNumber(number)->*name));
+        hashes.push_back(str::fnv1a(entityClassFromNumber(number)->*name));
     return hashes;
 }
 

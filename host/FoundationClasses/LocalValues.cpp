@@ -118,10 +118,6 @@ struct StepOfLocalValue
     }
 };
 
-} // namespace
-
-namespace {
-
 /// What a reference, or a select that holds one, leads to; null for a set of entities.
 std::shared_ptr<FcBase> onlyEntityOf(AttributeBase const& attribute, AttributeOperations const& operations)
 {

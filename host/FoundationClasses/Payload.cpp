@@ -15,17 +15,9 @@ namespace {
 using step::StepValue;
 using Kind = StepValue::Kind;
 
-std::string_view trimmed(std::string_view text)
-{
-    auto const first = text.find_first_not_of(" \t\r\n");
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
-
 std::optional<std::int64_t> parseInteger(std::string_view text)
 {
-    text = trimmed(text);
+    text = str::trimmed(text);
     if (!text.empty() && text.front() == '+')
         text.remove_prefix(1);
     std::int64_t number = 0;
@@ -35,13 +27,13 @@ std::optional<std::int64_t> parseInteger(std::string_view text)
     return number;
 }
 
-std::optional<double> parseReal(std::string_view text) { return str::parseDouble(trimmed(text)); }
+std::optional<double> parseReal(std::string_view text) { return str::parseDouble(str::trimmed(text)); }
 
 /// The form that `payloadText` gives of a list: "(48, 8, 0)".
 template <class Number, class Parse>
 std::optional<Payload> parseList(std::string_view text, Parse parse)
 {
-    text = trimmed(text);
+    text = str::trimmed(text);
     if (text.size() < 2 || text.front() != '(' || text.back() != ')')
         return std::nullopt;
     text = text.substr(1, text.size() - 2);
@@ -67,7 +59,7 @@ bool isBinary(std::string_view digits)
 
 std::optional<Payload> parseTruth(ValueKind kind, std::string_view text)
 {
-    std::string const word = str::toLower(trimmed(text));
+    std::string const word = str::toLower(str::trimmed(text));
     bool const isTrue = word == "true" || word == "1";
     bool const isFalse = word == "false" || word == "0";
     if (kind == ValueKind::Boolean)

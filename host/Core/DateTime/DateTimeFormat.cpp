@@ -1,5 +1,7 @@
 #include "Core/DateTime/DateTimeFormat.h"
 
+#include "Core/String/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -21,7 +23,7 @@ std::optional<int> takeNumber(std::string_view& text, std::size_t count)
         return std::nullopt;
     int number = 0;
     for (char const character : text.substr(0, count)) {
-        if (character < '0' || character > '9')
+        if (!str::isDigit(character))
             return std::nullopt;
         number = number * 10 + (character - '0');
     }

@@ -25,7 +25,8 @@ constexpr std::array<std::pair<char const*, char const*>, 9> numbered = {{
 bool isWord(std::string_view text, std::size_t shortest, std::size_t longest)
 {
     return text.size() >= shortest && text.size() <= longest &&
-           std::all_of(text.begin(), text.end(), [](char c) { return str::toLower(c) >= 'a' && str::toLower(c) <= 'z'; });
+           std::all_of(text.begin(), text.end(),
+                       [](char c) { return str::toLower(c) >= 'a' && str::toLower(c) <= 'z'; });
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "Core/String/NumberText.h"
 
+#include "Core/String/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -31,7 +33,7 @@ bool isDecimalNumber(std::string_view text)
     std::size_t position = 0;
     auto const digits = [&] {
         std::size_t const start = position;
-        while (position < text.size() && text[position] >= '0' && text[position] <= '9')
+        while (position < text.size() && isDigit(text[position]))
             ++position;
         return position - start;
     };

@@ -13,7 +13,7 @@ namespace qev::unit {
 
 namespace {
 
-bool isDigit(char character) { return character >= '0' && character <= '9'; }
+using str::isDigit;
 
 bool isLetter(char character)
 {

@@ -1,5 +1,6 @@
 #include "Ui/PropertyGrid/PropertyGridNumber.h"
 
+#include "Core/String/Ascii.h"
 #include "Core/Unit/QuantityPresentation.h"
 
 #include <array>
@@ -17,19 +18,10 @@ std::string shortestText(double value)
     return {buffer.data(), result.ptr};
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    constexpr auto blanks = " \t";
-    auto const first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 /// Reads a plain number with a point or a comma as decimal sign.
 std::optional<double> readPlain(std::string_view text)
 {
-    std::string plain(trimmed(text));
+    std::string plain(str::trimmed(text, " \t"));
     if (auto const comma = plain.find(','); comma != std::string::npos)
         plain[comma] = '.';
     if (plain.starts_with('+') && !plain.starts_with("+-"))

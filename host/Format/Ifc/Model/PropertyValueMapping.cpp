@@ -1,5 +1,6 @@
 #include "Format/Ifc/Model/PropertyValueMapping.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Model/PropertyDefinitions.h"
 #include "Format/Ifc/Schema/Pset/PropertyDef.h"
 #include "Format/Ifc/Schema/Pset/TypePropertyEnumeratedValue.h"
@@ -74,21 +75,12 @@ void takeOver(FcValue& target, FcValue const& source)
         target.setValueOnTypeFromString(*text);
 }
 
-std::string trimmed(std::string const& text)
-{
-    constexpr char const* blanks = " \t\r\n";
-    auto const first = text.find_first_not_of(blanks);
-    if (first == std::string::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 std::vector<std::string> textsOf(std::vector<FcValue> const& values)
 {
     std::vector<std::string> texts;
     for (FcValue const& value : values) {
         if (auto const text = value.getAsString(false))
-            texts.push_back(trimmed(*text));
+            texts.emplace_back(str::trimmed(*text));
     }
     return texts;
 }

@@ -1,5 +1,6 @@
 #include "Format/Ifc/Model/Spelling.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Step/StepRecordParser.h"
 #include "Format/Ifc/Step/StepWriter.h"
 
@@ -51,14 +52,6 @@ std::size_t skipOpaque(std::string_view text, std::size_t position)
     return position + 1;
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    auto const first = text.find_first_not_of(" \t\r\n");
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
-
 /// The texts of the elements of a list, without its parentheses.
 std::vector<std::string_view> elementsOf(std::string_view list)
 {
@@ -70,10 +63,10 @@ std::vector<std::string_view> elementsOf(std::string_view list)
         depth += inner[position] == '(' ? 1 : inner[position] == ')' ? -1 : 0;
         if (inner[position] != ',' || depth != 0)
             continue;
-        elements.push_back(trimmed(inner.substr(start, position - start)));
+        elements.push_back(str::trimmed(inner.substr(start, position - start)));
         start = position + 1;
     }
-    elements.push_back(trimmed(inner.substr(start)));
+    elements.push_back(str::trimmed(inner.substr(start)));
     return elements;
 }
 
@@ -108,7 +101,7 @@ std::string withOldSpelling(std::string_view before, StepValue const& after)
 
 std::string respelled(std::string_view before, StepValue const& after)
 {
-    std::string text = withOldSpelling(trimmed(before), after);
+    std::string text = withOldSpelling(str::trimmed(before), after);
     // Odd escapes may hide where an element ends; then the plain text is the safe one.
     auto const readBack = valueOf(text);
     return readBack && isSame(*readBack, after) ? text : step::StepWriter::value(after);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Step/StepFile.h"
 #include "Format/Ifc/Step/StructuralScanner.h"
 
@@ -100,8 +101,8 @@ private:
 /// Whether the apostrophe at \p position belongs to an escape `\S\'` of the text that begins at \p begin.
 bool isHiddenApostrophe(char const* begin, char const* position);
 
+using str::isDigit;
 inline bool isBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
-inline bool isDigit(char c) { return static_cast<unsigned char>(c - '0') < 10; }
 inline bool isLetter(char c) { return static_cast<unsigned char>((c | 0x20) - 'a') < 26; }
 inline bool isKeywordStart(char c) { return isLetter(c) || c == '_' || c == '!'; }
 inline bool isKeywordCharacter(char c) { return isLetter(c) || isDigit(c) || c == '_'; }

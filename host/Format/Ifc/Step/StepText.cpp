@@ -1,5 +1,6 @@
 #include "Format/Ifc/Step/StepText.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Step/StepCodePages.h"
 
 #include <algorithm>
@@ -87,7 +88,7 @@ std::optional<char32_t> readHexadecimal(std::string_view bytes, std::size_t digi
         return std::nullopt;
     char32_t number = 0;
     for (char const c : bytes.substr(0, digits)) {
-        if (c >= '0' && c <= '9')
+        if (str::isDigit(c))
             number = number << 4 | static_cast<char32_t>(c - '0');
         else if (c >= 'A' && c <= 'F')
             number = number << 4 | static_cast<char32_t>(c - 'A' + 10);

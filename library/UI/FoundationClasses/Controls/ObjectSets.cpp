@@ -1,5 +1,6 @@
 #include "UI/FoundationClasses/Controls/ObjectSets.h"
 
+#include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/Xml/SetDef.h"
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
@@ -35,7 +36,7 @@ bool isForOtherPredefinedType(ifc::def::xml::SetDef const& set, std::string cons
 {
     bool isTied = false;
     for (auto const& applicable : set.applicableClasses) {
-        if (ifc::def::schema::toUpperName(applicable.className) != className)
+        if (str::toUpper(applicable.className) != className)
             continue;
         if (applicable.predefinedType.empty() || applicable.predefinedType == predefinedType)
             return false;
