@@ -33,7 +33,8 @@ void addObjects(CLI::App& command, ObjectSelection& objects, bool mayBeAll)
 {
     auto* const group = command.add_option_group("objects", "which objects");
     group->add_option("--object", objects.globalIds, "GlobalId of an object; may be given several times");
-    group->add_option("--class", objects.className, "all objects of a class and its subclasses, such as IfcWall");
+    group->add_option("--class", objects.className,
+                      "all objects of a class and its subclasses, such as IfcWall");
     if (mayBeAll)
         group->add_flag("--all", objects.all, "every object, type and project");
     group->require_option(1);
@@ -57,7 +58,8 @@ struct CommandLine
 
 void CommandLine::addTo(CLI::App& app)
 {
-    auto* command = app.add_subcommand("info", "schema, author, counts by class, and what is wrong with the file");
+    auto* command =
+        app.add_subcommand("info", "schema, author, counts by class, and what is wrong with the file");
     addFile(*command, info.file);
     addFormat(*command, info.format);
     command->add_flag("--quick", info.quick, "only what opening finds, without reading every record");
@@ -92,14 +94,17 @@ void CommandLine::addTo(CLI::App& app)
     addFile(*command, set.file);
     addOutput(*command, set.output);
     addObjects(*command, set.objects, false);
-    command->add_option("--property", set.property, "set name, a dot and property name: Pset_WallCommon.FireRating")
+    command
+        ->add_option("--property", set.property,
+                     "set name, a dot and property name: Pset_WallCommon.FireRating")
         ->required();
     command->add_option("--value", set.value, "what to type into the row; empty clears it")->required();
     command->callback([this] { run = [this] { return runSet(set); }; });
 
     app.add_flag("--reports", showReports, "print reports of programming errors on the error stream");
     app.add_option("--definitions", definitions,
-                   "property-set definitions in the standard's XML form, a file or a folder; may be given several times");
+                   "property-set definitions in the standard's XML form, a file or a folder; may be given "
+                   "several times");
     app.require_subcommand(1);
 }
 
@@ -124,7 +129,8 @@ int main(int argc, char** argv)
     } catch (CLI::ParseError const& error) {
         return app.exit(error) == 0 ? 0 : static_cast<int>(ExitCode::BadUsage);
     }
-    // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers only.
+    // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
+    // only.
     qev::assert::Assert::setEnabled(commandLine.showReports);
     std::future<void> const schemas = readSchemasAhead();
     if (!addDefinitions(commandLine.definitions))

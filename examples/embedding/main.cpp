@@ -25,8 +25,14 @@ class WallsOnly final : public fc::ui::PropertySetDefinitionFilterInterface
 {
 public:
     void setObject(std::shared_ptr<fc::FcBase>) override {}
-    [[nodiscard]] bool isSetIncluded(std::string const& setName) const override { return setName == "Pset_WallCommon"; }
-    [[nodiscard]] bool isPropertyIncluded(std::string const&, std::string const&) const override { return true; }
+    [[nodiscard]] bool isSetIncluded(std::string const& setName) const override
+    {
+        return setName == "Pset_WallCommon";
+    }
+    [[nodiscard]] bool isPropertyIncluded(std::string const&, std::string const&) const override
+    {
+        return true;
+    }
 };
 
 std::shared_ptr<FcWall> addWall(fc::Data& data)
@@ -47,7 +53,8 @@ int main()
     auto const backend = ui::HeadlessBackend::install();
     auto const dialog = backend->createDialog({800, 600}, "Embedding");
 
-    using Formatters = fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>;
+    using Formatters =
+        fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>;
     auto const control = std::make_shared<fc::ui::PropertySetGridControl>(
         ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), data, dialog, std::make_shared<WallsOnly>(),
         Formatters{}, std::vector<std::string>{"IfcProperties"}, nullptr);
