@@ -106,8 +106,9 @@ TEST_F(CommandLine, ObjectsAreListedByClass)
 
 TEST_F(CommandLine, ObjectsTellWhatTheyAreIn)
 {
+    Json const document = json("objects " + sample("office-IFC4X3.ifc"));
     std::map<std::string, Json> objects;
-    for (Json const& object : json("objects " + sample("office-IFC4X3.ifc"))["objects"])
+    for (Json const& object : document["objects"])
         objects[object["globalId"]] = object;
     auto const containerOf = [&objects](std::string const& globalId) {
         return objects.at(globalId).at("container");
