@@ -131,6 +131,9 @@ std::shared_ptr<FcBase> onlyEntityOf(AttributeBase const& attribute, AttributeOp
 
 LocalValue localValueOf(AttributeBase const& attribute, AttributeDescriptor const& descriptor)
 {
+    bool const isOfEntities = descriptor.kind == ValueKind::Reference || descriptor.kind == ValueKind::Select;
+    if (isOfEntities && descriptor.depth != 0)
+        return {};
     AttributeOperations const& operations = *descriptor.operations;
     if (operations.isUnset(attribute))
         return {{LocalValue::Unset(), std::nullopt}};

@@ -8,7 +8,7 @@ namespace qev::fc {
 class AttributeBase;
 struct AttributeDescriptor;
 
-/// The attribute as the generic property access sees it.
+/// The attribute as the generic property access sees it. A list of entities is no value: it gives nothing.
 HOSTFOUNDATIONCLASSES_EXPORT LocalValue localValueOf(AttributeBase const& attribute,
                                                      AttributeDescriptor const& descriptor);
 

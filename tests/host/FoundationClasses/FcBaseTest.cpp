@@ -13,6 +13,7 @@
 #include "FoundationClasses/Resource/Utility/FcOwnerHistory.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcDoor.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
+#include "FoundationClasses/Shared/SharedBldgElements/FcWallType.h"
 #include "kit/ModelBuilder.h"
 #include "Object/Property.h"
 
@@ -192,6 +193,17 @@ TEST(AttributeLocalValue, OfAListIsAList)
     auto const other = std::make_shared<fc::resource::geometry::FcCartesianPoint>();
     EXPECT_TRUE(other->setLocalValue(value, id("Coordinates")));
     EXPECT_THAT(other->Coordinates.get(), ElementsAre(1.0, 2.0));
+}
+
+TEST(AttributeLocalValue, OfAListOfEntitiesIsNothing)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    model.aggregate(model.storey("S1"), {wall});
+    auto const relation = wall->Decomposes()[0].lock();
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(relation->getLocalValue(id("RelatedObjects")).value));
+    auto const type = std::make_shared<fc::shared::sharedbldgelements::FcWallType>();
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(type->getLocalValue(id("HasPropertySets")).value));
 }
 
 TEST(AttributeLocalValue, IsStoredWhereItFits)

@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <numbers>
 
 namespace qev::fc::core::productextension {
 
@@ -11,8 +10,6 @@ namespace {
 
 /// Six decimals of a degree are about ten centimetres on the ground.
 constexpr int decimals = 6;
-
-double degrees(double radians) { return radians * 180.0 / std::numbers::pi; }
 
 std::string textOf(double number)
 {
@@ -28,8 +25,8 @@ std::optional<std::string> FcSite::getMapURL() const
 {
     if (!RefLatitude.get() || !RefLongitude.get())
         return std::nullopt;
-    double const latitude = degrees((*RefLatitude)->angleMeasure());
-    double const longitude = degrees((*RefLongitude)->angleMeasure());
+    double const latitude = (*RefLatitude)->angleMeasure();
+    double const longitude = (*RefLongitude)->angleMeasure();
     if (std::abs(latitude) > 90.0 || std::abs(longitude) > 180.0)
         return std::nullopt;
     std::string const latitudeText = textOf(latitude);

@@ -6,24 +6,23 @@
 #include "FoundationClasses/Payload.h"
 
 #include <cmath>
-#include <numbers>
 #include <utility>
 
 namespace qev::fc::resource::measure {
 
 namespace {
 
-constexpr double fullTurn = 2.0 * std::numbers::pi;
+constexpr double degreesOfTurn = 360.0;
 constexpr std::int64_t millionthsOfSecond = 1'000'000;
 constexpr std::int64_t millionthsOfMinute = 60 * millionthsOfSecond;
 constexpr std::int64_t millionthsOfDegree = 60 * millionthsOfMinute;
 constexpr std::int64_t millionthsOfTurn = 360 * millionthsOfDegree;
 
-std::vector<std::int64_t> componentsOf(double radians)
+std::vector<std::int64_t> componentsOf(double degrees)
 {
-    double const withinTurn = std::isfinite(radians) ? std::fmod(radians, fullTurn) : 0.0;
+    double const withinTurn = std::isfinite(degrees) ? std::fmod(degrees, degreesOfTurn) : 0.0;
     // Division of whole numbers cuts towards zero, which gives all components the sign of the angle.
-    std::int64_t const all = std::llround(withinTurn / fullTurn * millionthsOfTurn) % millionthsOfTurn;
+    std::int64_t const all = std::llround(withinTurn * millionthsOfDegree) % millionthsOfTurn;
     return {all / millionthsOfDegree, all % millionthsOfDegree / millionthsOfMinute,
             all % millionthsOfMinute / millionthsOfSecond, all % millionthsOfSecond};
 }
@@ -35,8 +34,8 @@ FcCompoundPlaneAngleMeasure::FcCompoundPlaneAngleMeasure(std::vector<std::int64_
 {
 }
 
-FcCompoundPlaneAngleMeasure::FcCompoundPlaneAngleMeasure(double radians)
-    : m_components(componentsOf(radians))
+FcCompoundPlaneAngleMeasure::FcCompoundPlaneAngleMeasure(double degrees)
+    : m_components(componentsOf(degrees))
 {
 }
 
@@ -46,7 +45,7 @@ double FcCompoundPlaneAngleMeasure::angleMeasure() const
     double all = 0.0;
     for (std::size_t i = 0; i < m_components.size() && i < std::size(scales); ++i)
         all += static_cast<double>(m_components[i]) * static_cast<double>(scales[i]);
-    return all / static_cast<double>(millionthsOfTurn) * fullTurn;
+    return all / static_cast<double>(millionthsOfDegree);
 }
 
 bool read(FcCompoundPlaneAngleMeasure& angle, AttributeDescriptor const& attribute,

@@ -25,12 +25,12 @@ public:
     FcCompoundPlaneAngleMeasure() = default;
     /// The components as a file has them: three, or four with the millionths.
     explicit FcCompoundPlaneAngleMeasure(std::vector<std::int64_t> components);
-    /// An angle in radians, to the nearest millionth of a second. Whole turns are taken off; what is no
+    /// An angle in degrees, to the nearest millionth of a second. Whole turns are taken off; what is no
     /// finite number gives 0.
-    explicit FcCompoundPlaneAngleMeasure(double radians);
+    explicit FcCompoundPlaneAngleMeasure(double degrees);
 
     [[nodiscard]] std::vector<std::int64_t> const& components() const { return m_components; }
-    /// The angle in radians.
+    /// The angle in degrees, the unit of its components, which no file can choose otherwise.
     [[nodiscard]] double angleMeasure() const;
 
     friend bool operator==(FcCompoundPlaneAngleMeasure const&, FcCompoundPlaneAngleMeasure const&) = default;

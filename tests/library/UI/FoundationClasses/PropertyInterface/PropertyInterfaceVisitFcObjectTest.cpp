@@ -1,7 +1,7 @@
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 
-#include "FoundationClasses/Selects/FcPropertySetDefinitionSelect.h"
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
+#include "FoundationClasses/Selects/FcPropertySetDefinitionSelect.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWallType.h"
 #include "kit/ModelBuilder.h"
