@@ -4,8 +4,11 @@
 #include "Format.h"
 #include "Objects.h"
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 /// The commands of `qev-ifc`. Each prints its result on the standard output and what went wrong on the
 /// error stream.
@@ -58,11 +61,25 @@ struct SetOptions
     std::string value;
 };
 
+struct EntityOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    /// Which entity: by its global id, by the number of its record, or every one.
+    std::string globalId;
+    std::optional<std::uint64_t> id;
+    bool all = false;
+    /// Edits, "path=value" each, and the file to write.
+    std::vector<std::string> assignments;
+    std::filesystem::path output;
+};
+
 ExitCode runInfo(InfoOptions const& options);
 ExitCode runSave(SaveOptions const& options);
 ExitCode runObjects(ObjectsOptions const& options);
 ExitCode runSets(SetsOptions const& options);
 ExitCode runGrid(GridOptions const& options);
 ExitCode runSet(SetOptions const& options);
+ExitCode runEntity(EntityOptions const& options);
 
 } // namespace qev::application

@@ -49,6 +49,7 @@ struct CommandLine
     SetsOptions sets;
     GridOptions grid;
     SetOptions set;
+    EntityOptions entity;
     bool showReports = false;
     std::vector<std::filesystem::path> definitions;
     std::function<ExitCode()> run;
@@ -100,6 +101,18 @@ void CommandLine::addTo(CLI::App& app)
         ->required();
     command->add_option("--value", set.value, "what to type into the row; empty clears it")->required();
     command->callback([this] { run = [this] { return runSet(set); }; });
+
+    command = app.add_subcommand("entity", "the tree of properties of any entity");
+    addFile(*command, entity.file);
+    addFormat(*command, entity.format);
+    auto* const which = command->add_option_group("entity", "which entity");
+    which->add_option("--object", entity.globalId, "the GlobalId of the entity");
+    which->add_option("--id", entity.id, "the number of its record: 12 for #12");
+    which->add_flag("--all", entity.all, "every entity of the file, one document a line as JSON");
+    which->require_option(1);
+    command->add_option("--set", entity.assignments, "path=value, what to change; may be given several times");
+    command->add_option("--output", entity.output, "the file to write; it may be FILE itself");
+    command->callback([this] { run = [this] { return runEntity(entity); }; });
 
     app.add_flag("--reports", showReports, "print reports of programming errors on the error stream");
     app.add_option("--definitions", definitions,
