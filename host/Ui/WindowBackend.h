@@ -16,6 +16,7 @@
 namespace qev::ui {
 
 class PopupMenu;
+class ProgressBarInterface;
 class PropertyGridPropertyInterface;
 class Window;
 class WindowInterface;
@@ -64,6 +65,9 @@ public:
     virtual void showMessage(MessageBox::Message message) = 0;
     /// Lets the user choose from \p menu. \returns the index of the entry; nothing when the user chose none.
     virtual std::optional<std::size_t> showPopupMenu(PopupMenu const& menu, Position const& position) = 0;
+    /// A progress bar for a long operation that is about to begin.
+    [[nodiscard]] virtual std::unique_ptr<ProgressBarInterface>
+    createProgressBar(std::string const& title) = 0;
 };
 
 } // namespace qev::ui

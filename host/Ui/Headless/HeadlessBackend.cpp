@@ -112,6 +112,23 @@ void HeadlessBackend::dropFocusBelow(HeadlessWindow const& window)
         setFocusedWindow(nullptr);
 }
 
+std::vector<HeadlessProgress> HeadlessBackend::getProgress() const
+{
+    std::vector<HeadlessProgress> running;
+    for (auto const& entry : m_progress)
+        if (auto const progress = entry.lock())
+            running.push_back(*progress);
+    return running;
+}
+
+std::string HeadlessBackend::dump() const
+{
+    std::string text;
+    for (auto const& window : m_topLevelWindows)
+        text += window->dumpTree();
+    return text;
+}
+
 void HeadlessBackend::removeTopLevelWindow(HeadlessWindow const& window)
 {
     std::erase_if(m_topLevelWindows, [&](auto const& candidate) { return candidate.get() == &window; });
@@ -161,6 +178,15 @@ std::optional<std::size_t> HeadlessBackend::showPopupMenu(PopupMenu const& menu,
     if (!answer || *answer >= menu.getEntries().size() || !menu.getEntries()[*answer]->isEnabled())
         return std::nullopt;
     return answer;
+}
+
+std::unique_ptr<ProgressBarInterface> HeadlessBackend::createProgressBar(std::string const& title)
+{
+    std::erase_if(m_progress, [](auto const& entry) { return entry.expired(); });
+    auto const progress = std::make_shared<HeadlessProgress>();
+    progress->title = title;
+    m_progress.push_back(progress);
+    return std::make_unique<HeadlessProgressBar>(progress, m_progressAnswer);
 }
 
 void HeadlessBackend::insertWindow(std::shared_ptr<HeadlessWindow> const& window, HeadlessWindow* owner)

@@ -2,6 +2,7 @@
 
 #include "HostUiExport.h"
 #include "Ui/Headless/HeadlessListControl.h"
+#include "Ui/Headless/HeadlessProgressBar.h"
 #include "Ui/Headless/HeadlessPropertyGrid.h"
 #include "Ui/Headless/HeadlessWindow.h"
 #include "Ui/Window/Dialog.h"
@@ -66,6 +67,14 @@ public:
     /// The messages shown so far; each was closed at once.
     [[nodiscard]] std::vector<MessageBox::Message> const& getMessages() const { return m_messages; }
 
+    /// Looks at each step of the progress bars that begin from now on, and can stop the operation.
+    void setProgressAnswer(HeadlessProgressBar::Answer answer) { m_progressAnswer = std::move(answer); }
+    /// What the progress bars of running operations show, the outermost first.
+    [[nodiscard]] std::vector<HeadlessProgress> getProgress() const;
+
+    /// All windows that stand alone, with those below them, as lines of text.
+    [[nodiscard]] std::string dump() const;
+
     void removeTopLevelWindow(HeadlessWindow const& window);
 
     WindowHandle createWindow(WindowCreation const& creation) override;
@@ -75,6 +84,7 @@ public:
     [[nodiscard]] bool isDescendant(WindowHandle const& window, WindowHandle const& ancestor) const override;
     void showMessage(MessageBox::Message message) override;
     std::optional<std::size_t> showPopupMenu(PopupMenu const& menu, Position const& position) override;
+    [[nodiscard]] std::unique_ptr<ProgressBarInterface> createProgressBar(std::string const& title) override;
 
     /// Puts \p window below \p owner, or on its own for a null owner.
     void insertWindow(std::shared_ptr<HeadlessWindow> const& window, HeadlessWindow* owner);
@@ -86,6 +96,8 @@ private:
     std::optional<Position> m_cursorPosition;
     MenuAnswer m_menuAnswer;
     std::vector<MessageBox::Message> m_messages;
+    HeadlessProgressBar::Answer m_progressAnswer;
+    std::vector<std::weak_ptr<HeadlessProgress const>> m_progress;
 };
 
 } // namespace qev::ui

@@ -106,6 +106,9 @@ public:
     [[nodiscard]] ListControlSettings const& getSettings() const { return m_settings; }
     void loadSettings(ListControlSettings const& settings) { m_settings = settings; }
 
+protected:
+    [[nodiscard]] std::string dumpContent() const override { return dump(); }
+
 private:
     [[nodiscard]] std::shared_ptr<ListControl> getListControl() const;
     [[nodiscard]] bool isReachableCell(std::size_t row, std::size_t column) const;

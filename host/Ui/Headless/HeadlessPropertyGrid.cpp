@@ -63,6 +63,40 @@ HeadlessPropertyGrid::Row HeadlessPropertyGrid::findRow(std::vector<std::string>
     return found == visible.end() ? nullptr : *found;
 }
 
+bool HeadlessPropertyGrid::select(Row const& row)
+{
+    if (!isReachableRow(row) || row->getState().kind == PropertyGridRowState::Kind::EmptyLine)
+        return false;
+    m_current = PropertyGridRowRecord::getPath(*row);
+    return true;
+}
+
+HeadlessPropertyGrid::Row HeadlessPropertyGrid::getCurrentRow() const { return findRow(m_current); }
+
+bool HeadlessPropertyGrid::selectNextEditable(bool forwards)
+{
+    auto visible = rows();
+    if (!forwards)
+        std::reverse(visible.begin(), visible.end());
+    auto const current = std::find(visible.begin(), visible.end(), getCurrentRow());
+    auto const next = std::find_if(
+        current == visible.end() ? visible.begin() : std::next(current), visible.end(),
+        [](Row const& row) { return PropertyGridEditing::getEditor(*row) != PropertyGridEditor::None; });
+    return next != visible.end() && select(*next);
+}
+
+std::string HeadlessPropertyGrid::getDescription() const
+{
+    auto const row = getCurrentRow();
+    return row ? row->getState().description : std::string();
+}
+
+std::string HeadlessPropertyGrid::copy() const
+{
+    auto const row = getCurrentRow();
+    return row ? PropertyGridText::getCopiedText(*row) : std::string();
+}
+
 bool HeadlessPropertyGrid::type(Row const& row, std::string_view text)
 {
     return drive(row, PropertyGridEditing::commitText, text);

@@ -36,6 +36,19 @@ public:
     /// The first visible row with these names from the top level down; null when there is none.
     [[nodiscard]] Row findRow(std::vector<std::string> const& path) const;
 
+    /// Makes \p row the current one, as a click on its name does. Rows made anew keep the current row by the
+    /// names down to it.
+    bool select(Row const& row);
+    /// The current row; null when there is none, or when it cannot be seen.
+    [[nodiscard]] Row getCurrentRow() const;
+    /// Makes the next row that can be changed current, as Tab does; the previous one when not \p forwards.
+    /// False when there is none.
+    bool selectNextEditable(bool forwards = true);
+    /// What the pane below the rows says of the current row.
+    [[nodiscard]] std::string getDescription() const;
+    /// What a copy of the current row takes: its value, or its name where it has none.
+    [[nodiscard]] std::string copy() const;
+
     /// Types \p text into the editor of \p row and confirms it, as Return does.
     /// False also when the row cannot be typed in or refuses the text.
     bool type(Row const& row, std::string_view text);
@@ -64,6 +77,9 @@ public:
     /// How often the rows have been laid out.
     [[nodiscard]] int getLayoutCount() const { return m_layoutCount; }
 
+protected:
+    [[nodiscard]] std::string dumpContent() const override { return dump(); }
+
 private:
     using Input = PropertyGridEditResult (*)(PropertyGridRow& row, std::string_view text);
 
@@ -75,6 +91,8 @@ private:
     std::shared_ptr<PropertyGridModel> m_model = std::make_shared<PropertyGridModel>();
     /// The names down to each collapsed row.
     std::set<std::vector<std::string>> m_collapsed;
+    /// The names down to the current row; empty while there is none.
+    std::vector<std::string> m_current;
     std::string m_message;
     int m_layoutCount = 0;
 };

@@ -23,6 +23,41 @@ public:
     [[nodiscard]] std::string getTitle() const override { return getPlatformWindow().getTitle(); }
 };
 
+char const* getName(WindowClass windowClass)
+{
+    switch (windowClass) {
+    case WindowClass::Window:
+        return "Window";
+    case WindowClass::Dialog:
+        return "Dialog";
+    case WindowClass::DialogControl:
+        return "DialogControl";
+    case WindowClass::GroupBox:
+        return "GroupBox";
+    case WindowClass::ListControl:
+        return "ListControl";
+    case WindowClass::PropertyGridControl:
+        return "PropertyGridControl";
+    }
+    return "";
+}
+
+std::string getText(WindowPlacement const& placement)
+{
+    return std::to_string(placement.left) + ',' + std::to_string(placement.top) + ' ' +
+           std::to_string(placement.right) + ',' + std::to_string(placement.bottom);
+}
+
+/// Puts \p lines at the end of \p text, each behind \p indentation.
+void appendLines(std::string& text, std::string const& lines, std::string const& indentation)
+{
+    for (std::size_t begin = 0; begin < lines.size();) {
+        auto const end = std::min(lines.find('\n', begin), lines.size());
+        text += indentation + lines.substr(begin, end - begin) + '\n';
+        begin = end + 1;
+    }
+}
+
 /// How far the stretch from \p begin to \p end has to be moved to lie between 0 and \p limit.
 int getOffsetInto(int begin, int end, int limit)
 {
@@ -139,12 +174,40 @@ void HeadlessWindow::moveBehind(HeadlessWindow const* predecessor)
     std::erase(siblings, self);
     auto const found = std::find_if(siblings.begin(), siblings.end(),
                                     [&](auto const& sibling) { return sibling.get() == predecessor; });
-    siblings.insert(found == siblings.end() ? siblings.begin() : std::next(found), self);
+    siblings.insert(found == siblings.end() ? found : std::next(found), self);
 }
 
 bool HeadlessWindow::isDescendantOf(HeadlessWindow const& ancestor) const
 {
     return this == &ancestor || (m_owner && m_owner->isDescendantOf(ancestor));
+}
+
+std::string HeadlessWindow::dumpTree() const
+{
+    std::string text;
+    appendTree(text, 0);
+    return text;
+}
+
+void HeadlessWindow::appendTree(std::string& text, std::size_t depth) const
+{
+    std::string const indentation(2 * depth, ' ');
+    text += indentation + getName(m_windowClass);
+    if (m_controlId != 0)
+        text += ' ' + std::to_string(m_controlId);
+    if (!m_title.empty())
+        text += " \"" + m_title + '"';
+    text += " [" + getText(m_placement) + ']';
+    if (!m_isShown)
+        text += " hidden";
+    if (!m_isEnabled)
+        text += " disabled";
+    if (hasFocus())
+        text += " focus";
+    text += '\n';
+    appendLines(text, dumpContent(), indentation + "  ");
+    for (auto const& child : m_children)
+        child->appendTree(text, depth + 1);
 }
 
 void HeadlessWindow::destroy()

@@ -70,19 +70,28 @@ public:
         return m_children;
     }
     void addChild(std::shared_ptr<HeadlessWindow> child);
-    /// Puts this window behind \p predecessor in the tab order of its owner; first for null.
+    /// Puts this window behind \p predecessor in the tab order of its owner; behind all others for null.
     void moveBehind(HeadlessWindow const* predecessor);
     [[nodiscard]] bool isDescendantOf(HeadlessWindow const& ancestor) const;
 
     void setBackend(std::weak_ptr<HeadlessBackend> backend) { m_backend = std::move(backend); }
     [[nodiscard]] std::shared_ptr<HeadlessBackend> getBackend() const { return m_backend.lock(); }
 
+    /// This window and those below it, as lines of text indented by depth: class, control id, title,
+    /// placement, states that differ from the usual, and what the window shows.
+    [[nodiscard]] std::string dumpTree() const;
+
     /// Takes the window off the screen for good, with those below it.
     void destroy();
     [[nodiscard]] bool isDestroyed() const { return m_isDestroyed; }
 
+protected:
+    /// What the window shows, as lines of text; none for a window that is a mere area.
+    [[nodiscard]] virtual std::string dumpContent() const { return {}; }
+
 private:
     void markDestroyed();
+    void appendTree(std::string& text, std::size_t depth) const;
 
     WindowClass m_windowClass;
     int m_controlId;

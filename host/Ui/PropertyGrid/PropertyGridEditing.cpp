@@ -162,6 +162,13 @@ std::string PropertyGridEditing::getDisplayedText(PropertyGridRow const& row)
     return text;
 }
 
+std::string PropertyGridEditing::getHint(PropertyGridRow const& row)
+{
+    auto const& state = row.getState();
+    auto const mayShow = !state.emptyState && (hasShownValue(state) || hasCheckBox(row));
+    return mayShow && getDisplayedText(row).empty() ? state.hint : std::string();
+}
+
 std::string PropertyGridEditing::getEditorText(PropertyGridRow const& row)
 {
     auto const& state = row.getState();

@@ -54,6 +54,8 @@ public:
 
     /// The text that the row shows for its value; empty when it shows none.
     [[nodiscard]] static std::string getDisplayedText(PropertyGridRow const& row);
+    /// What the row shows in grey in place of a value; empty while it shows a value.
+    [[nodiscard]] static std::string getHint(PropertyGridRow const& row);
     /// The text that an editor opens with: numbers with all their digits.
     [[nodiscard]] static std::string getEditorText(PropertyGridRow const& row);
 

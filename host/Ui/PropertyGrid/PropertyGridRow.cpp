@@ -151,6 +151,12 @@ void PropertyGridRow::setEmptyState(bool active)
     changed();
 }
 
+void PropertyGridRow::setHint(std::string const& hint)
+{
+    m_state.hint = hint;
+    changed();
+}
+
 void PropertyGridRow::setBoldFontStyleForNameAndValue()
 {
     m_state.bold = true;

@@ -67,6 +67,7 @@ public:
     void enable(bool enabled) override;
     [[nodiscard]] bool isEnabled() const override { return m_state.enabled; }
     void setEmptyState(bool active) override;
+    void setHint(std::string const& hint) override;
     void setBoldFontStyleForNameAndValue() override;
     void setBackgroundColour(attr::Colour const& colour) override;
     void setAlignment(int alignment) override;

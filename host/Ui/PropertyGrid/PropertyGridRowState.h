@@ -75,6 +75,8 @@ struct PropertyGridRowState
     bool enabled = true;
     /// The value is not shown.
     bool emptyState = false;
+    /// What stands in grey where a value would, while there is none to show.
+    std::string hint;
 
     CheckState checkState = CheckState::Unchecked;
     ValueDisplayMode valueDisplayMode = ValueDisplayMode::BesideCheckBox;

@@ -53,6 +53,19 @@ char const* getCheckMark(CheckState state)
     return "";
 }
 
+char const* getCheckText(CheckState state)
+{
+    switch (state) {
+    case CheckState::Checked:
+        return "true";
+    case CheckState::Unchecked:
+        return "false";
+    case CheckState::Indeterminate:
+        return "";
+    }
+    return "";
+}
+
 std::string getEditorMark(PropertyGridRow const& row)
 {
     auto const editor = PropertyGridEditing::getEditor(row);
@@ -127,7 +140,20 @@ std::string PropertyGridText::getLine(PropertyGridRow const& row, bool isExpande
         line += getCheckMark(state.checkState);
     if (auto const value = PropertyGridEditing::getDisplayedText(row); !value.empty())
         line += " = " + onOneLine(value);
+    else if (auto const hint = PropertyGridEditing::getHint(row); !hint.empty())
+        line += " (" + onOneLine(hint) + ')';
     return line + getMarksText(row);
+}
+
+std::string PropertyGridText::getValueText(PropertyGridRow const& row)
+{
+    auto text = PropertyGridEditing::getDisplayedText(row);
+    return text.empty() && PropertyGridEditing::hasCheckBox(row) ? getCheckText(row.getCheckState()) : text;
+}
+
+std::string PropertyGridText::getCopiedText(PropertyGridRow const& row)
+{
+    return row.getState().kind == Kind::Group ? row.getName() : getValueText(row);
 }
 
 } // namespace qev::ui

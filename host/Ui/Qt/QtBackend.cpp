@@ -3,6 +3,7 @@
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
 #include "Ui/Qt/QtDialog.h"
 #include "Ui/Qt/QtInterface.h"
+#include "Ui/Qt/QtProgressBar.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
@@ -240,6 +241,11 @@ std::optional<std::size_t> QtBackend::showPopupMenu(PopupMenu const& menu, Posit
     auto const actions = widget.actions();
     auto const index = actions.indexOf(widget.exec(QPoint(position.x, position.y)));
     return index < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(index));
+}
+
+std::unique_ptr<ProgressBarInterface> QtBackend::createProgressBar(std::string const& title)
+{
+    return std::make_unique<QtProgressBar>(toQString(title));
 }
 
 WindowHandle QtBackend::registerWidget(QWidget& widget, WindowClass windowClass, int controlId)

@@ -58,6 +58,7 @@ public:
     [[nodiscard]] bool isDescendant(WindowHandle const& window, WindowHandle const& ancestor) const override;
     void showMessage(MessageBox::Message message) override;
     std::optional<std::size_t> showPopupMenu(PopupMenu const& menu, Position const& position) override;
+    [[nodiscard]] std::unique_ptr<ProgressBarInterface> createProgressBar(std::string const& title) override;
 
 private:
     struct Entry

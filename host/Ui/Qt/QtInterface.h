@@ -99,8 +99,8 @@ public:
 
     void setTabOrder(WindowHandle const& predecessor) override
     {
-        // Widgets come into the tab order behind those that stand already; only another place needs a call.
-        auto* const before = static_cast<QWidget*>(predecessor.getNativeWindow());
+        auto* const named = static_cast<QWidget*>(predecessor.getNativeWindow());
+        auto* const before = named ? named : findLastSibling();
         if (m_widget && before)
             QWidget::setTabOrder(before, m_widget);
     }
@@ -139,6 +139,18 @@ private:
         if (begin < limitBegin || length > limitLength)
             return limitBegin - begin;
         return std::min(0, limitBegin + limitLength - begin - length);
+    }
+    /// The last of the other widgets beside this one that take the focus; null when there is none.
+    [[nodiscard]] QWidget* findLastSibling() const
+    {
+        auto* const parent = m_widget ? m_widget->parentWidget() : nullptr;
+        QWidget* last = nullptr;
+        if (!parent)
+            return last;
+        for (auto* next = parent->nextInFocusChain(); next != parent; next = next->nextInFocusChain())
+            if (next->parentWidget() == parent && next != m_widget && next->focusPolicy() != Qt::NoFocus)
+                last = next;
+        return last;
     }
     void setVisible(bool visible)
     {

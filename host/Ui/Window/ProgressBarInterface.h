@@ -2,6 +2,7 @@
 
 #include "HostUiExport.h"
 
+#include <memory>
 #include <string>
 
 namespace qev::ui {
@@ -16,6 +17,9 @@ public:
     virtual ~ProgressBarInterface();
     ProgressBarInterface(ProgressBarInterface const&) = delete;
     ProgressBarInterface& operator=(ProgressBarInterface const&) = delete;
+
+    /// A progress bar of the current back end. Without a back end nobody can see it, or stop the operation.
+    [[nodiscard]] static std::unique_ptr<ProgressBarInterface> create(std::string const& title);
 
     /// Shows how far the operation is, from 0 to 1, and what it is doing.
     virtual void setProgress(double fraction, std::string const& text) = 0;

@@ -42,7 +42,7 @@ public:
     ///
     /// \p owner may be null for a window that stands alone. \p controlId is taken when it is not 0
     /// and still free with the owner, else the owner gives a free one. The window follows
-    /// \p predecessor in the tab order of the owner, or comes first when that is null.
+    /// \p predecessor in the tab order of the owner, or all others when that is null.
     /// \returns null, with a report, when the platform window cannot be made.
     template <class T>
     [[nodiscard]] static std::shared_ptr<T> create(std::shared_ptr<Window> const& owner, unsigned int style,
@@ -111,7 +111,8 @@ public:
     [[nodiscard]] int getDialogControlId() const;
     [[nodiscard]] WindowPlacement getPlacement() const;
     void setPlacement(WindowPlacement const& placement);
-    /// Puts the window behind \p predecessor in the tab order of its owner; first when that is null.
+    /// Puts the window behind \p predecessor in the tab order of its owner; behind all others when that is
+    /// null.
     void setTabOrder(std::shared_ptr<Window> const& predecessor);
     [[nodiscard]] Size getClientAreaSize() const;
     [[nodiscard]] Size getSize() const;
@@ -150,7 +151,8 @@ public:
     /// The focus came to the window (true) or left it (false).
     EventHandlerContainer<Window, void, bool> onFocus;
 
-    /// Hooks for derived windows; the platform side calls them, and they do nothing here.
+    /// Hooks for derived windows; they do nothing here. A platform side calls those it has an occasion for:
+    /// all tell of the focus, of new sizes and of chosen menu entries.
     virtual void onPaint() {}
     virtual void onEraseBackground() {}
     virtual void onCustomDraw() {}

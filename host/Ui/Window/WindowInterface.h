@@ -48,7 +48,8 @@ public:
     [[nodiscard]] virtual Position getOffscreenOffset() const = 0;
     virtual void moveDelta(Position const& delta) = 0;
 
-    /// Puts the window behind \p predecessor in the tab order of its owner; first for an invalid handle.
+    /// Puts the window behind \p predecessor in the tab order of its owner; behind all others for an
+    /// invalid handle.
     virtual void setTabOrder(WindowHandle const& predecessor) = 0;
     /// A child has been created below this window.
     virtual void onChildCreated(WindowHandle const& child) = 0;

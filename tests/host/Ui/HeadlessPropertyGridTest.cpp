@@ -1,9 +1,12 @@
 #include "Ui/Headless/HeadlessPropertyGrid.h"
 
 #include "Core/Unit/QuantityPresentationFactory.h"
+#include "Golden.h"
+#include "RichGrid.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridCheckBoxProperty.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridCustomButtonProperty.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridEmptyLineProperty.h"
+#include "Ui/Window/GroupBox.h"
 #include "UiTest.h"
 
 namespace {
@@ -157,6 +160,82 @@ TEST_F(HeadlessPropertyGridTest, RecordsStandForTheVisibleRows)
     ASSERT_EQ(records.size(), grid->rows().size());
     EXPECT_TRUE(records[0].isGroup);
     EXPECT_THAT(records[2].path, testing::ElementsAre("Pset_WallCommon", "FireRating"));
+}
+
+TEST_F(HeadlessPropertyGridTest, ARowOfEveryKindIsDumpedAsReviewed)
+{
+    test::RichGrid::fill(control);
+    test::expectGolden(grid->dump(), std::filesystem::path(QEV_GOLDEN_FOLDER) / "RichGrid.txt");
+}
+
+TEST_F(HeadlessPropertyGridTest, WindowsAreDumpedAsReviewed)
+{
+    auto const list = createList();
+    list->onGetColumnHeaderText.iHandlerAdd([](auto&, std::size_t) { return std::string("Name"); });
+    list->onGetItemText.iHandlerAdd(
+        [](auto&, ListControl::ItemInfo const&) { return std::string("Wall 1"); });
+    list->setItemAndColumnCounts(1, 1);
+    auto const box = Window::create<GroupBox>(dialog, 0, 0, {5, 505, 600, 590}, 7);
+    box->hide();
+    list->enable(false);
+    grid->collapse(grid->findRow({"Pset_WallCommon"}));
+    dialog->setTitle("Properties");
+    control->setFocus();
+    auto const other = backend->createDialog({200, 100});
+    test::expectGolden(backend->dump(), std::filesystem::path(QEV_GOLDEN_FOLDER) / "Windows.txt");
+}
+
+TEST_F(HeadlessPropertyGridTest, TheCurrentRowStaysWhenTheGridIsFilledAnew)
+{
+    EXPECT_EQ(grid->getCurrentRow(), nullptr);
+    EXPECT_EQ(grid->copy(), "");
+    EXPECT_TRUE(grid->select(grid->findRow({"Pset_WallCommon", "FireRating"})));
+    fill();
+    EXPECT_EQ(grid->getCurrentRow(), grid->findRow({"Pset_WallCommon", "FireRating"}));
+    grid->collapse(grid->findRow({"Pset_WallCommon"}));
+    EXPECT_EQ(grid->getCurrentRow(), nullptr);
+}
+
+TEST_F(HeadlessPropertyGridTest, EmptyLinesAndRowsOutOfReachCannotBecomeCurrent)
+{
+    auto const line = grid->rows().at(4);
+    ASSERT_EQ(line->getState().kind, PropertyGridRowState::Kind::EmptyLine);
+    EXPECT_FALSE(grid->select(line));
+    EXPECT_FALSE(grid->select(nullptr));
+    auto const rating = grid->findRow({"Pset_WallCommon", "FireRating"});
+    dialog->hide();
+    EXPECT_FALSE(grid->select(rating));
+}
+
+TEST_F(HeadlessPropertyGridTest, TheNextRowIsOneThatCanBeChanged)
+{
+    std::vector<std::string> seen;
+    while (grid->selectNextEditable())
+        seen.push_back(grid->getCurrentRow()->getName());
+    EXPECT_THAT(seen, testing::ElementsAre("FireRating", "IsExternal", "Status", "Width"));
+    EXPECT_TRUE(grid->selectNextEditable(false));
+    EXPECT_EQ(grid->getCurrentRow()->getName(), "Status");
+}
+
+TEST_F(HeadlessPropertyGridTest, CopyTakesTheValueOfAnyRowAndTheNameOfAGroup)
+{
+    auto const copied = [&](std::vector<std::string> const& path) {
+        EXPECT_TRUE(grid->select(grid->findRow(path)));
+        return grid->copy();
+    };
+    EXPECT_EQ(copied({"Pset_WallCommon", "Reference"}), "W1");
+    EXPECT_EQ(copied({"Pset_WallCommon", "IsExternal"}), "true");
+    EXPECT_EQ(copied({"Qto_WallBaseQuantities", "Width"}), "0.3 m");
+    EXPECT_EQ(copied({"Pset_WallCommon"}), "Pset_WallCommon");
+}
+
+TEST_F(HeadlessPropertyGridTest, TheDescriptionIsThatOfTheCurrentRow)
+{
+    EXPECT_EQ(grid->getDescription(), "");
+    auto const rating = grid->findRow({"Pset_WallCommon", "FireRating"});
+    rating->setDescription("How long it resists");
+    grid->select(rating);
+    EXPECT_EQ(grid->getDescription(), "How long it resists");
 }
 
 TEST_F(HeadlessPropertyGridTest, TheFirstOfTwoRowsOfOneNameIsFound)

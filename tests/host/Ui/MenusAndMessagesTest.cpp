@@ -87,4 +87,38 @@ TEST_F(MenusAndMessages, AProgressBarRunsAsLongAsItLives)
     EXPECT_FALSE(ProgressBarInterface::isRunning());
 }
 
+TEST_F(MenusAndMessages, AProgressBarShowsItsStepsAndEndsWithTheOperation)
+{
+    EXPECT_TRUE(backend->getProgress().empty());
+    {
+        auto const bar = ProgressBarInterface::create("Saving");
+        EXPECT_THAT(backend->getProgress(), testing::ElementsAre(HeadlessProgress{"Saving", 0, ""}));
+        bar->setProgress(0.5, "Writing records");
+        EXPECT_THAT(backend->getProgress(),
+                    testing::ElementsAre(HeadlessProgress{"Saving", 0.5, "Writing records"}));
+        EXPECT_TRUE(ProgressBarInterface::isRunning());
+        EXPECT_FALSE(bar->isCancelled());
+    }
+    EXPECT_TRUE(backend->getProgress().empty());
+}
+
+TEST_F(MenusAndMessages, AnOperationIsStoppedAtTheStepWhereTheUserWantsIt)
+{
+    backend->setProgressAnswer([](HeadlessProgress const& progress) { return progress.fraction >= 0.5; });
+    auto const bar = ProgressBarInterface::create("Saving");
+    int steps = 0;
+    while (!bar->isCancelled() && steps < 10)
+        bar->setProgress(0.1 * ++steps, "");
+    EXPECT_EQ(steps, 5);
+}
+
+TEST_F(MenusAndMessages, AProgressBarNobodyCanSeeRunsAllTheSame)
+{
+    ui::details::WindowInterfaceFactory::setBackend(nullptr);
+    auto const bar = ProgressBarInterface::create("Saving");
+    bar->setProgress(1, "");
+    EXPECT_FALSE(bar->isCancelled());
+    EXPECT_TRUE(ProgressBarInterface::isRunning());
+}
+
 } // namespace

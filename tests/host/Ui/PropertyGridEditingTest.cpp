@@ -287,6 +287,25 @@ TEST_F(PropertyGridEditingTest, TheEmptyStateShowsNoValueAndKeepsIt)
     EXPECT_EQ(Editing::getDisplayedText(row), "F30");
 }
 
+TEST_F(PropertyGridEditingTest, AHintStandsWhereThereIsNoValueToShow)
+{
+    auto& row = addText("");
+    row.setHint("varies");
+    EXPECT_EQ(Editing::getHint(row), "varies");
+    EXPECT_EQ(Editing::getDisplayedText(row), "");
+    EXPECT_EQ(Editing::getEditorText(row), "");
+    row.setText("F30");
+    EXPECT_EQ(Editing::getHint(row), "");
+    row.setText("");
+    row.setEmptyState(true);
+    EXPECT_EQ(Editing::getHint(row), "");
+
+    auto& checkBox =
+        add(std::make_unique<PropertyGridCheckBoxProperty>("IsExternal", CheckState::Indeterminate, ""));
+    checkBox.setHint("varies");
+    EXPECT_EQ(Editing::getHint(checkBox), "varies");
+}
+
 TEST_F(PropertyGridEditingTest, ARecordSaysWhatTheRowSays)
 {
     auto& length = addLength(0.25);

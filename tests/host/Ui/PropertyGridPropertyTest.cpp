@@ -169,6 +169,7 @@ TEST_F(PropertyGridPropertyTest, ARowKeepsWhatItIsDressedWith)
     row.setOptionsOnly(true);
     row.enable(false);
     row.activateEmptyState();
+    row.setHint("varies");
     row.setBoldFontStyleForNameAndValue();
     row.setBackgroundColour({255, 1, 2, 3});
     row.setAlignment(1);
@@ -184,6 +185,7 @@ TEST_F(PropertyGridPropertyTest, ARowKeepsWhatItIsDressedWith)
     EXPECT_TRUE(state.optionsOnly);
     EXPECT_FALSE(row.isEnabled());
     EXPECT_TRUE(state.emptyState);
+    EXPECT_EQ(state.hint, "varies");
     EXPECT_TRUE(state.bold);
     EXPECT_EQ(state.backgroundColour, (attr::Colour{255, 1, 2, 3}));
     EXPECT_EQ(state.alignment, PropertyGridAlignment::Right);
@@ -258,6 +260,7 @@ public:
     void enable(bool) override {}
     [[nodiscard]] bool isEnabled() const override { return true; }
     void setEmptyState(bool) override {}
+    void setHint(std::string const&) override {}
     void setBoldFontStyleForNameAndValue() override {}
     void setBackgroundColour(attr::Colour const&) override {}
     void setAlignment(int) override {}
@@ -334,6 +337,7 @@ TEST_F(PropertyGridPropertyTest, EachOperationReportsAMissingRow)
         {"isEnabled", [](auto& row) { EXPECT_FALSE(row.isEnabled()); }},
         {"activateEmptyState", [](auto& row) { row.activateEmptyState(); }},
         {"deactivateEmptyState", [](auto& row) { row.deactivateEmptyState(); }},
+        {"setHint", [](auto& row) { row.setHint("x"); }},
         {"setBoldFontStyleForNameAndValue", [](auto& row) { row.setBoldFontStyleForNameAndValue(); }},
         {"setBackgroundColour", [](auto& row) { row.setBackgroundColour({}); }},
         {"setAlignment", [](auto& row) { row.setAlignment(0); }},

@@ -73,6 +73,9 @@ void RichGrid::addAttributes()
     add(*group, text("GlobalId", "2O2Fr$t4X7Zf8NOew3FNr2", readOnly));
     add(*group, text("Name", "Basic wall, exterior, first floor, between the axes A and D along the street"));
     add(*group, text("Description", ""));
+    auto varying = text("Tag", "");
+    varying.setHint("varies");
+    add(*group, std::move(varying));
     auto predefined = choice("PredefinedType", "SOLIDWALL", {"", "SOLIDWALL", "PARTITIONING"}, false);
     predefined.allowEdit(false);
     add(*group, std::move(predefined));

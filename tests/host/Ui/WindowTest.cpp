@@ -25,6 +25,15 @@ protected:
         backend->insertWindow(platformWindow, nullptr);
         return std::make_unique<HeadlessInterface<WindowInterface>>(platformWindow);
     }
+
+    /// The control ids of the dialog's children.
+    [[nodiscard]] std::vector<int> getTabOrder() const
+    {
+        std::vector<int> ids;
+        for (auto const& child : backend->getPlatformWindow(dialog->getHandle())->getChildren())
+            ids.push_back(child->getControlId());
+        return ids;
+    }
 };
 
 TEST_F(WindowTest, EachOperationReportsAMissingInterface)
@@ -86,10 +95,19 @@ TEST_F(WindowTest, CreatePutsTheWindowBehindItsPredecessorInTheTabOrder)
     auto const first = Window::create<PropertyGridControl>(dialog, 0, 0, {}, 1);
     auto const last = Window::create<PropertyGridControl>(dialog, 0, 0, {}, 2, first);
     auto const middle = Window::create<PropertyGridControl>(dialog, 0, 0, {}, 3, first);
-    std::vector<int> ids;
-    for (auto const& child : backend->getPlatformWindow(dialog->getHandle())->getChildren())
-        ids.push_back(child->getControlId());
-    EXPECT_THAT(ids, ElementsAre(1, 3, 2));
+    EXPECT_THAT(getTabOrder(), ElementsAre(1, 3, 2));
+}
+
+TEST_F(WindowTest, AWindowWithoutPredecessorComesLastInTheTabOrder)
+{
+    auto const first = Window::create<PropertyGridControl>(dialog, 0, 0, {}, 1);
+    auto const second = Window::create<PropertyGridControl>(dialog, 0, 0, {}, 2);
+    EXPECT_THAT(getTabOrder(), ElementsAre(1, 2));
+    first->setTabOrder(nullptr);
+    EXPECT_THAT(getTabOrder(), ElementsAre(2, 1));
+    first->setTabOrder(second);
+    second->setTabOrder(first);
+    EXPECT_THAT(getTabOrder(), ElementsAre(1, 2));
 }
 
 TEST_F(WindowTest, CreateReportsAnOwnerWithoutInterface)

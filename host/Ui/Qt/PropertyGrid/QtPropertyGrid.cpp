@@ -5,15 +5,46 @@
 
 #include <QDataStream>
 #include <QEvent>
+#include <QList>
 #include <QSplitter>
+#include <QStringList>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace qev::ui {
 
 namespace {
 
-constexpr quint32 layoutMark = 0x51475231;
+constexpr quint32 layoutMark = 0x51475232;
+
+using Folded = std::set<std::vector<std::string>>;
+
+QList<QStringList> toLists(Folded const& folded)
+{
+    QList<QStringList> lists;
+    for (auto const& path : folded) {
+        QStringList names;
+        for (auto const& name : path)
+            names.append(toQString(name));
+        lists.append(names);
+    }
+    return lists;
+}
+
+Folded fromLists(QList<QStringList> const& lists)
+{
+    Folded folded;
+    for (auto const& names : lists) {
+        std::vector<std::string> path;
+        for (auto const& name : names)
+            path.push_back(fromQString(name));
+        folded.insert(std::move(path));
+    }
+    return folded;
+}
 
 QString getDescriptionHtml(PropertyGridRow const& row)
 {
@@ -43,6 +74,7 @@ QtPropertyGrid::QtPropertyGrid(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_splitter);
     setFocusProxy(m_view);
+    setFocusPolicy(Qt::StrongFocus);
     applyFontMeasures();
     m_view->onCurrentRowChanged.iHandlerAdd([this](QModelIndex const&) { updateDescription(); });
     connect(m_itemModel, &QAbstractItemModel::dataChanged, this, &QtPropertyGrid::updateDescription);
@@ -65,20 +97,27 @@ QByteArray QtPropertyGrid::saveLayout() const
 {
     QByteArray layout;
     QDataStream stream(&layout, QIODevice::WriteOnly);
-    stream << layoutMark << m_view->getSplit() << m_splitter->saveState();
+    stream.setVersion(QDataStream::Qt_6_0);
+    stream << layoutMark << m_view->getSplit() << m_splitter->saveState() << toLists(m_view->getFolded());
     return layout;
 }
 
 bool QtPropertyGrid::restoreLayout(QByteArray const& layout)
 {
     QDataStream stream(layout);
+    stream.setVersion(QDataStream::Qt_6_0);
     quint32 mark = 0;
     double split = 0;
     QByteArray splitterState;
-    stream >> mark >> split >> splitterState;
-    if (stream.status() != QDataStream::Ok || mark != layoutMark)
+    QList<QStringList> folded;
+    stream >> mark;
+    if (mark != layoutMark)
+        return false;
+    stream >> split >> splitterState >> folded;
+    if (stream.status() != QDataStream::Ok)
         return false;
     m_view->setSplit(split);
+    m_view->setFolded(fromLists(folded));
     return m_splitter->restoreState(splitterState);
 }
 

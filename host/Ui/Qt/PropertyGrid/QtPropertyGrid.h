@@ -33,7 +33,7 @@ public:
     [[nodiscard]] QString getDescriptionText() const;
     void showDescription(bool shown);
 
-    /// How the user has divided the grid, to be kept and given back.
+    /// How the user has divided the grid and what is folded, to be kept and given back.
     [[nodiscard]] QByteArray saveLayout() const;
     /// False, and no change, for bytes that `saveLayout` did not make.
     bool restoreLayout(QByteArray const& layout);

@@ -5,7 +5,6 @@
 
 #include <memory>
 #include <QMimeData>
-#include <QString>
 #include <vector>
 
 namespace qev::ui {
@@ -17,8 +16,6 @@ public:
     /// One row gives its value alone. Several give a line each, name and value parted by a tab, and the same
     /// as a table in HTML.
     [[nodiscard]] static std::unique_ptr<QMimeData> make(std::vector<PropertyGridRow const*> const& rows);
-    /// The value as text; the name for rows without one.
-    [[nodiscard]] static QString getValueText(PropertyGridRow const& row);
 };
 
 } // namespace qev::ui

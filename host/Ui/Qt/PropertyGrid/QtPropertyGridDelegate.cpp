@@ -185,6 +185,7 @@ QWidget* createLineEditor(QWidget* parent, QStyleOptionViewItem const& option, P
     auto* const editor = new QLineEdit(parent);
     editor->setFrame(false);
     auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    editor->setPlaceholderText(toQString(PropertyGridEditing::getHint(row)));
     auto const unit = toQString(PropertyGridNumber::getUnit(row.getQuantityPresentation()));
     auto const unitWidth = unit.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(unit) + margin;
     editor->setTextMargins(margin - ownMargin, 0, unitWidth, 0);
@@ -197,6 +198,20 @@ QWidget* createLineEditor(QWidget* parent, QStyleOptionViewItem const& option, P
     layout->setContentsMargins(0, 0, margin, 0);
     layout->addWidget(label, 0, Qt::AlignRight | Qt::AlignVCenter);
     return editor;
+}
+
+/// Writes what stands in place of a value, so that nobody takes it for one.
+void paintHint(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row,
+               QRect const& area, QString const& hint)
+{
+    auto font = option.font;
+    font.setItalic(true);
+    painter.setFont(font);
+    painter.setPen(getMutedForeground(option, row));
+    auto const isRight = row.getState().alignment == PropertyGridAlignment::Right;
+    auto const elided = QFontMetrics(font).elidedText(getOneLine(hint), Qt::ElideRight, area.width());
+    painter.drawText(area, Qt::AlignVCenter | (isRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::TextSingleLine,
+                     elided);
 }
 
 QString getComboText(QComboBox const& combo)
@@ -394,6 +409,10 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
     auto area = layout.value.adjusted(margin, 0, -margin, 0);
     if (!layout.arrow.isEmpty())
         area.setRight(layout.arrow.left() - 1);
+    if (auto const hint = PropertyGridEditing::getHint(row); !hint.empty()) {
+        paintHint(painter, option, row, area, toQString(hint));
+        return;
+    }
     auto const [value, unit] = splitUnit(row);
     auto const& metrics = option.fontMetrics;
     auto const unitWidth = unit.isEmpty() ? 0 : metrics.horizontalAdvance(unit);
@@ -422,6 +441,7 @@ QWidget* QtPropertyGridDelegate::createChoiceEditor(QWidget* parent, PropertyGri
         // What is typed stays as typed, also where it begins like an entry.
         combo->setCompleter(nullptr);
         combo->lineEdit()->setFrame(false);
+        combo->lineEdit()->setPlaceholderText(toQString(PropertyGridEditing::getHint(row)));
     }
     for (auto const& option : row.getState().options) {
         combo->addItem(toQString(option.text));

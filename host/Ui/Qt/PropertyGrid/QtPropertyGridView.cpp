@@ -84,8 +84,8 @@ QtPropertyGridView::QtPropertyGridView(QtPropertyGridItemModel& rows, QWidget* p
 
     rows.onInputRefused.iHandlerAdd([this](QString const& message) { showMessage(message); });
     connect(&rows, &QAbstractItemModel::modelAboutToBeReset, this, &QtPropertyGridView::keepPlace);
-    connect(this, &QTreeView::collapsed, this, [this](QModelIndex const& index) { setFolded(index, true); });
-    connect(this, &QTreeView::expanded, this, [this](QModelIndex const& index) { setFolded(index, false); });
+    connect(this, &QTreeView::collapsed, this, [this](QModelIndex const& index) { noteFolded(index, true); });
+    connect(this, &QTreeView::expanded, this, [this](QModelIndex const& index) { noteFolded(index, false); });
     connect(header(), &QHeaderView::sectionResized, this, [this](int section) {
         // The value column takes what is left; its size says nothing of what the user wants.
         if (section == nameColumn)
@@ -111,14 +111,21 @@ void QtPropertyGridView::setSplit(double split)
 void QtPropertyGridView::restorePlace()
 {
     m_restoreTimer.stop();
-    auto const place = std::exchange(m_place, std::nullopt);
-    if (!place)
+    auto const scene = std::exchange(m_scene, std::nullopt);
+    if (!scene)
         return;
-    if (auto const index = findIndex(place->current); index.isValid())
+    if (auto const index = findIndex(scene->current); index.isValid())
         makeCurrent(index);
     executeDelayedItemsLayout();
     updateGeometries();
-    verticalScrollBar()->setValue(place->scroll);
+    verticalScrollBar()->setValue(scene->scroll);
+}
+
+void QtPropertyGridView::setFolded(std::set<Path> folded)
+{
+    m_folded = std::move(folded);
+    for (int position = 0; position < m_rows.rowCount(); ++position)
+        dressRow(m_rows.index(position, nameColumn));
 }
 
 void QtPropertyGridView::setAllFolded(bool folded)
@@ -127,18 +134,22 @@ void QtPropertyGridView::setAllFolded(bool folded)
         setExpanded(m_rows.index(position, nameColumn), !folded);
 }
 
-void QtPropertyGridView::copySelection()
+QModelIndexList QtPropertyGridView::getSelectedRows() const
 {
     auto indexes = selectionModel()->selectedRows();
-    if (indexes.isEmpty())
-        return;
     std::sort(indexes.begin(), indexes.end(), [this](QModelIndex const& left, QModelIndex const& right) {
         return visualRect(left).top() < visualRect(right).top();
     });
+    return indexes;
+}
+
+void QtPropertyGridView::copySelection()
+{
     std::vector<PropertyGridRow const*> rows;
-    for (auto const& index : std::as_const(indexes))
+    for (auto const& index : getSelectedRows())
         rows.push_back(QtPropertyGridItemModel::getRow(index));
-    QApplication::clipboard()->setMimeData(QtPropertyGridClipboard::make(rows).release());
+    if (!rows.empty())
+        QApplication::clipboard()->setMimeData(QtPropertyGridClipboard::make(rows).release());
 }
 
 bool QtPropertyGridView::openEditor(QModelIndex const& index, bool withChoices)
@@ -164,7 +175,7 @@ bool QtPropertyGridView::edit(QModelIndex const& index, EditTrigger trigger, QEv
         return false;
     if (state() == EditingState) {
         hideMessage();
-        m_edited = getPath(value);
+        m_edited = getPlace(value);
         m_editor = indexWidget(value);
     }
     return true;
@@ -199,7 +210,7 @@ void QtPropertyGridView::rowsInserted(QModelIndex const& parent, int start, int 
         dressRow(parent);
     for (int position = start; position <= end; ++position)
         dressRow(m_rows.index(position, nameColumn, parent));
-    if (m_place)
+    if (m_scene)
         m_restoreTimer.start();
 }
 
@@ -316,14 +327,30 @@ QtPropertyGridView::Path QtPropertyGridView::getPath(QModelIndex const& index)
     return row ? PropertyGridRowRecord::getPath(*row) : Path();
 }
 
-QModelIndex QtPropertyGridView::findIndex(Path const& path) const
+QtPropertyGridView::Place QtPropertyGridView::getPlace(QModelIndex const& index) const
+{
+    Place place;
+    for (auto step = index.siblingAtColumn(nameColumn); step.isValid(); step = step.parent()) {
+        auto const name = QtPropertyGridItemModel::getRow(step)->getName();
+        int namesakes = 0;
+        for (int position = 0; position < step.row(); ++position)
+            if (QtPropertyGridItemModel::getRow(step.siblingAtRow(position))->getName() == name)
+                ++namesakes;
+        place.push_back({name, namesakes});
+    }
+    std::reverse(place.begin(), place.end());
+    return place;
+}
+
+QModelIndex QtPropertyGridView::findIndex(Place const& place) const
 {
     QModelIndex found;
-    for (auto const& name : path) {
+    for (auto const& [name, namesakes] : place) {
         QModelIndex next;
+        int passed = 0;
         for (int position = 0; !next.isValid() && position < m_rows.rowCount(found); ++position) {
             auto const candidate = m_rows.index(position, nameColumn, found);
-            if (QtPropertyGridItemModel::getRow(candidate)->getName() == name)
+            if (QtPropertyGridItemModel::getRow(candidate)->getName() == name && passed++ == namesakes)
                 next = candidate;
         }
         if (!next.isValid())
@@ -345,7 +372,7 @@ void QtPropertyGridView::keepPlace()
     m_editor.clear();
     // Emptied twice in a row, the grid still means the place of the rows that were there.
     if (m_rows.rowCount() != 0)
-        m_place = Place{getPath(currentIndex()), verticalScrollBar()->value()};
+        m_scene = Scene{getPlace(currentIndex()), verticalScrollBar()->value()};
 }
 
 void QtPropertyGridView::makeCurrent(QModelIndex const& index)
@@ -365,7 +392,7 @@ void QtPropertyGridView::dressRow(QModelIndex const& index)
         dressRow(m_rows.index(position, nameColumn, index));
 }
 
-void QtPropertyGridView::setFolded(QModelIndex const& index, bool folded)
+void QtPropertyGridView::noteFolded(QModelIndex const& index, bool folded)
 {
     if (m_isDressing)
         return;
@@ -443,20 +470,72 @@ bool QtPropertyGridView::handleKey(QKeyEvent const& event)
     if (!row)
         return false;
     if (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier))
-        return openEditor(index, true);
+        return openChoices();
     if (event.modifiers() & ~Qt::KeypadModifier)
         return false;
     switch (event.key()) {
     case Qt::Key_Space:
-        return PropertyGridEditing::hasCheckBox(*row) && (m_rows.clickCheckBox(index), true);
+        return PropertyGridEditing::hasCheckBox(*row) && toggleSelection();
     case Qt::Key_Delete:
-        return row->getState().kind != Kind::Group && (m_rows.clear(index), true);
+        return clearSelectedValues();
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return activateCurrentRow();
     default:
         return false;
     }
+}
+
+std::vector<QtPropertyGridView::Place> QtPropertyGridView::getSelectedPlaces() const
+{
+    std::vector<Place> places = {getPlace(currentIndex())};
+    for (auto const& index : getSelectedRows())
+        if (index != currentIndex().siblingAtColumn(nameColumn))
+            places.push_back(getPlace(index));
+    return places;
+}
+
+bool QtPropertyGridView::toggleSelection()
+{
+    auto const places = getSelectedPlaces();
+    if (!m_rows.clickCheckBox(findIndex(places.front())))
+        return true;
+    // Each click may make the rows anew.
+    auto const* const first = QtPropertyGridItemModel::getRow(findIndex(places.front()));
+    if (!first)
+        return true;
+    auto const state = first->getCheckState();
+    for (auto const& place : places) {
+        auto const index = findIndex(place);
+        auto const* const row = QtPropertyGridItemModel::getRow(index);
+        if (row && PropertyGridEditing::canClickCheckBox(*row) && row->getCheckState() != state)
+            m_rows.clickCheckBox(index);
+    }
+    return true;
+}
+
+bool QtPropertyGridView::clearSelectedValues()
+{
+    auto isAnyRow = false;
+    for (auto const& place : getSelectedPlaces()) {
+        auto const index = findIndex(place);
+        auto const* const row = QtPropertyGridItemModel::getRow(index);
+        if (!row || row->getState().kind == Kind::Group)
+            continue;
+        m_rows.clear(index);
+        isAnyRow = true;
+    }
+    return isAnyRow;
+}
+
+bool QtPropertyGridView::openChoices()
+{
+    auto const index = getCurrentValueIndex();
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    auto const hasChoices = PropertyGridEditing::getValueEditor(*row) == PropertyGridEditor::Choice;
+    if (!hasChoices && PropertyGridEditing::canPressButton(*row))
+        return m_rows.pressButton(index);
+    return openEditor(index, true);
 }
 
 bool QtPropertyGridView::activateCurrentRow()

@@ -31,6 +31,9 @@ public:
 
     /// Puts back what was current and where the view was scrolled to before the rows were made anew.
     void restorePlace();
+    /// The names down to each row that the user has folded, whether the row is there at present or not.
+    [[nodiscard]] std::set<std::vector<std::string>> const& getFolded() const { return m_folded; }
+    void setFolded(std::set<std::vector<std::string>> folded);
     /// Folds or unfolds all groups there are.
     void setAllFolded(bool folded);
     /// Copies the selected rows to the clipboard.
@@ -64,15 +67,24 @@ protected:
 
 private:
     using Path = std::vector<std::string>;
+    /// A row among its siblings: its name, and how many of the name stand before it.
+    struct Step
+    {
+        std::string name;
+        int namesakes = 0;
+    };
+    /// The steps from the top level down to one row.
+    using Place = std::vector<Step>;
 
     [[nodiscard]] static Path getPath(QModelIndex const& index);
-    [[nodiscard]] QModelIndex findIndex(Path const& path) const;
+    [[nodiscard]] Place getPlace(QModelIndex const& index) const;
+    [[nodiscard]] QModelIndex findIndex(Place const& place) const;
     [[nodiscard]] QModelIndex getCurrentValueIndex() const;
     void keepPlace();
     /// Makes a row current, and it alone selected.
     void makeCurrent(QModelIndex const& index);
     void dressRow(QModelIndex const& index);
-    void setFolded(QModelIndex const& index, bool folded);
+    void noteFolded(QModelIndex const& index, bool folded);
     void applyFontMeasures();
     void applySplit();
     void takeSplitFromHeader();
@@ -80,6 +92,15 @@ private:
     [[nodiscard]] QStyleOptionViewItem getCellOption(QModelIndex const& index) const;
     void clickValue(QModelIndex const& index, QPoint const& position);
     bool handleKey(QKeyEvent const& event);
+    /// Toggles the current check box, and gives those of the other selected rows the same state.
+    bool toggleSelection();
+    bool clearSelectedValues();
+    /// The selected rows from top to bottom.
+    [[nodiscard]] QModelIndexList getSelectedRows() const;
+    /// The places of the selected rows from top to bottom, the current one first.
+    [[nodiscard]] std::vector<Place> getSelectedPlaces() const;
+    /// Opens the choices of the current row, or presses its button.
+    bool openChoices();
     bool activateCurrentRow();
     /// Makes the next row that can be changed current, and opens its editor if \p withEditor.
     bool moveToEditableRow(QModelIndex const& from, bool forwards, bool withEditor);
@@ -94,14 +115,15 @@ private:
     /// The names down to each row that the user has folded.
     std::set<Path> m_folded;
     bool m_isDressing = false;
-    struct Place
+    /// What was seen before the rows were made anew.
+    struct Scene
     {
-        Path current;
+        Place current;
         int scroll = 0;
     };
-    std::optional<Place> m_place;
+    std::optional<Scene> m_scene;
     /// The row of the open editor.
-    Path m_edited;
+    Place m_edited;
     /// The open editor; null once the view has let go of it.
     QPointer<QWidget> m_editor;
     QTimer m_restoreTimer;

@@ -1,5 +1,6 @@
 #include "QtUiTest.h"
 #include "Ui/Qt/QtDialog.h"
+#include "Ui/Qt/QtProgressBar.h"
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 #include "Ui/Window/GroupBox.h"
 #include "Ui/Window/PopupMenu.h"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -147,6 +149,48 @@ TEST_F(QtBackendTest, MenuGivesTheChosenEntry)
         QTest::keyClick(widget, Qt::Key_Return);
     });
     EXPECT_EQ(menu.show({10, 10}), 1u);
+}
+
+TEST_F(QtBackendTest, ProgressBarShowsHowFarTheOperationIsAndStopsIt)
+{
+    auto const bar = ProgressBarInterface::create("Opening");
+    auto* const dialogOfBar = dynamic_cast<QtProgressBar&>(*bar).getDialog();
+    EXPECT_EQ(dialogOfBar->windowTitle(), "Opening");
+    EXPECT_TRUE(ProgressBarInterface::isRunning());
+    bar->setProgress(0.25, "Reading walls");
+    EXPECT_EQ(dialogOfBar->labelText(), "Reading walls");
+    EXPECT_EQ(dialogOfBar->value() * 4, dialogOfBar->maximum());
+    EXPECT_FALSE(bar->isCancelled());
+    dialogOfBar->show();
+    QTest::mouseClick(dialogOfBar->findChild<QPushButton*>(), Qt::LeftButton);
+    EXPECT_TRUE(bar->isCancelled());
+}
+
+TEST_F(QtBackendTest, ProgressBarOutlivesItsWidgetHarmlessly)
+{
+    auto const bar = ProgressBarInterface::create("Opening");
+    delete dynamic_cast<QtProgressBar&>(*bar).getDialog();
+    bar->setProgress(0.5, "");
+    EXPECT_FALSE(bar->isCancelled());
+}
+
+TEST_F(QtBackendTest, TabOrderFollowsThePredecessorsAndEndsWithTheLastAsked)
+{
+    auto const first = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 10, 10}, 1);
+    auto const last = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 10, 10}, 2);
+    auto const middle = Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 10, 10}, 3, first);
+    auto const getTabOrder = [&] {
+        std::vector<int> ids;
+        auto* const owner = backend->getWidget(dialog->getHandle());
+        for (auto* next = owner->nextInFocusChain(); next != owner; next = next->nextInFocusChain())
+            if (auto const window =
+                    ui::details::WindowInterfaceFactory::pWindowFromHandle_(WindowHandle(next)))
+                ids.push_back(window->getDialogControlId());
+        return ids;
+    };
+    EXPECT_THAT(getTabOrder(), ElementsAre(1, 3, 2));
+    first->setTabOrder(nullptr);
+    EXPECT_THAT(getTabOrder(), ElementsAre(3, 2, 1));
 }
 
 TEST_F(QtBackendTest, RedrawStopsUntilTheGuardEnds)

@@ -1,21 +1,10 @@
-#include "QtUiTest.h"
-#include "Ui/PropertyGrid/PropertyGridEditing.h"
-#include "Ui/PropertyGrid/PropertyGridRowRecord.h"
-#include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
-#include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
-#include "Ui/Qt/QtText.h"
+#include "QtPropertyGridTest.h"
 
-#include <functional>
-#include <QAbstractItemModelTester>
-#include <QApplication>
-#include <QClipboard>
+#include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
+
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QScrollBar>
-#include <QTest>
-#include <QToolTip>
 
 namespace qev::test {
 namespace {
@@ -24,157 +13,6 @@ using namespace ui;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-using Path = std::vector<std::string>;
-
-std::unique_ptr<PropertyGridProperty> text(std::string const& name, std::string const& value,
-                                           bool readOnly = false)
-{
-    return std::make_unique<PropertyGridProperty>(name, value, "About " + name, readOnly);
-}
-
-std::unique_ptr<PropertyGridProperty> length(std::string const& name, double metres)
-{
-    auto row = std::make_unique<PropertyGridProperty>(name, metres, "About " + name, false);
-    row->setQuantityPresentation(unit::createPresentationForMeasure("LengthMeasure"));
-    return row;
-}
-
-std::unique_ptr<PropertyGridProperty> choice(std::string const& name, std::string const& value,
-                                             bool optionsOnly)
-{
-    auto row = text(name, value);
-    for (auto const* const option : {"F30", "F60", "F90"})
-        row->addOption(option);
-    row->setOptionsOnly(optionsOnly);
-    return row;
-}
-
-class QtPropertyGridTest : public QtUiTest
-{
-protected:
-    QtPropertyGridTest()
-        : control(Window::create<PropertyGridControl>(dialog, 0, 0, {0, 0, 500, 400}))
-        , grid(*backend->getPropertyGrid(*control))
-        , view(grid.getView())
-        , model(grid.getItemModel())
-        , tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal)
-    {
-        control->onPropertyChanged.iHandlerAdd([this](auto&, PropertyGridProperty& property) {
-            std::string value;
-            property.getStringValue(value);
-            changes.push_back(property.getName() + "=" + value);
-            if (refillOnChange)
-                fill();
-        });
-        fill();
-        QApplication::setActiveWindow(backend->getWidget(dialog->getHandle()));
-        view.setFocus();
-        settle();
-    }
-
-    /// What the rows are made of; tests add to it.
-    std::function<void(PropertyGridProperty&)> addMore = [](PropertyGridProperty&) {};
-
-    void fill()
-    {
-        control->removeAllProperties();
-        auto attributes = std::make_unique<PropertyGridProperty>("Attributes");
-        for (auto& row : {text("GlobalId", "0abc", true), text("Name", name)})
-            attributes->addSubProperty(*row);
-        auto set = std::make_unique<PropertyGridProperty>("Pset_WallCommon");
-        std::vector<std::unique_ptr<PropertyGridProperty>> rows;
-        rows.push_back(length("Width", 0.123456789));
-        rows.push_back(choice("FireRating", "F30", true));
-        rows.push_back(choice("Status", "F60", false));
-        auto external = std::make_unique<PropertyGridCheckBoxProperty>("IsExternal", CheckState::Unchecked,
-                                                                       std::string("About IsExternal"));
-        external->getOnCheckBoxClickedHandlers(control).iHandlerAdd(
-            [this](auto&, PropertyGridCheckBoxProperty& property) {
-                clicks.push_back(property.getCheckState());
-            });
-        rows.push_back(std::move(external));
-        for (auto const& row : rows)
-            set->addSubProperty(*row);
-        addMore(*set);
-        control->addProperty(std::move(attributes));
-        control->addProperty(std::move(set));
-        control->adjustLayout();
-    }
-
-    [[nodiscard]] QModelIndex index(Path const& path, int column = QtPropertyGridItemModel::valueColumn) const
-    {
-        QModelIndex found;
-        for (auto const& step : path) {
-            auto const matches = model.match(model.index(0, 0, found), Qt::DisplayRole, toQString(step), 1,
-                                             Qt::MatchExactly | Qt::MatchCaseSensitive);
-            if (matches.isEmpty())
-                return {};
-            found = matches.front();
-        }
-        return found.siblingAtColumn(column);
-    }
-    [[nodiscard]] std::string value(Path const& path) const
-    {
-        return fromQString(index(path).data(Qt::DisplayRole).toString());
-    }
-    [[nodiscard]] std::string current() const
-    {
-        auto const* const row = QtPropertyGridItemModel::getRow(view.currentIndex());
-        return row ? row->getName() : "";
-    }
-    void select(Path const& path)
-    {
-        view.selectionModel()->setCurrentIndex(index(path, 0), QItemSelectionModel::ClearAndSelect |
-                                                                   QItemSelectionModel::Rows);
-    }
-    void click(QPoint const& position)
-    {
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, position);
-    }
-    void click(Path const& path) { click(view.visualRect(index(path)).center()); }
-    void key(Qt::Key pressed, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        auto* const target = QApplication::focusWidget();
-        ASSERT_NE(target, nullptr);
-        QTest::keyClick(target, pressed, modifiers);
-        settle();
-    }
-    void type(char const* typed)
-    {
-        for (; *typed; ++typed)
-            QTest::keyClick(QApplication::focusWidget(), *typed);
-    }
-    template <class Editor>
-    [[nodiscard]] Editor* editor(Path const& path) const
-    {
-        return qobject_cast<Editor*>(view.indexWidget(index(path)));
-    }
-    [[nodiscard]] QtPropertyGridLayout layout(Path const& path) const
-    {
-        QStyleOptionViewItem option;
-        option.initFrom(&view);
-        option.widget = &view;
-        option.rect = view.visualRect(index(path));
-        return QtPropertyGridLayout::of(*QtPropertyGridItemModel::getRow(index(path)), option);
-    }
-
-    std::string name = "Wall 1";
-    std::shared_ptr<PropertyGridControl> control;
-    QtPropertyGrid& grid;
-    QtPropertyGridView& view;
-    QtPropertyGridItemModel& model;
-    QAbstractItemModelTester tester;
-    bool refillOnChange = false;
-    std::vector<std::string> changes;
-    std::vector<CheckState> clicks;
-
-    Path const nameRow{"Attributes", "Name"};
-    Path const widthRow{"Pset_WallCommon", "Width"};
-    Path const ratingRow{"Pset_WallCommon", "FireRating"};
-    Path const statusRow{"Pset_WallCommon", "Status"};
-    Path const externalRow{"Pset_WallCommon", "IsExternal"};
-};
 
 TEST_F(QtPropertyGridTest, ShowsNamesAndValuesInTwoColumns)
 {
@@ -357,35 +195,6 @@ TEST_F(QtPropertyGridTest, DeleteClearsTheValue)
     EXPECT_NE(view.getMessage(), "");
 }
 
-TEST_F(QtPropertyGridTest, CopyTakesTheValueOfOneRowAlsoOfAReadOnlyOne)
-{
-    select({"Attributes", "GlobalId"});
-    key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "0abc");
-}
-
-TEST_F(QtPropertyGridTest, CopyOfSeveralRowsIsATableFromTopToBottom)
-{
-    name = "a\tb";
-    fill();
-    select(externalRow);
-    view.selectionModel()->select(index(nameRow), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "Name\t\"a\tb\"\nIsExternal\tfalse\n");
-    EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasHtml());
-}
-
-TEST_F(QtPropertyGridTest, FoldedGroupsStayFoldedByNameWhenTheRowsAreMadeAnew)
-{
-    view.collapse(index({"Attributes"}, 0));
-    fill();
-    EXPECT_FALSE(view.isExpanded(index({"Attributes"}, 0)));
-    EXPECT_TRUE(view.isExpanded(index({"Pset_WallCommon"}, 0)));
-    view.expand(index({"Attributes"}, 0));
-    fill();
-    EXPECT_TRUE(view.isExpanded(index({"Attributes"}, 0)));
-}
-
 TEST_F(QtPropertyGridTest, PlaceStaysWhenTheRowsAreMadeAnew)
 {
     addMore = [](PropertyGridProperty& set) {
@@ -436,30 +245,6 @@ TEST_F(QtPropertyGridTest, OneClickOnAValueOpensItsEditor)
 {
     click(nameRow);
     EXPECT_NE(editor<QLineEdit>(nameRow), nullptr);
-}
-
-TEST_F(QtPropertyGridTest, SplitIsDraggedBetweenTheRowsAndKept)
-{
-    auto const before = view.header()->sectionSize(0);
-    auto const y = view.visualRect(index(nameRow)).center().y();
-    QPoint const start(before, y);
-    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    QMouseEvent move(QEvent::MouseMove, QPointF(start + QPoint(50, 0)),
-                     view.viewport()->mapToGlobal(QPointF(start + QPoint(50, 0))), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &move);
-    QTest::mouseRelease(view.viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(50, 0));
-    EXPECT_EQ(view.header()->sectionSize(0), before + 50);
-    auto const split = view.getSplit();
-
-    QtPropertyGrid other;
-    EXPECT_TRUE(other.restoreLayout(grid.saveLayout()));
-    EXPECT_DOUBLE_EQ(other.getView().getSplit(), split);
-    EXPECT_FALSE(other.restoreLayout("nonsense"));
-
-    control->setPlacement({0, 0, 250, 400});
-    settle();
-    EXPECT_NEAR(view.header()->sectionSize(0), split * view.viewport()->width(), 1);
 }
 
 TEST_F(QtPropertyGridTest, DescriptionOfTheCurrentRowIsShownBelow)

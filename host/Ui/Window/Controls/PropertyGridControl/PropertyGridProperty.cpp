@@ -216,6 +216,12 @@ void PropertyGridProperty::deactivateEmptyState()
         row->setEmptyState(false);
 }
 
+void PropertyGridProperty::setHint(std::string const& hint)
+{
+    if (auto* const row = requireInterface("setHint"))
+        row->setHint(hint);
+}
+
 void PropertyGridProperty::setBoldFontStyleForNameAndValue()
 {
     if (auto* const row = requireInterface("setBoldFontStyleForNameAndValue"))

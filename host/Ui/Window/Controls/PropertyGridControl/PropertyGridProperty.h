@@ -91,6 +91,9 @@ public:
     /// In the empty state a row shows no value.
     void activateEmptyState();
     void deactivateEmptyState();
+    /// What the row shows in grey while it has no value to show, such as that values differ. It is no value:
+    /// it is not edited, not copied and not read.
+    void setHint(std::string const& hint);
 
     void setBoldFontStyleForNameAndValue();
     void setBackgroundColour(attr::Colour const& colour);

@@ -55,6 +55,7 @@ public:
     [[nodiscard]] virtual bool isEnabled() const = 0;
     virtual void setEmptyState(bool active) = 0;
 
+    virtual void setHint(std::string const& hint) = 0;
     virtual void setBoldFontStyleForNameAndValue() = 0;
     virtual void setBackgroundColour(attr::Colour const& colour) = 0;
     virtual void setAlignment(int alignment) = 0;
