@@ -132,6 +132,21 @@ TEST_F(SetDefinitions, QuantitiesOfASetWithoutDefinitionAreThoseOfTheFirstObject
     EXPECT_THAT(shown.names(), ElementsAre("A"));
 }
 
+TEST_F(SetDefinitions, OfASetWithoutDefinitionWhatHasNoTypeOrNoDisplayHasNoRow)
+{
+    auto const set = model.addSet(wall, "Own", {{"Empty", FcValue()}, {"A", label("1")}});
+    auto const reference = std::make_shared<resource::property::FcPropertyReferenceValue>();
+    reference->Name = "Reference";
+    set->HasProperties.addProperty(reference);
+    set->HasProperties.addProperty(boundedValue("Unbounded", {}, {}, {}));
+    set->HasProperties.addProperty(boundedValue("Range", {}, {}, real(1)));
+
+    ShownSet const shown("Own", Type::PropertySet, {wall});
+
+    EXPECT_THAT(takeReportTexts(), ElementsAre("IfcPropertyReferenceValue not implemented."));
+    EXPECT_THAT(shown.names(), ElementsAre("A", "Range"));
+}
+
 TEST_F(SetDefinitions, TheFirstObjectIsTheFirstThatHasTheSet)
 {
     model.addSet(other, "Own", {{"B", label("2")}});

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <stdexcept>
 
 namespace {
 
@@ -351,6 +352,26 @@ TEST_F(SingleValue, TheOverrideOfTheHostGoesFirst)
     ASSERT_NE(lengthPresentation, nullptr);
     EXPECT_EQ(&lengthPresentation->unit(), &qev::unit::LengthUnit::get());
     EXPECT_THAT(toyOverride->asked, testing::ElementsAre("Label|Pset|Code", "LengthMeasure|Pset|Length"));
+}
+
+/// Stands for units that are not there.
+class FailingOverride : public PropertyTypePropertySetAndPropertyNameQppOverrideInterface
+{
+public:
+    std::unique_ptr<qev::unit::QuantityPresentationBase>
+    createQuantityPresentation(std::string /*type*/, std::string /*set*/, std::string /*name*/) override
+    {
+        throw std::runtime_error("unit not registered");
+    }
+};
+
+TEST_F(SingleValue, AMissingUnitReachesTheCaller)
+{
+    ShownSet::Options options;
+    options.qppOverride = std::make_shared<FailingOverride>();
+    ShownSet const shown(definition(), {wall}, options);
+
+    EXPECT_THROW(static_cast<void>(shown["Length"].getValue()), std::runtime_error);
 }
 
 TEST_F(SingleValue, APropertyRegisteredByItsIdGoesBeforeItsType)
