@@ -188,6 +188,23 @@ TEST(ObjectSets, AnObjectInNoModelHasNone)
     EXPECT_FALSE(wall->deletePropertySetDefinition("Pset_X"));
 }
 
+TEST(ObjectSets, AreVisitedInTheirOrderUntilTheVisitorHasEnough)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    auto const type = model.wallType("T1");
+    for (Model::Object const& object : {Model::Object(wall), Model::Object(type)}) {
+        for (auto const* const name : {"Pset_A", "Pset_B", "Pset_C"})
+            model.addSet(object, name);
+        std::vector<std::string> visited;
+        object->forEachAttachedSet([&visited](std::shared_ptr<fc::FcBase> const& set) {
+            visited.push_back(*std::static_pointer_cast<FcPropertySet>(set)->Name.get());
+            return visited.size() < 2;
+        });
+        EXPECT_THAT(visited, ElementsAre("Pset_A", "Pset_B"));
+    }
+}
+
 TEST(DeleteObjectSet, TellsWhetherThereWasOne)
 {
     Model model;
