@@ -5,10 +5,10 @@
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "FoundationClasses/Core/Kernel/FcRelNests.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
+#include "FoundationClasses/Core/ProductExtension/FcDistributionElement.h"
 #include "FoundationClasses/Core/ProductExtension/FcPort.h"
 #include "FoundationClasses/Core/ProductExtension/FcRelConnectsPortToElement.h"
 #include "FoundationClasses/Data.h"
-#include "FoundationClasses/Core/ProductExtension/FcDistributionElement.h"
 
 #include <algorithm>
 #include <functional>
@@ -20,11 +20,12 @@ namespace {
 /// The places of the relations by which \p object has its sets, ascending. Good until a relation changes.
 std::vector<EntityIndex> const& setRelations(FcObjectDefinition const& object)
 {
-    static unsigned int const slot = slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects");
+    static unsigned int const slot =
+        slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects");
     static std::vector<EntityIndex> const none;
     Data const* const data = object.getData();
-    return data ? data->relating(object.getIndex(), FcRelDefinesByProperties::idFirst, FcRelDefinesByProperties::idLast,
-                                 slot)
+    return data ? data->relating(object.getIndex(), FcRelDefinesByProperties::idFirst,
+                                 FcRelDefinesByProperties::idLast, slot)
                 : none;
 }
 
@@ -103,7 +104,8 @@ void FcObjectDefinition::forEachAttachedSet(SetVisitor const& visit) const
     }
 }
 
-std::shared_ptr<FcBase> FcObjectDefinition::findSet(std::string_view name, unsigned int first, unsigned int last) const
+std::shared_ptr<FcBase> FcObjectDefinition::findSet(std::string_view name, unsigned int first,
+                                                    unsigned int last) const
 {
     std::shared_ptr<FcBase> found;
     forEachAttachedSet([&](std::shared_ptr<FcBase> const& set) {
