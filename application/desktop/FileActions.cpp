@@ -2,11 +2,10 @@
 
 #include "ActionMenu.h"
 #include "FilePath.h"
-#include "OpeningProgress.h"
 #include "RecentFiles.h"
 #include "Ui/Qt/QtText.h"
+#include "Ui/Window/ProgressBarInterface.h"
 
-#include <functional>
 #include <QApplication>
 #include <QFileInfo>
 
@@ -16,6 +15,7 @@ namespace {
 
 using step::StepPatch;
 using step::StepSaveResult;
+using ui::fromQString;
 using ui::toQString;
 
 QString getLines(std::vector<std::string> const& lines)
@@ -56,10 +56,9 @@ bool FileActions::open(QString const& path)
 {
     if (!mayLeave())
         return false;
-    OpeningProgress progress(tr("Opening %1…").arg(QFileInfo(path).fileName()), &m_window);
     QApplication::setOverrideCursor(Qt::WaitCursor);
     fireEvents(onLeaving);
-    auto const isOpen = m_session.open(toPath(path), std::ref(progress));
+    auto const isOpen = openWithProgress(path);
     QApplication::restoreOverrideCursor();
     fireEvents(onShown);
     if (isOpen)
@@ -67,6 +66,17 @@ bool FileActions::open(QString const& path)
     else
         tellOpeningFailed(path);
     return isOpen;
+}
+
+bool FileActions::openWithProgress(QString const& path)
+{
+    auto const text = fromQString(tr("Opening %1…").arg(QFileInfo(path).fileName()));
+    auto const progress = ui::ProgressBarInterface::create(text);
+    return m_session.open(toPath(path), [&](std::uint64_t done, std::uint64_t total) {
+        if (total > 0)
+            progress->setProgress(static_cast<double>(done) / static_cast<double>(total), text);
+        return !progress->isCancelled();
+    });
 }
 
 bool FileActions::close()

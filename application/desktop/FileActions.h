@@ -43,6 +43,7 @@ public:
 private:
     void fillRecentMenu();
     void choose();
+    bool openWithProgress(QString const& path);
     bool finishSave(ifc::SaveResult const& result);
     void tellOpeningFailed(QString const& path);
 

@@ -4,6 +4,7 @@
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "ObjectLabel.h"
 #include "ShowAllFilter.h"
+#include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControl.h"
 #include "UI/FoundationClasses/Property/PropertyInterface.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
@@ -13,6 +14,7 @@
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridProperty.h"
+#include "UnsetHint.h"
 
 #include <QTimer>
 #include <QVBoxLayout>
@@ -162,10 +164,12 @@ void PropertyPane::showHint(QString const& hint)
 
 void PropertyPane::createControl()
 {
+    auto const formatter = std::make_shared<fc::ui::PropertyGridControlPropertyFormatter>();
+    formatter->addStrategy(std::make_shared<UnsetHint>(ui::fromQString(tr("not set"))));
     m_control = std::make_shared<PropertySetGridControl>(
-        ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_session.getData(), m_dialog,
-        std::make_shared<ShowAllFilter>(), GridFormatters{}, localization::Dictionaries::getContexts("IFC"),
-        nullptr);
+        ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_session.getData(),
+        m_dialog, std::make_shared<ShowAllFilter>(), GridFormatters{nullptr, formatter},
+        localization::Dictionaries::getContexts("IFC"), nullptr);
     m_control->init(0, std::nullopt, true);
     setUnusedShown(m_isUnusedShown);
     m_dialog->onSizeChanged(m_dialog->getClientAreaSize());

@@ -7,6 +7,7 @@
 #include "SearchPanel.h"
 #include "SmallBuilding.h"
 #include "TemporaryFolder.h"
+#include "Ui/PropertyGrid/PropertyGridEditing.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
 #include "Ui/Qt/QtBackend.h"
@@ -288,6 +289,33 @@ TEST_F(MainWindowTest, UnusedPropertiesCanBeHidden)
     window->getProperties().setUnusedShown(false);
     EXPECT_LT(window->getProperties().getGrid()->getItemModel().rowCount(), rowsBefore);
     EXPECT_EQ(value(fireRating()), "F30");
+}
+
+TEST_F(MainWindowTest, FoldedGroupsStayFoldedInTheNextRun)
+{
+    open();
+    window->selectObject(eastWall);
+    view().collapse(row({"Pset_WallCommon"}));
+    window->storeWindow();
+    window = std::make_unique<MainWindow>(backend);
+    window->restoreWindow();
+    open();
+    window->selectObject(westWall);
+    EXPECT_FALSE(view().isExpanded(row({"Pset_WallCommon"})));
+    EXPECT_TRUE(view().isExpanded(row({"IfcWall"})));
+}
+
+TEST_F(MainWindowTest, RowsWithoutAValueSaySo)
+{
+    open();
+    window->selectObject(eastWall);
+    auto const hint = [&](std::vector<std::string> const& names) {
+        return ui::PropertyGridEditing::getHint(*ui::QtPropertyGridItemModel::getRow(row(names)));
+    };
+    EXPECT_EQ(hint({"Pset_WallCommon", "AcousticRating"}), "not set");
+    EXPECT_EQ(hint({"IfcWall", "Tag"}), "not set");
+    EXPECT_EQ(hint({"Pset_WallCommon", "FireRating"}), "");
+    EXPECT_EQ(hint({"Pset_WallCommon", "LoadBearing"}), "");
 }
 
 TEST_F(MainWindowTest, AnotherFileTakesThePlaceOfThePresentOne)
