@@ -1,6 +1,7 @@
 #include "Commands.h"
 #include "EntityProperties.h"
 #include "FileAccess.h"
+#include "ObjectLabel.h"
 #include "Output.h"
 
 #include <iostream>
@@ -48,10 +49,11 @@ struct JsonOfReference
     {
         if (!entity)
             return nullptr;
+        auto const label = ObjectLabel::of(*entity);
         return {{"id", file.idOf(entity->getIndex())},
-                {"class", entity->getEntityName()},
-                {"globalId", globalIdOf(*entity)},
-                {"name", nameOf(*entity)}};
+                {"class", label.className},
+                {"globalId", label.globalId},
+                {"name", label.name}};
     }
 };
 
@@ -82,7 +84,7 @@ void printAsJson(ifc::IfcFile const& file, fc::FcBase const& entity, std::vector
 {
     Json document = {{"id", file.idOf(entity.getIndex())},
                      {"class", entity.getEntityName()},
-                     {"globalId", globalIdOf(entity)},
+                     {"globalId", ObjectLabel::of(entity).globalId},
                      {"properties", Json::array()}};
     for (EntityProperty const& property : tree)
         document["properties"].push_back(asJson(file, property));
