@@ -6,7 +6,7 @@
 
 namespace qev::application {
 
-/// Lets rows without a value say so.
+/// Lets the rows of properties without a value say so.
 class UnsetHint final : public fc::ui::PropertyGridControlPropertyFormatterStrategyInterface
 {
 public:

@@ -305,7 +305,7 @@ TEST_F(MainWindowTest, FoldedGroupsStayFoldedInTheNextRun)
     EXPECT_TRUE(view().isExpanded(row({"IfcWall"})));
 }
 
-TEST_F(MainWindowTest, RowsWithoutAValueSaySo)
+TEST_F(MainWindowTest, PropertiesWithoutAValueSaySo)
 {
     open();
     window->selectObject(eastWall);
@@ -313,7 +313,7 @@ TEST_F(MainWindowTest, RowsWithoutAValueSaySo)
         return ui::PropertyGridEditing::getHint(*ui::QtPropertyGridItemModel::getRow(row(names)));
     };
     EXPECT_EQ(hint({"Pset_WallCommon", "AcousticRating"}), "not set");
-    EXPECT_EQ(hint({"IfcWall", "Tag"}), "not set");
+    EXPECT_EQ(hint({"IfcWall", "OwnerHistory"}), "");
     EXPECT_EQ(hint({"Pset_WallCommon", "FireRating"}), "");
     EXPECT_EQ(hint({"Pset_WallCommon", "LoadBearing"}), "");
 }
