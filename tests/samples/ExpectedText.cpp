@@ -104,6 +104,24 @@ bool ExpectedText::matches(std::string_view shown) const
     return rest == all.c_str() + all.size();
 }
 
+std::optional<bool> ExpectedText::isSame(ExpectedText const& other) const
+{
+    if (m_pieces.size() != other.m_pieces.size())
+        return false;
+    bool isClear = true;
+    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
+        auto const* const number = std::get_if<double>(&m_pieces[i]);
+        auto const* const otherNumber = std::get_if<double>(&other.m_pieces[i]);
+        if (m_pieces[i] == other.m_pieces[i])
+            continue;
+        double const rounding = number ? 2e-6 + 1e-9 * std::abs(*number) : 0.0;
+        if (!number || !otherNumber || std::abs(*number - *otherNumber) > rounding)
+            return false;
+        isClear = false;
+    }
+    return isClear ? std::optional(true) : std::nullopt;
+}
+
 std::string ExpectedText::describe() const
 {
     std::ostringstream out;

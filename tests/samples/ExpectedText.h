@@ -2,6 +2,7 @@
 
 #include "reference-reader/ReferenceProperty.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -21,6 +22,8 @@ public:
 
     /// Compares a text piece by piece. A number may be rounded to six decimals.
     [[nodiscard]] bool matches(std::string_view shown) const;
+    /// Compares with another text: nothing where the two differ by less than the numbers are rounded.
+    [[nodiscard]] std::optional<bool> isSame(ExpectedText const& other) const;
     [[nodiscard]] std::string describe() const;
     [[nodiscard]] bool isEmpty() const;
 
