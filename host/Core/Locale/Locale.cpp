@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace qev::locale {
@@ -21,6 +22,15 @@ constexpr std::array<std::pair<char const*, char const*>, 9> numbered = {{
     {"ko", ""},
     {"zh", ""},
 }};
+
+/// The languages of Europe and South America in which a comma is the decimal sign.
+constexpr std::array<std::string_view, 29> languagesWithComma = {
+    "bg", "bs", "ca", "cs", "da", "de", "el", "es", "et", "fi", "fr", "hr", "hu", "id", "is",
+    "it", "lt", "lv", "nb", "nl", "nn", "pl", "pt", "ro", "ru", "sk", "sl", "sv", "tr"};
+
+/// The regions that write a point although their language has a comma elsewhere.
+constexpr std::array<std::string_view, 12> regionsWithPoint = {"CH", "LI", "MX", "US", "GT", "HN",
+                                                               "NI", "PA", "PE", "PR", "SV", "DO"};
 
 bool isWord(std::string_view text, std::size_t shortest, std::size_t longest)
 {
@@ -66,6 +76,14 @@ std::optional<Locale> Locale::fromCode(std::string_view code)
 }
 
 std::string Locale::code() const { return m_region.empty() ? m_language : m_language + "-" + m_region; }
+
+char Locale::decimalSign() const
+{
+    auto const isListed = [](auto const& list, std::string const& text) {
+        return std::find(list.begin(), list.end(), text) != list.end();
+    };
+    return isListed(languagesWithComma, m_language) && !isListed(regionsWithPoint, m_region) ? ',' : '.';
+}
 
 Locale Locale::withoutRegion() const { return Locale(m_language, ""); }
 

@@ -33,6 +33,10 @@ public:
     /// "de" or "de-DE".
     [[nodiscard]] std::string code() const;
 
+    /// The sign between the whole and the decimal digits of a number, as people of the language and the
+    /// region write it: a point or a comma.
+    [[nodiscard]] char decimalSign() const;
+
     /// The same language of no region.
     [[nodiscard]] Locale withoutRegion() const;
 

@@ -2,9 +2,18 @@
 
 #include "dictionaryFoundationClassesUiDe.h"
 #include "dictionaryFoundationClassesUiEn.h"
+#include "dictionaryFoundationClassesUiFr.h"
 #include "dictionaryIfcDe.h"
 #include "dictionaryIfcEn.h"
+#include "dictionaryIfcFr.h"
 #include "dictionaryIfcPropertiesDe.h"
+#include "dictionaryIfcPropertiesFr.h"
+#include "dictionaryUiDe.h"
+#include "dictionaryUiEn.h"
+#include "dictionaryUiFr.h"
+#include "dictionaryUnitsDe.h"
+#include "dictionaryUnitsEn.h"
+#include "dictionaryUnitsFr.h"
 
 #include <algorithm>
 
@@ -28,9 +37,18 @@ Dictionaries Dictionaries::builtIn()
     Source const sources[] = {
         {"FoundationClassesUi", "en", embedded::dictionaryFoundationClassesUiEn()},
         {"FoundationClassesUi", "de", embedded::dictionaryFoundationClassesUiDe()},
+        {"FoundationClassesUi", "fr", embedded::dictionaryFoundationClassesUiFr()},
         {"Ifc", "en", embedded::dictionaryIfcEn()},
         {"Ifc", "de", embedded::dictionaryIfcDe()},
+        {"Ifc", "fr", embedded::dictionaryIfcFr()},
         {"IfcProperties", "de", embedded::dictionaryIfcPropertiesDe()},
+        {"IfcProperties", "fr", embedded::dictionaryIfcPropertiesFr()},
+        {"Ui", "en", embedded::dictionaryUiEn()},
+        {"Ui", "de", embedded::dictionaryUiDe()},
+        {"Ui", "fr", embedded::dictionaryUiFr()},
+        {"Units", "en", embedded::dictionaryUnitsEn()},
+        {"Units", "de", embedded::dictionaryUnitsDe()},
+        {"Units", "fr", embedded::dictionaryUnitsFr()},
     };
     Dictionaries result;
     for (auto const& source : sources)
@@ -48,13 +66,21 @@ void Dictionaries::add(std::string const& context, locale::Locale const& languag
 std::optional<std::string> Dictionaries::text(std::string_view context, std::string_view key,
                                               locale::Locale const& language) const
 {
-    if (auto text = exactText(context, key, language))
-        return text;
-    if (!language.region().empty()) {
-        if (auto text = exactText(context, key, language.withoutRegion()))
+    for (auto const& fallback : getFallbacks(language)) {
+        if (auto text = exactText(context, key, fallback))
             return text;
     }
-    return exactText(context, key, locale::Locale());
+    return std::nullopt;
+}
+
+std::vector<locale::Locale> Dictionaries::getFallbacks(locale::Locale const& language)
+{
+    std::vector<locale::Locale> result{language};
+    for (auto const& fallback : {language.withoutRegion(), locale::Locale()}) {
+        if (result.back() != fallback)
+            result.push_back(fallback);
+    }
+    return result;
 }
 
 std::vector<locale::Locale> Dictionaries::languages() const

@@ -33,13 +33,17 @@ public:
     [[nodiscard]] std::optional<std::string> text(std::string_view context, std::string_view key,
                                                   locale::Locale const& language) const;
 
+    /// The text in exactly \p language.
+    [[nodiscard]] std::optional<std::string> exactText(std::string_view context, std::string_view key,
+                                                       locale::Locale const& language) const;
+
+    /// The languages that are asked for a text in \p language, in this order.
+    [[nodiscard]] static std::vector<locale::Locale> getFallbacks(locale::Locale const& language);
+
     /// The languages in which some text is there, in the order of their codes.
     [[nodiscard]] std::vector<locale::Locale> languages() const;
 
 private:
-    [[nodiscard]] std::optional<std::string> exactText(std::string_view context, std::string_view key,
-                                                       locale::Locale const& language) const;
-
     std::map<std::pair<std::string, locale::Locale>, Dictionary> m_dictionaries;
 };
 

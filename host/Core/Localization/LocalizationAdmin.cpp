@@ -31,7 +31,23 @@ LocalizationAdmin::LocalizationAdmin(Dictionaries dictionaries)
 
 std::optional<std::string> LocalizationAdmin::text(std::string_view context, std::string_view key) const
 {
-    return m_dictionaries.text(context, key, m_language);
+    for (auto const& language : Dictionaries::getFallbacks(m_language)) {
+        for (auto const* const dictionaries : {&m_ofUser, &m_dictionaries}) {
+            if (auto text = dictionaries->exactText(context, key, language))
+                return text;
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<locale::Locale> LocalizationAdmin::languages() const
+{
+    auto result = m_dictionaries.languages();
+    auto const ofUser = m_ofUser.languages();
+    result.insert(result.end(), ofUser.begin(), ofUser.end());
+    std::sort(result.begin(), result.end());
+    result.erase(std::unique(result.begin(), result.end()), result.end());
+    return result;
 }
 
 std::vector<LocalizationAdmin::Message> LocalizationAdmin::addFolder(std::filesystem::path const& folder)
@@ -68,7 +84,7 @@ void LocalizationAdmin::addFile(std::filesystem::path const& file, std::vector<M
     auto const result = Dictionary::parse(text);
     for (auto const& parseError : result.errors)
         messages.push_back({file, parseError.line, parseError.text});
-    m_dictionaries.add(place->first, place->second, result.dictionary);
+    m_ofUser.add(place->first, place->second, result.dictionary);
 }
 
 } // namespace qev::localization

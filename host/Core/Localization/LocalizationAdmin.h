@@ -37,7 +37,7 @@ public:
     void setLanguage(locale::Locale const& language) { m_language = language; }
 
     /// The languages in which there are texts.
-    [[nodiscard]] std::vector<locale::Locale> languages() const { return m_dictionaries.languages(); }
+    [[nodiscard]] std::vector<locale::Locale> languages() const;
 
     /// Adds texts; those of a key that is there already are replaced.
     void add(std::string const& context, locale::Locale const& language, Dictionary const& dictionary)
@@ -45,14 +45,18 @@ public:
         m_dictionaries.add(context, language, dictionary);
     }
 
-    /// Reads all files "<context>.<language>.txt" of \p folder. Their texts are added, and replace those of
-    /// the same key. \returns what was not understood; that is left out.
+    /// Reads all files "<context>.<language>.txt" of \p folder, the user's own. Of texts of the same key and
+    /// language those of folders go first, the last folder before the others.
+    /// \returns what was not understood; that is left out.
     std::vector<Message> addFolder(std::filesystem::path const& folder);
+    /// Forgets the texts of all folders.
+    void removeFolders() { m_ofUser = Dictionaries(); }
 
 private:
     void addFile(std::filesystem::path const& file, std::vector<Message>& messages);
 
     Dictionaries m_dictionaries;
+    Dictionaries m_ofUser;
     locale::Locale m_language;
 };
 

@@ -45,6 +45,19 @@ bool QppBase::setSettings(std::string const& context, QppSettings const& setting
     return true;
 }
 
+void QppBase::setPreferences(UnitPreferences const& preferences)
+{
+    preferences.apply(m_defaults);
+    setNumberFormat(preferences.numberFormat());
+}
+
+void QppBase::setNumberFormat(NumberFormat const& format)
+{
+    m_defaults.setNumberFormat(format);
+    for (auto& [context, settings] : m_settings)
+        settings.setNumberFormat(format);
+}
+
 QppRegistration const& QppBase::registration() { return registrationNonConst(); }
 
 QppRegistration& QppBase::registrationNonConst()
@@ -62,12 +75,18 @@ GeographicAngleQpp::GeographicAngleQpp(QuantityBase const& planeAngle)
 
 GeographicAngleQpp::~GeographicAngleQpp() = default;
 
+void GeographicAngleQpp::setPreferences(UnitPreferences const& preferences)
+{
+    setNumberFormat(preferences.numberFormat());
+}
+
 QppRegistration::QppRegistration() = default;
 
 QppRegistration::~QppRegistration() = default;
 
 QppBase& QppRegistration::add(std::unique_ptr<QppBase> parameters)
 {
+    parameters->setPreferences(m_preferences);
     m_parameters.push_back(std::move(parameters));
     return *m_parameters.back();
 }
@@ -82,6 +101,13 @@ QppBase& QppRegistration::defaultOf(QuantityBase const& quantity)
     if (quantity.id() == QuantityId::PlaneAngle)
         add(std::make_unique<GeographicAngleQpp>(quantity));
     return result;
+}
+
+void QppRegistration::setPreferences(UnitPreferences const& preferences)
+{
+    m_preferences = preferences;
+    for (auto const& parameters : m_parameters)
+        parameters->setPreferences(preferences);
 }
 
 } // namespace qev::unit

@@ -1,5 +1,6 @@
 #include "Core/Unit/QppSettings.h"
 
+#include "Core/Localization/Localize.h"
 #include "Core/String/NumberText.h"
 #include "Core/Unit/QuantityTextReader.h"
 
@@ -13,7 +14,6 @@ namespace qev::unit {
 
 namespace {
 
-constexpr int maximumDecimals = 15;
 /// From here on the digits of a number without exponent would be made up.
 constexpr double largestPlainNumber = 1e15;
 /// Digits shown of a number that rounding would turn into zero.
@@ -108,8 +108,8 @@ std::string QppSettings::writeToString(double value, UnitBase const& unit) const
     UnitBase const& shown = displayUnitFor(unit);
     double const number = convert(value, unit, shown);
     if (auto const text = writeWithStyle(number))
-        return withDecimalSign(*text);
-    std::string text = withDecimalSign(writeDecimal(number, shown));
+        return m_numberFormat.withDecimalSign(*text);
+    std::string text = m_numberFormat.withDecimalSign(writeDecimal(number, shown));
     if (!m_showsUnit || shown.symbol().empty())
         return text;
     if (!isAttached(shown.symbol()))
@@ -120,15 +120,31 @@ std::string QppSettings::writeToString(double value, UnitBase const& unit) const
 std::string QppSettings::writeNumberToString(double value, UnitBase const& unit) const
 {
     UnitBase const& shown = displayUnitFor(unit);
-    return withDecimalSign(writeDecimal(convert(value, unit, shown), shown));
+    return m_numberFormat.withDecimalSign(writeDecimal(convert(value, unit, shown), shown));
 }
 
 std::optional<double> QppSettings::parse(std::string_view text, UnitBase const& unit) const
 {
-    auto const value = QuantityTextReader(text, displayUnitFor(unit), unit).read();
+    auto const value = QuantityTextReader(text, displayUnitFor(unit), unit, m_numberFormat).read();
     if (!value || !std::isfinite(*value))
         return std::nullopt;
     return *value + 0.0;
+}
+
+std::string QppSettings::describeExpected(std::string_view text, UnitBase const& unit) const
+{
+    QuantityTextReader reader(text, displayUnitFor(unit), unit, m_numberFormat);
+    static_cast<void>(reader.read());
+    if (auto const& number = reader.ambiguousNumber(); !number.empty())
+        return m_numberFormat.describeExpected(number);
+    std::string const example = m_numberFormat.withDecimalSign("2.5");
+    std::string const symbols = symbolsOf(unit);
+    if (symbols.empty())
+        return localize("Expected_Number", "Units", {example});
+    std::string_view const shown = displayUnitFor(unit).symbol();
+    if (shown.empty())
+        return localize("Expected_NumberOrUnit", "Units", {example, symbols});
+    return localize("Expected_NumberWithUnit", "Units", {example, std::string(shown), symbols});
 }
 
 double QppSettings::dInternal(std::string const& text, UnitBase const& unit) const
@@ -138,36 +154,35 @@ double QppSettings::dInternal(std::string const& text, UnitBase const& unit) con
 
 double QppSettings::dValueWithoutApplyingUnit(std::string const& text, NumberFormat const* format) const
 {
-    auto const first = text.find_first_not_of(" \t");
-    if (first == std::string::npos)
-        return std::numeric_limits<double>::quiet_NaN();
-    std::string number = text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
     if (!format)
-        number = plainNumber(number).value_or("");
-    else if (format->decimalSign != '.') {
-        if (number.find('.') != std::string::npos)
-            return std::numeric_limits<double>::quiet_NaN();
-        std::replace(number.begin(), number.end(), format->decimalSign, '.');
-    }
-    return str::parseDouble(number).value_or(std::numeric_limits<double>::quiet_NaN());
+        return m_numberFormat.read(text).value_or(none);
+    bool const hasOtherSign = text.find(format->decimalSign == '.' ? ',' : '.') != std::string::npos;
+    bool const hasGroups = std::count(text.begin(), text.end(), format->decimalSign) > 1;
+    return hasOtherSign || hasGroups ? none : format->read(text).value_or(none);
 }
 
 std::string QppSettings::fullDigits(double value, UnitBase const& unit) const
 {
+    value += 0.0;
     UnitBase const& displayUnit = displayUnitFor(unit);
-    auto const readsBack = [&](std::string const& text) { return parse(text, unit) == value; };
+    auto const readsBack = [&](std::string const& text) {
+        return parse(m_numberFormat.withDecimalSign(text), unit) == value;
+    };
+    if (auto const text = writeWithStyle(convert(value, unit, displayUnit)); text && readsBack(*text))
+        return m_numberFormat.withDecimalSign(*text);
     auto const from = unit.decimalExponent();
     auto const to = displayUnit.decimalExponent();
     if (from && to) {
         auto const text = str::timesPowerOfTen(str::shortestText(value), *from - *to);
         if (text && readsBack(*text))
-            return withDecimalSign(*text);
+            return m_numberFormat.withDecimalSign(*text);
     }
     double const shown = convert(value, unit, displayUnit);
     for (int digits = firstDigitsTried; digits <= distinctDigits; ++digits) {
         std::string const text = plainText(shown, digits);
         if (readsBack(text))
-            return withDecimalSign(text);
+            return m_numberFormat.withDecimalSign(text);
     }
     for (double const limit :
          {-std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()}) {
@@ -176,11 +191,12 @@ std::string QppSettings::fullDigits(double value, UnitBase const& unit) const
             neighbour = std::nextafter(neighbour, limit);
             std::string const text = str::shortestText(neighbour);
             if (readsBack(text))
-                return withDecimalSign(text);
+                return m_numberFormat.withDecimalSign(text);
         }
     }
     std::string const text = str::shortestText(value);
-    return withDecimalSign(unit.symbol().empty() ? text : text + " " + std::string(unit.symbol()));
+    return m_numberFormat.withDecimalSign(unit.symbol().empty() ? text
+                                                                : text + " " + std::string(unit.symbol()));
 }
 
 UnitBase const& QppSettings::displayUnitFor(UnitBase const& unit) const
@@ -218,10 +234,14 @@ std::optional<std::string> QppSettings::writeWithStyle(double number) const
     return text;
 }
 
-std::string QppSettings::withDecimalSign(std::string text) const
+std::string QppSettings::symbolsOf(UnitBase const& unit) const
 {
-    std::replace(text.begin(), text.end(), '.', m_numberFormat.decimalSign);
-    return text;
+    std::string result;
+    for (auto const& candidate : unit.quantity().units()) {
+        if (!candidate->symbol().empty())
+            result.append(result.empty() ? "" : ", ").append(candidate->symbol());
+    }
+    return result;
 }
 
 } // namespace qev::unit

@@ -26,6 +26,8 @@ public:
         DegreesMinutesSeconds
     };
 
+    static constexpr int maximumDecimals = 15;
+
     /// Settings with the display unit and the decimals that people in building expect:
     /// lengths in metres, areas in square metres, angles in degrees, temperatures in degrees Celsius,
     /// moduli of elasticity in N/mm², all else in the SI unit. Zeros at the end are not written.
@@ -68,26 +70,33 @@ public:
     /// Understood are: a number in the display unit; a number with any unit of the quantity ("250 mm",
     /// "2,5m"); several, from the larger unit to the smaller ("8' 2 1/2\"", "48° 12' 30\"", "1 h 30 min");
     /// exponents; fractions ("2 1/2"). Comma and point are both decimal signs. Where both stand, or one of
-    /// them more than once, they group thousands as well.
+    /// them more than once, they group thousands as well. A text such as "1,234", where the sign that is not
+    /// that of the number format may do either, is not understood.
     [[nodiscard]] std::optional<double> parse(std::string_view text, UnitBase const& unit) const;
+
+    /// For the user, in the current language: what would have been understood in place of \p text, which is
+    /// not.
+    [[nodiscard]] std::string describeExpected(std::string_view text, UnitBase const& unit) const;
 
     /// The same as `parse`, with a quiet NaN for a text that is not understood.
     [[nodiscard]] double dInternal(std::string const& text, UnitBase const& unit) const;
 
     /// A plain number, without any unit; a quiet NaN for a text that is none.
-    /// With \p format its decimal sign alone is one, and nothing groups thousands.
+    /// With \p format its decimal sign alone is one, and nothing groups thousands; without it the rules of
+    /// `parse` hold.
     [[nodiscard]] double dValueWithoutApplyingUnit(std::string const& text, NumberFormat const* format) const;
 
     /// The text for an editor: the number in the display unit with as many digits as it takes for `parse`
-    /// to give back exactly \p value. Where the display unit cannot hold the value, the internal
-    /// unit stands behind the number.
+    /// to give back exactly \p value; in feet and inches, or degrees, minutes and seconds, where the style
+    /// has them and they do. Where the display unit cannot hold the value, the internal unit stands behind
+    /// the number.
     [[nodiscard]] std::string fullDigits(double value, UnitBase const& unit) const;
 
 private:
     [[nodiscard]] UnitBase const& displayUnitFor(UnitBase const& unit) const;
     [[nodiscard]] std::string writeDecimal(double number, UnitBase const& unit) const;
     [[nodiscard]] std::optional<std::string> writeWithStyle(double number) const;
-    [[nodiscard]] std::string withDecimalSign(std::string text) const;
+    [[nodiscard]] std::string symbolsOf(UnitBase const& unit) const;
 
     QuantityBase const* m_quantity;
     UnitBase const* m_displayUnit;

@@ -1,10 +1,18 @@
 #include "Core/Unit/QuantityBase.h"
 
+#include "Core/Localization/Localize.h"
 #include "Core/Unit/QppBase.h"
 
 #include <algorithm>
 
 namespace qev::unit {
+
+namespace {
+
+/// The empty key has the empty text.
+std::string textOf(std::string const& key) { return localize(key, "Units"); }
+
+} // namespace
 
 QuantityBase::QuantityBase(QuantityId id)
     : m_id(id)
@@ -15,9 +23,13 @@ QuantityBase::~QuantityBase() = default;
 
 std::string QuantityBase::sXmlNameFromId(QuantityId id) { return factsOfQuantity(id).xmlName; }
 
-std::string QuantityBase::sNameFromId(QuantityId id) { return factsOfQuantity(id).name; }
+std::string QuantityBase::sNameFromId(QuantityId id) { return textOf(sXmlNameFromId(id)); }
 
-std::string QuantityBase::sDescriptionFromId(QuantityId id) { return factsOfQuantity(id).description; }
+std::string QuantityBase::sDescriptionFromId(QuantityId id)
+{
+    auto const name = sXmlNameFromId(id);
+    return textOf(name.empty() ? name : name + "_Description");
+}
 
 UnitBase const* QuantityBase::unitFromTypeInfo(std::type_info const& type) const
 {

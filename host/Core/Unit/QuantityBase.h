@@ -29,7 +29,8 @@ public:
     virtual std::string sName() const = 0;
     virtual std::string sDescription() const = 0;
 
-    /// The texts of a quantity; empty for an unknown id.
+    /// The texts of a quantity, of which the name and the description are in the current language; empty for
+    /// an unknown id.
     static std::string sXmlNameFromId(QuantityId id);
     static std::string sNameFromId(QuantityId id);
     static std::string sDescriptionFromId(QuantityId id);

@@ -55,64 +55,25 @@ std::string plainSpelling(std::string_view text)
     return result.substr(first, result.find_last_not_of(' ') - first + 1);
 }
 
-bool groupsThousands(std::string_view wholePart, char separator)
-{
-    auto start = wholePart.find(separator);
-    if (start == 0 || start == std::string_view::npos || start > 3)
-        return false;
-    while (start != std::string_view::npos) {
-        auto const next = wholePart.find(separator, start + 1);
-        auto const end = next == std::string_view::npos ? wholePart.size() : next;
-        if (end - start - 1 != 3)
-            return false;
-        start = next;
-    }
-    return true;
-}
+/// Whether a text of several units may have the unit.
+bool canBeCombined(UnitBase const* unit) { return unit && !unit->hasOffset(); }
 
-std::string withoutCharacter(std::string_view text, char character)
+/// What the rounding of a quotient of units has left is taken away: a degree has 60 minutes.
+double wholeIfNearly(double ratio)
 {
-    std::string result(text);
-    std::erase(result, character);
-    return result;
-}
-
-/// The digits of \p mantissa with "." alone for the decimal sign and without groups.
-std::optional<std::string> plainMantissa(std::string_view mantissa)
-{
-    auto const last = mantissa.find_last_of(".,");
-    if (last == std::string_view::npos)
-        return std::string(mantissa);
-    char const sign = mantissa[last];
-    char const other = sign == '.' ? ',' : '.';
-    std::string_view const whole = mantissa.substr(0, last);
-    bool const repeats = whole.find(sign) != std::string_view::npos;
-    bool const mixed = whole.find(other) != std::string_view::npos;
-    if (repeats)
-        return !mixed && groupsThousands(mantissa, sign) ? std::optional(withoutCharacter(mantissa, sign))
-                                                         : std::nullopt;
-    if (mixed && !groupsThousands(whole, other))
-        return std::nullopt;
-    return withoutCharacter(whole, other) + "." + std::string(mantissa.substr(last + 1));
+    constexpr double roundingOfAQuotient = 1e-12;
+    double const whole = std::round(ratio);
+    return std::abs(ratio - whole) <= ratio * roundingOfAQuotient ? whole : ratio;
 }
 
 } // namespace
 
-std::optional<std::string> plainNumber(std::string_view text)
-{
-    auto const exponent = std::min(text.find_first_of("eE"), text.size());
-    auto const mantissa = plainMantissa(text.substr(0, exponent));
-    if (!mantissa)
-        return std::nullopt;
-    std::string number = *mantissa + std::string(text.substr(exponent));
-    return str::parseDouble(number) ? std::optional(std::move(number)) : std::nullopt;
-}
-
 QuantityTextReader::QuantityTextReader(std::string_view text, UnitBase const& displayUnit,
-                                       UnitBase const& target)
+                                       UnitBase const& target, NumberFormat const& format)
     : m_text(plainSpelling(text))
     , m_displayUnit(displayUnit)
     , m_target(target)
+    , m_format(format)
 {
 }
 
@@ -125,19 +86,27 @@ std::optional<double> QuantityTextReader::read()
     if (atEnd())
         return inTarget(*first, first->unit ? *first->unit : m_displayUnit, sign);
 
-    double sum = 0;
-    for (auto term = first; term;) {
-        if (!term->unit || term->unit->hasOffset() || term->number < 0)
+    return readFurtherTerms(*first, sign);
+}
+
+/// The sum is kept in the smallest unit so far: 8 feet and 2 1/2 inches are exactly as much as 98.5 inches.
+std::optional<double> QuantityTextReader::readFurtherTerms(Term const& first, double sign)
+{
+    if (!canBeCombined(first.unit))
+        return std::nullopt;
+    double sum = first.number;
+    UnitBase const* unit = first.unit;
+    while (!atEnd()) {
+        auto const term = readTerm();
+        if (!term || !canBeCombined(term->unit))
             return std::nullopt;
-        sum += term->unit->toSi(term->number);
-        if (atEnd())
-            return m_target.fromSi(sign * sum);
-        auto const next = readTerm();
-        if (next && next->unit && next->unit->toSi(1) >= term->unit->toSi(1))
+        double const ratio = unit->toSi(1) / term->unit->toSi(1);
+        if (ratio <= 1)
             return std::nullopt;
-        term = next;
+        sum = sum * wholeIfNearly(ratio) + term->number;
+        unit = term->unit;
     }
-    return std::nullopt;
+    return convert(sign * sum, *unit, m_target);
 }
 
 /// Reads a sign. \returns whether it is a minus.
@@ -175,9 +144,13 @@ bool QuantityTextReader::readNumberWithFraction(Term& term)
         term.number = *fraction;
         return true;
     }
-    auto number = plainNumber(readDigits());
-    if (!number)
+    auto const digits = readDigits();
+    auto number = m_format.plainDigits(digits);
+    if (!number) {
+        if (m_format.isAmbiguous(digits))
+            m_ambiguousNumber = digits;
         return false;
+    }
     term.number = *str::parseDouble(*number);
     auto const start = m_position;
     skipBlanks();
@@ -253,7 +226,8 @@ UnitBase const* QuantityTextReader::matchUnit(bool ignoreCase, std::size_t& leng
     for (auto const& unit : m_target.quantity().units()) {
         for (auto const spelling : unit->spellings()) {
             auto const candidate = rest().substr(0, spelling.size());
-            bool const fits = ignoreCase ? str::equalIgnoringCase(candidate, spelling) : candidate == spelling;
+            bool const fits =
+                ignoreCase ? str::equalIgnoringCase(candidate, spelling) : candidate == spelling;
             if (!fits || spelling.size() < length || !endsUnit(spelling.size()))
                 continue;
             ambiguous = spelling.size() == length && match && match != unit.get();

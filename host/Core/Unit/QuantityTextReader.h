@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Unit/NumberFormat.h"
 #include "Core/Unit/QuantityBase.h"
 
 #include <optional>
@@ -13,9 +14,14 @@ class QuantityTextReader
 {
 public:
     /// \p displayUnit is the unit of a number without one; the result is of \p target.
-    QuantityTextReader(std::string_view text, UnitBase const& displayUnit, UnitBase const& target);
+    QuantityTextReader(std::string_view text, UnitBase const& displayUnit, UnitBase const& target,
+                       NumberFormat const& format);
 
     [[nodiscard]] std::optional<double> read();
+
+    /// After a reading in vain: the number that means one thing in some countries and another in others.
+    /// Empty when that was not the reason.
+    [[nodiscard]] std::string const& ambiguousNumber() const { return m_ambiguousNumber; }
 
 private:
     struct Term
@@ -35,6 +41,7 @@ private:
     UnitBase const* matchUnit(bool ignoreCase, std::size_t& length) const;
     bool endsUnit(std::size_t length) const;
     void skipBlanks();
+    std::optional<double> readFurtherTerms(Term const& first, double sign);
     double inTarget(Term const& term, UnitBase const& unit, double sign) const;
     [[nodiscard]] bool atEnd() const { return m_position == m_text.size(); }
     [[nodiscard]] std::string_view rest() const { return std::string_view(m_text).substr(m_position); }
@@ -42,11 +49,9 @@ private:
     std::string m_text;
     UnitBase const& m_displayUnit;
     UnitBase const& m_target;
+    NumberFormat m_format;
+    std::string m_ambiguousNumber;
     std::size_t m_position = 0;
 };
-
-/// The digits of a number whose decimal sign is a point or a comma, and whose thousands may be grouped by the
-/// other one, with a point alone. Nothing when \p text is no such number.
-std::optional<std::string> plainNumber(std::string_view text);
 
 } // namespace qev::unit

@@ -1,5 +1,6 @@
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
 
+#include "Core/Localization/Localize.h"
 #include "Ui/PropertyGrid/PropertyGridModel.h"
 #include "Ui/PropertyGrid/PropertyGridNumber.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridCheckBoxProperty.h"
@@ -19,9 +20,18 @@ PropertyGridEditResult accepted() { return {true, {}}; }
 
 PropertyGridEditResult refused(std::string message) { return {false, std::move(message)}; }
 
-PropertyGridEditResult refusedAsReadOnly() { return refused("This property cannot be changed."); }
+PropertyGridEditResult refusedAsReadOnly() { return refused(localize("Input_ReadOnly", "Ui")); }
 
-std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+PropertyGridEditResult refusedAsChoice(std::string_view text)
+{
+    return refused(localize("Input_NotAmongChoices", "Ui", {std::string(text)}));
+}
+
+PropertyGridEditResult refusedAsNumber(PropertyGridRow const& row, std::string_view text)
+{
+    return refused(localize("Input_NotANumber", "Ui", {std::string(text)}) + ' ' +
+                   PropertyGridNumber::describeExpected(text, row.getQuantityPresentation()));
+}
 
 bool hasShownValue(PropertyGridRowState const& state)
 {
@@ -80,7 +90,7 @@ PropertyGridEditResult store(PropertyGridRow& row, std::string_view text)
         return storeNumber(row, row.getState().number);
     auto const number = PropertyGridNumber::read(text, row.getQuantityPresentation());
     if (!number)
-        return refused(quoted(text) + " is not a number that this property can take.");
+        return refusedAsNumber(row, text);
     return storeNumber(row, number);
 }
 
@@ -186,7 +196,7 @@ PropertyGridEditResult PropertyGridEditing::commitText(PropertyGridRow& row, std
         return store(row, text);
     case PropertyGridEditor::Choice:
         if (!isChoosable(row.getState(), text) && !canTypeFreely(row))
-            return refused(quoted(text) + " is not among the values of this property.");
+            return refusedAsChoice(text);
         return store(row, text);
     case PropertyGridEditor::None:
     case PropertyGridEditor::CheckBox:
@@ -201,7 +211,7 @@ PropertyGridEditResult PropertyGridEditing::choose(PropertyGridRow& row, std::st
     if (getValueEditor(row) != PropertyGridEditor::Choice)
         return refusedAsReadOnly();
     if (!isChoosable(row.getState(), text))
-        return refused(quoted(text) + " is not among the values of this property.");
+        return refusedAsChoice(text);
     return store(row, text);
 }
 
@@ -222,7 +232,7 @@ PropertyGridEditResult PropertyGridEditing::clickCheckBox(PropertyGridRow& row)
 PropertyGridEditResult PropertyGridEditing::pressButton(PropertyGridRow& row)
 {
     if (!canPressButton(row))
-        return refused("This property has no button that can be pressed.");
+        return refused(localize("Input_NoButton", "Ui"));
     auto const keepAlive = row.getShared();
     if (row.getState().hasCustomButton) {
         PropertyGridCustomButtonProperty property(keepAlive);

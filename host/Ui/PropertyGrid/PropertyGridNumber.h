@@ -25,6 +25,9 @@ public:
     /// Reads what a user typed, into internal units. Nothing when it is no number of that quantity.
     [[nodiscard]] static std::optional<double> read(std::string_view text,
                                                     unit::QuantityPresentationBase const* presentation);
+    /// For the user: what would have been read in place of \p text, which was not.
+    [[nodiscard]] static std::string describeExpected(std::string_view text,
+                                                      unit::QuantityPresentationBase const* presentation);
     /// The unit that the number is shown in, such as "mm"; empty without one.
     [[nodiscard]] static std::string getUnit(unit::QuantityPresentationBase const* presentation);
 };

@@ -123,7 +123,7 @@ TEST_F(HeadlessPropertyGridTest, ARefusalLeavesAMessage)
 {
     auto const width = grid->findRow({"Qto_WallBaseQuantities", "Width"});
     EXPECT_FALSE(grid->type(width, "wide"));
-    EXPECT_EQ(grid->getMessage(), "\"wide\" is not a number that this property can take.");
+    EXPECT_THAT(grid->getMessage(), testing::StartsWith("\"wide\" is not a number"));
     EXPECT_TRUE(grid->clear(width));
     EXPECT_EQ(grid->getMessage(), "");
 }

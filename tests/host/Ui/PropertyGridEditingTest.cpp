@@ -149,7 +149,8 @@ TEST_F(PropertyGridEditingTest, ATextThatIsNoNumberIsRefusedWithAMessage)
     auto& row = addLength(1);
     auto const result = Editing::commitText(row, "wide");
     EXPECT_FALSE(result.accepted);
-    EXPECT_EQ(result.message, "\"wide\" is not a number that this property can take.");
+    EXPECT_THAT(result.message, testing::StartsWith("\"wide\" is not a number that this property can take. "
+                                                    "A number is expected, such as 2.5 for 2.5 m"));
     EXPECT_EQ(row.getState().number, 1);
     EXPECT_TRUE(changes.empty());
 }

@@ -1,5 +1,6 @@
 #include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
 
+#include "Core/Localization/Localize.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -146,7 +147,7 @@ QVariant QtPropertyGridItemModel::headerData(int section, Qt::Orientation orient
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    return section == nameColumn ? tr("Name") : tr("Value");
+    return toQString(localize(section == nameColumn ? "Grid_Name" : "Grid_Value", "Ui"));
 }
 
 bool QtPropertyGridItemModel::drive(QModelIndex const& index, Input const& input)

@@ -35,6 +35,14 @@ TEST(Locale, OtherTextsAreNoCodes)
         EXPECT_FALSE(Locale::fromCode(text)) << text;
 }
 
+TEST(Locale, KnowsTheDecimalSign)
+{
+    for (char const* const code : {"en", "en-GB", "ja", "de-CH", "es-MX"})
+        EXPECT_EQ(Locale::fromCode(code)->decimalSign(), '.') << code;
+    for (char const* const code : {"de", "de-AT", "fr", "es-ES", "pt-BR"})
+        EXPECT_EQ(Locale::fromCode(code)->decimalSign(), ',') << code;
+}
+
 TEST(Locale, CanLoseItsRegion) { EXPECT_EQ(Locale("de", "AT").withoutRegion(), Locale::get(2)); }
 
 } // namespace

@@ -67,28 +67,18 @@ TEST(Dictionaries, TheStandardHasTwoContextsAndAnyOtherTopicItsOwn)
     EXPECT_THAT(Dictionaries::getContexts("FoundationClassesUi"), ElementsAre("FoundationClassesUi"));
 }
 
-class BuiltInDictionary : public testing::TestWithParam<std::string>
-{
-};
-
-TEST_P(BuiltInDictionary, IsUnderstoodToTheLastLine)
-{
-    std::ifstream stream(std::string(QEV_DICTIONARIES_DIRECTORY) + "/" + GetParam(), std::ios::binary);
-    std::string const text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    auto const result = Dictionary::parse(text);
-    EXPECT_GT(result.dictionary.size(), 0u);
-    EXPECT_TRUE(result.errors.empty());
-}
-
-INSTANTIATE_TEST_SUITE_P(All, BuiltInDictionary,
-                         testing::Values("FoundationClassesUi.de.txt", "FoundationClassesUi.en.txt",
-                                         "Ifc.de.txt", "Ifc.en.txt", "IfcProperties.de.txt"));
-
 TEST(Localize, GivesTheTextOrElseTheKey)
 {
     EXPECT_EQ(localize("Pset_Name", "FoundationClassesUi"), "Property set");
     EXPECT_EQ(localize("NoSuchKey", "FoundationClassesUi"), "NoSuchKey");
     EXPECT_EQ(localize("Pset_Name", "NoSuchContext"), "Pset_Name");
+}
+
+TEST(Localize, PutsArgumentsInTheirPlaces)
+{
+    EXPECT_EQ(localize("%2, %1%2 %3 100%", "NoSuchContext", {"a", "%1"}), "%1, a%1 %3 100%");
+    EXPECT_EQ(localize("Input_NotANumber", "Ui", {"x"}),
+              "\"x\" is not a number that this property can take.");
 }
 
 TEST(Localize, FollowsTheCurrentLanguage)
@@ -99,7 +89,10 @@ TEST(Localize, FollowsTheCurrentLanguage)
     EXPECT_EQ(localize("LogicalValue_True", "FoundationClassesUi"), "Wahr");
     EXPECT_EQ(admin.text("IfcProperties", "Pset_WallCommon.FireRating"), "Feuerwiderstandsklasse");
     admin.setLanguage(locale::Locale::get(3));
-    EXPECT_EQ(localize("LogicalValue_True", "FoundationClassesUi"), "True") << "French falls back to English";
+    EXPECT_EQ(localize("LogicalValue_True", "FoundationClassesUi"), "Vrai");
+    admin.setLanguage(locale::Locale::get(4));
+    EXPECT_EQ(localize("LogicalValue_True", "FoundationClassesUi"), "True")
+        << "Italian falls back to English";
 }
 
 class DictionaryFolder : public testing::Test
@@ -132,6 +125,27 @@ TEST_F(DictionaryFolder, AddsAndReplacesTexts)
     EXPECT_EQ(m_admin.text("FoundationClassesUi", "PsetProperty_Name"), "Property");
     m_admin.setLanguage(locale::Locale::get(3));
     EXPECT_EQ(m_admin.text("Company", "Wall"), "Mur");
+}
+
+TEST_F(DictionaryFolder, GoesBeforeTextsThatAreAddedLater)
+{
+    write("FoundationClassesUi.en.txt", "Pset_Name\tSet\n");
+    write("FoundationClassesUi.it.txt", "Pset_Name\tInsieme\n");
+    m_admin.addFolder(m_folder);
+    m_admin.add("FoundationClassesUi", locale::Locale(), dictionaryOf("Pset_Name\tOther"));
+    EXPECT_EQ(m_admin.text("FoundationClassesUi", "Pset_Name"), "Set");
+    EXPECT_THAT(m_admin.languages(), testing::Contains(locale::Locale("it", "")));
+    m_admin.removeFolders();
+    EXPECT_EQ(m_admin.text("FoundationClassesUi", "Pset_Name"), "Other");
+    EXPECT_THAT(m_admin.languages(), testing::Not(testing::Contains(locale::Locale("it", ""))));
+}
+
+TEST_F(DictionaryFolder, DoesNotHideTheProgramsTextInTheCurrentLanguage)
+{
+    write("FoundationClassesUi.en.txt", "Pset_Name\tSet\n");
+    m_admin.addFolder(m_folder);
+    m_admin.setLanguage(locale::Locale("de", "AT"));
+    EXPECT_EQ(m_admin.text("FoundationClassesUi", "Pset_Name"), "Merkmalsatz");
 }
 
 TEST_F(DictionaryFolder, TellsWhatItDoesNotUnderstandAndTakesTheRest)

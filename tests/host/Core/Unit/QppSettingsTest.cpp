@@ -9,10 +9,27 @@
 #include <numbers>
 #include <random>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace {
 
 using namespace qev::unit;
+
+using PressureUnit = SiUnitOf<QuantityId::Pressure>;
+
+template <std::size_t... Positions>
+std::vector<QuantityBase const*> allQuantities(std::index_sequence<Positions...>)
+{
+    return {&SiUnitOf<quantityFacts[Positions].id>::get().quantity()...};
+}
+
+template <class Function>
+void forEachQuantity(Function const& function)
+{
+    for (auto const* const quantity : allQuantities(std::make_index_sequence<quantityFacts.size()>()))
+        function(*quantity);
+}
 
 template <class U>
 QppSettings settingsOf(char const* displayUnit = nullptr)
@@ -231,6 +248,34 @@ TEST(QppSettingsParse, ThousandsMayBeGrouped)
     EXPECT_FALSE(readLength("1,2.3,4"));
 }
 
+TEST(QppSettingsParse, ACommaOrPointThatMayMeanThousandsIsRefused)
+{
+    auto settings = settingsOf<LengthUnit>();
+    EXPECT_FALSE(settings.parse("1,234 m", LengthUnit::get()));
+    EXPECT_EQ(settings.parse("1.234 m", LengthUnit::get()), 1.234);
+    EXPECT_EQ(settings.parse("0,234 m", LengthUnit::get()), 0.234);
+    EXPECT_EQ(settings.parse("1,2345 m", LengthUnit::get()), 1.2345);
+    settings.setNumberFormat({','});
+    EXPECT_FALSE(settings.parse("1.234 m", LengthUnit::get()));
+    EXPECT_EQ(settings.parse("1,234 m", LengthUnit::get()), 1.234);
+    EXPECT_EQ(settings.parse("2.5 m", LengthUnit::get()), 2.5);
+    EXPECT_EQ(settings.describeExpected("1.234 m", LengthUnit::get()),
+              "1.234 can be read in two ways. Write 1,234 or 1234.");
+}
+
+TEST(QppSettingsParse, WhatIsExpectedIsToldWithUnitsAndDecimalSign)
+{
+    EXPECT_EQ(settingsOf<PressureUnit>().describeExpected("x", PressureUnit::get()),
+              "A number is expected, such as 2.5 for 2.5 Pa, or a number with one of these units: "
+              "Pa, kPa, MPa, bar, mbar, psi.");
+    auto settings = settingsOf<RatioUnit>();
+    settings.setNumberFormat({','});
+    EXPECT_EQ(settings.describeExpected("x", RatioUnit::get()),
+              "A number is expected, such as 2,5, or a number with one of these units: %, ‰.");
+    EXPECT_EQ(settingsOf<CountUnit>().describeExpected("x", CountUnit::get()),
+              "A number is expected, such as 2.5.");
+}
+
 TEST(QppSettingsParse, OtherTextsAreRefused)
 {
     for (char const* const text :
@@ -292,6 +337,7 @@ TEST(QppSettingsParse, ANumberCanBeReadWithoutAnyUnit)
 
 TEST(QppSettingsFullDigits, AreShortForNumbersThatPeopleType)
 {
+    EXPECT_EQ(settingsOf<LengthUnit>().fullDigits(-0.0, LengthUnit::get()), "0");
     EXPECT_EQ(settingsOf<LengthUnit>().fullDigits(0.1, LengthUnit::get()), "0.1");
     EXPECT_EQ(settingsOf<LengthUnit>("mm").fullDigits(0.3, LengthUnit::get()), "300");
     EXPECT_EQ(settingsOf<LengthUnit>().fullDigits(100000, LengthUnit::get()), "100000");
@@ -317,6 +363,38 @@ TEST(QppSettingsFullDigits, ReadBackAsExactlyTheSameValue)
         check(settingsOf<TemperatureUnit>("°F"), TemperatureUnit::get(), value);
         check(settingsOf<RatioUnit>("%"), RatioUnit::get(), value);
     }
+}
+
+/// Every quantity in each of its units, with both decimal signs.
+TEST(QppSettingsFullDigits, ReadBackInEveryUnit)
+{
+    std::mt19937_64 random(2);
+    std::uniform_real_distribution<double> mantissa(-10, 10);
+    std::uniform_int_distribution<int> exponent(-6, 6);
+    forEachQuantity([&](QuantityBase const& quantity) {
+        UnitBase const& internal = *quantity.units().front();
+        for (auto const& unit : quantity.units()) {
+            QppSettings settings(quantity);
+            ASSERT_TRUE(settings.setDisplayUnit(*unit));
+            for (char const sign : {'.', ','}) {
+                settings.setNumberFormat({sign});
+                for (int i = 0; i < 8; ++i) {
+                    double const value = mantissa(random) * std::pow(10.0, exponent(random));
+                    std::string const text = settings.fullDigits(value, internal);
+                    EXPECT_EQ(settings.parse(text, internal), value) << text << ' ' << unit->symbol();
+                }
+            }
+        }
+    });
+}
+
+TEST(QppSettingsFullDigits, AreInTheStyleWhereItLosesNothing)
+{
+    auto settings = settingsOf<LengthUnit>("ft");
+    settings.setStyle(QppSettings::Style::FeetAndInches);
+    EXPECT_EQ(settings.fullDigits(98.5 * 254 / 10000, LengthUnit::get()), "8' 2 1/2\"");
+    EXPECT_EQ(settings.fullDigits(3.048, LengthUnit::get()), "10' 0\"");
+    EXPECT_EQ(settings.parse(settings.fullDigits(2.5, LengthUnit::get()), LengthUnit::get()), 2.5);
 }
 
 TEST(QppSettingsFullDigits, NameTheInternalUnitWhereTheDisplayUnitCannotHoldTheValue)

@@ -122,10 +122,10 @@ TEST(Unit, NumbersAndSpellingsAreUniqueAndEachQuantityHasItsUnits)
         EXPECT_TRUE(spellings.insert({facts.quantity, facts.symbol}).second) << facts.symbol;
     }
     for (auto const& facts : quantityFacts) {
-        EXPECT_EQ(factsOfUnit(facts.siUnit).quantity, facts.id) << facts.name;
+        EXPECT_EQ(factsOfUnit(facts.siUnit).quantity, facts.id) << facts.xmlName;
         EXPECT_EQ(factsOfUnit(facts.siUnit).numerator / factsOfUnit(facts.siUnit).denominator, 1.0)
-            << facts.name;
-        EXPECT_EQ(factsOfUnit(facts.displayUnit).quantity, facts.id) << facts.name;
+            << facts.xmlName;
+        EXPECT_EQ(factsOfUnit(facts.displayUnit).quantity, facts.id) << facts.xmlName;
     }
 }
 
