@@ -13,4 +13,12 @@ QAction* appendAction(QMenu& menu, QString const& text, QKeySequence const& shor
     return entry;
 }
 
+QAction* appendAction(QMenu& menu, LiveTexts& texts, std::string key, QKeySequence const& shortcut,
+                      std::function<void()> action)
+{
+    auto* const entry = appendAction(menu, QString(), shortcut, std::move(action));
+    texts.keep(*entry, std::move(key));
+    return entry;
+}
+
 } // namespace qev::application

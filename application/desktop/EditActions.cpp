@@ -1,6 +1,7 @@
 #include "EditActions.h"
 
 #include "ActionMenu.h"
+#include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
 #include <QApplication>
@@ -26,19 +27,22 @@ EditActions::EditActions(InspectorSession& session, SearchPanel& search, QDockWi
 
 EditActions::~EditActions() = default;
 
-void EditActions::fill(QMenu& menu)
+void EditActions::fill(QMenu& menu, LiveTexts& texts)
 {
-    m_undo = appendAction(menu, tr("&Undo"), QKeySequence("Ctrl+Z"), [this] { travel(true); });
-    m_redo = appendAction(menu, tr("&Redo"), QKeySequence("Ctrl+Y"), [this] { travel(false); });
+    m_undo = appendAction(menu, texts, "Edit_Undo", QKeySequence("Ctrl+Z"), [this] { travel(true); });
+    m_redo = appendAction(menu, texts, "Edit_Redo", QKeySequence("Ctrl+Y"), [this] { travel(false); });
     m_redo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     menu.addSeparator();
-    appendAction(menu, tr("&Copy\tCtrl+C"), QKeySequence(), [] { copyFromFocus(); });
+    auto* const copy = appendAction(menu, QString(), QKeySequence(), [] { copyFromFocus(); });
+    // The key is only shown: the views copy by it themselves.
+    texts.keep([copy] { copy->setText(getText("Edit_Copy") + "\tCtrl+C"); });
     menu.addSeparator();
-    m_find = appendAction(menu, tr("&Find object"), QKeySequence("Ctrl+F"), [this] {
+    m_find = appendAction(menu, texts, "Edit_Find", QKeySequence("Ctrl+F"), [this] {
         m_searchDock.show();
         m_search.focusBox();
     });
-    m_findNext = appendAction(menu, tr("Find &next"), QKeySequence("F3"), [this] { m_search.chooseNext(); });
+    m_findNext =
+        appendAction(menu, texts, "Edit_FindNext", QKeySequence("F3"), [this] { m_search.chooseNext(); });
 }
 
 void EditActions::update()
@@ -48,8 +52,8 @@ void EditActions::update()
     m_undo->setEnabled(m_session.canUndo());
     m_redo->setEnabled(m_session.canRedo());
     auto const model = m_session.getData();
-    m_undo->setText(withName(tr("&Undo"), model ? model->changes().undoName() : ""));
-    m_redo->setText(withName(tr("&Redo"), model ? model->changes().redoName() : ""));
+    m_undo->setText(withName(getText("Edit_Undo"), model ? model->changes().undoName() : ""));
+    m_redo->setText(withName(getText("Edit_Redo"), model ? model->changes().redoName() : ""));
 }
 
 void EditActions::travel(bool back)
@@ -63,7 +67,7 @@ void EditActions::travel(bool back)
 
 void EditActions::copyFromFocus()
 {
-    // Each view copies by the same key; the menu only passes it on to where the user is.
+    // The menu passes the key on to where the user is.
     auto* const target = QApplication::focusWidget();
     if (!target)
         return;

@@ -2,6 +2,7 @@
 
 #include "Core/Utilities/Events/EventHandlerContainer.h"
 #include "InspectorSession.h"
+#include "LiveTexts.h"
 #include "SearchPanel.h"
 
 #include <QAction>
@@ -19,7 +20,7 @@ public:
     EditActions(InspectorSession& session, SearchPanel& search, QDockWidget& searchDock);
     ~EditActions() override;
 
-    void fill(QMenu& menu);
+    void fill(QMenu& menu, LiveTexts& texts);
     /// Enables the actions that can be done at present, and names what would be undone.
     void update();
 

@@ -3,6 +3,7 @@
 #include "ActionMenu.h"
 #include "FilePath.h"
 #include "RecentFiles.h"
+#include "Texts.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/ProgressBarInterface.h"
 
@@ -33,23 +34,23 @@ QString getFileName(InspectorSession const& session) { return fromPath(session.g
 FileActions::FileActions(InspectorSession& session, QWidget& window)
     : m_session(session)
     , m_window(window)
-    , m_questions(FileQuestions::asDialogs(window))
 {
 }
 
 FileActions::~FileActions() = default;
 
-void FileActions::fill(QMenu& menu)
+void FileActions::fill(QMenu& menu, LiveTexts& texts)
 {
-    appendAction(menu, tr("&Open…"), QKeySequence::Open, [this] { choose(); });
-    m_recentMenu = menu.addMenu(tr("Open &recent"));
+    appendAction(menu, texts, "File_Open", QKeySequence::Open, [this] { choose(); });
+    m_recentMenu = menu.addMenu(QString());
+    texts.keep(*m_recentMenu->menuAction(), "File_OpenRecent");
     connect(m_recentMenu, &QMenu::aboutToShow, this, &FileActions::fillRecentMenu);
     menu.addSeparator();
-    m_save = appendAction(menu, tr("&Save"), QKeySequence::Save, [this] { save(); });
-    m_saveAs = appendAction(menu, tr("Save &as…"), QKeySequence("Ctrl+Shift+S"), [this] { saveAs(); });
+    m_save = appendAction(menu, texts, "File_Save", QKeySequence::Save, [this] { save(); });
+    m_saveAs = appendAction(menu, texts, "File_SaveAs", QKeySequence("Ctrl+Shift+S"), [this] { saveAs(); });
     menu.addSeparator();
-    m_close = appendAction(menu, tr("&Close"), QKeySequence("Ctrl+W"), [this] { close(); });
-    appendAction(menu, tr("&Quit"), QKeySequence("Ctrl+Q"), [this] { m_window.close(); });
+    m_close = appendAction(menu, texts, "File_Close", QKeySequence("Ctrl+W"), [this] { close(); });
+    appendAction(menu, texts, "File_Quit", QKeySequence("Ctrl+Q"), [this] { m_window.close(); });
 }
 
 bool FileActions::open(QString const& path)
@@ -70,7 +71,7 @@ bool FileActions::open(QString const& path)
 
 bool FileActions::openWithProgress(QString const& path)
 {
-    auto const text = fromQString(tr("Opening %1…").arg(QFileInfo(path).fileName()));
+    auto const text = fromQString(getText("File_Opening", {QFileInfo(path).fileName()}));
     auto const progress = ui::ProgressBarInterface::create(text);
     return m_session.open(toPath(path), [&](std::uint64_t done, std::uint64_t total) {
         if (total > 0)
@@ -141,7 +142,7 @@ void FileActions::fillRecentMenu()
         appendAction(*m_recentMenu, QString(path).replace('&', "&&"), QKeySequence(),
                      [this, path] { open(path); });
     if (m_recentMenu->isEmpty())
-        m_recentMenu->addAction(tr("No file yet"))->setEnabled(false);
+        m_recentMenu->addAction(getText("File_NoRecent"))->setEnabled(false);
 }
 
 void FileActions::choose()
@@ -156,13 +157,11 @@ bool FileActions::finishSave(ifc::SaveResult const& result)
     if (result.status == StepSaveResult::Status::Cancelled)
         return false;
     if (!result.saved())
-        m_questions.tellProblem(tr("The file was not saved."), toQString(result.text));
+        m_questions.tellProblem(getText("File_NotSaved"), toQString(result.text));
     else if (!result.notStored.empty())
-        m_questions.tellProblem(tr("The file was saved, except for changes that its version of the "
-                                   "standard has no place for."),
-                                getLines(result.notStored));
+        m_questions.tellProblem(getText("File_SavedExcept"), getLines(result.notStored));
     if (result.saved())
-        fireEvents(onSaved, tr("Saved."));
+        fireEvents(onSaved, getText("File_Saved"));
     return result.saved();
 }
 
@@ -172,7 +171,7 @@ void FileActions::tellOpeningFailed(QString const& path)
     if (messages.empty())
         return;
     RecentFiles::remove(path);
-    m_questions.tellProblem(tr("%1 cannot be opened.").arg(path), toQString(messages.back().toString()));
+    m_questions.tellProblem(getText("File_CannotOpen", {path}), toQString(messages.back().toString()));
 }
 
 } // namespace qev::application

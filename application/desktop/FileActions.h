@@ -3,6 +3,7 @@
 #include "Core/Utilities/Events/EventHandlerContainer.h"
 #include "FileQuestions.h"
 #include "InspectorSession.h"
+#include "LiveTexts.h"
 
 #include <QAction>
 #include <QMenu>
@@ -18,7 +19,8 @@ public:
     FileActions(InspectorSession& session, QWidget& window);
     ~FileActions() override;
 
-    void fill(QMenu& menu);
+    void fill(QMenu& menu, LiveTexts& texts);
+    /// To be called before anything else.
     void setQuestions(FileQuestions questions) { m_questions = std::move(questions); }
 
     /// Opens a file, after asking about unsaved changes of the present one.

@@ -1,6 +1,7 @@
 #include "FileQuestions.h"
 
-#include <QCoreApplication>
+#include "Texts.h"
+
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -10,29 +11,27 @@ namespace qev::application {
 
 namespace {
 
-QString tr(char const* text) { return QCoreApplication::translate("FileQuestions", text); }
-
-QString getFilters() { return tr("IFC files (*.ifc *.IFC *.stp *.step);;All files (*)"); }
-
 FileQuestions::Leave askAboutLeaving(QWidget& window, QString const& fileName)
 {
-    auto const answer = QMessageBox::warning(
-        &window, tr("Unsaved changes"), tr("%1 has changes that are not saved. Save them?").arg(fileName),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    if (answer == QMessageBox::Save)
+    QMessageBox box(QMessageBox::Warning, getText("Question_UnsavedTitle"),
+                    getText("Question_Unsaved", {fileName}), QMessageBox::NoButton, &window);
+    auto const* const save = box.addButton(getText("Button_Save"), QMessageBox::AcceptRole);
+    auto const* const discard = box.addButton(getText("Button_Discard"), QMessageBox::DestructiveRole);
+    box.setEscapeButton(box.addButton(getText("Button_Cancel"), QMessageBox::RejectRole));
+    box.exec();
+    if (box.clickedButton() == save)
         return FileQuestions::Leave::Save;
-    return answer == QMessageBox::Discard ? FileQuestions::Leave::Discard : FileQuestions::Leave::Stay;
+    return box.clickedButton() == discard ? FileQuestions::Leave::Discard : FileQuestions::Leave::Stay;
 }
 
 bool askAboutOverwriting(QWidget& window, QString const& fileName)
 {
-    QMessageBox box(
-        QMessageBox::Warning, tr("The file has changed"),
-        tr("Another program has changed %1 since it was opened. Saving replaces those changes by yours.")
-            .arg(fileName),
-        QMessageBox::Cancel, &window);
-    auto* const overwrite = box.addButton(tr("Overwrite"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
+    QMessageBox box(QMessageBox::Warning, getText("Question_ChangedTitle"),
+                    getText("Question_Changed", {fileName}), QMessageBox::NoButton, &window);
+    auto const* const overwrite = box.addButton(getText("Button_Overwrite"), QMessageBox::DestructiveRole);
+    auto* const cancel = box.addButton(getText("Button_Cancel"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
     box.exec();
     return box.clickedButton() == overwrite;
 }
@@ -48,15 +47,18 @@ FileQuestions FileQuestions::asDialogs(QWidget& window)
     };
     questions.tellProblem = [&window](QString const& text, QString const& details) {
         QMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), text,
-                        QMessageBox::Ok, &window);
+                        QMessageBox::NoButton, &window);
+        box.addButton(getText("Button_Ok"), QMessageBox::AcceptRole);
         box.setInformativeText(details);
         box.exec();
     };
     questions.pathToOpen = [&window](QString const& folder) {
-        return QFileDialog::getOpenFileName(&window, tr("Open an IFC file"), folder, getFilters());
+        return QFileDialog::getOpenFileName(&window, getText("Question_OpenTitle"), folder,
+                                            getText("Question_FileTypes"));
     };
     questions.pathToSave = [&window](QString const& path) {
-        return QFileDialog::getSaveFileName(&window, tr("Save as"), path, getFilters());
+        return QFileDialog::getSaveFileName(&window, getText("Question_SaveAsTitle"), path,
+                                            getText("Question_FileTypes"));
     };
     return questions;
 }

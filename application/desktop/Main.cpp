@@ -13,6 +13,9 @@ namespace {
 
 using qev::application::FileQuestions;
 using qev::application::MainWindow;
+using qev::application::ProgramSettings;
+using qev::application::Theme;
+using qev::unit::UnitPreferences;
 
 enum ExitCode : int
 {
@@ -20,6 +23,7 @@ enum ExitCode : int
     notOpened = 1,
     noSuchObject = 2,
     notWritten = 3,
+    badUsage = 4,
 };
 
 int fail(ExitCode code, QString const& text)
@@ -50,6 +54,49 @@ void showReport(qev::assert::AssertInfo const& info)
         std::fprintf(stderr, "Report: %s (%s)\n", info.text.c_str(), info.function.c_str());
 }
 
+struct Options
+{
+    QCommandLineOption object{"object", "Select the object with this GlobalId.", "GUID"};
+    QCommandLineOption screenshot{"screenshot", "Write a picture of the window to FILE.png and quit.",
+                                  "FILE.png"};
+    QCommandLineOption language{"language", "Use this language (en, de, fr) for this once.", "CODE"};
+    QCommandLineOption units{"units", "Show values in these units for this once: metric or imperial.",
+                             "SYSTEM"};
+    QCommandLineOption theme{"theme", "Look like this for this once: light or dark.", "THEME"};
+    QCommandLineOption reports{"reports", "Print reports of programming errors on the error stream."};
+};
+
+/// Puts what the command line says over the settings. \returns false when it says what nobody understands.
+bool takeOptions(QCommandLineParser const& parser, Options const& options, ProgramSettings& settings)
+{
+    if (parser.isSet(options.language)) {
+        settings.display.language = parser.value(options.language).toStdString();
+        if (!qev::locale::Locale::fromCode(settings.display.language))
+            return false;
+    }
+    if (parser.isSet(options.units)) {
+        auto const system = UnitPreferences::systemFromName(parser.value(options.units).toStdString());
+        if (!system)
+            return false;
+        settings.display.units = UnitPreferences(*system);
+    }
+    if (parser.isSet(options.theme)) {
+        auto const name = parser.value(options.theme);
+        if (name != "light" && name != "dark")
+            return false;
+        settings.theme = name == "dark" ? Theme::Dark : Theme::Light;
+    }
+    return true;
+}
+
+/// A picture is the same whoever takes it, whatever his settings are.
+ProgramSettings getSettingsForPicture()
+{
+    ProgramSettings settings;
+    settings.display.language = "en";
+    return settings;
+}
+
 int takePicture(MainWindow& window, QString const& file, QString const& object, QString const& picture)
 {
     window.setQuestions(makeSilentQuestions());
@@ -78,26 +125,29 @@ int main(int argc, char** argv)
     parser.setApplicationDescription("Shows and edits the properties of a building model (IFC).");
     parser.addHelpOption();
     parser.addPositionalArgument("FILE", "an IFC file to open", "[FILE]");
-    QCommandLineOption const object("object", "Select the object with this GlobalId.", "GUID");
-    QCommandLineOption const screenshot("screenshot", "Write a picture of the window to FILE.png and quit.",
-                                        "FILE.png");
-    QCommandLineOption const reports("reports", "Print reports of programming errors on the error stream.");
-    parser.addOptions({object, screenshot, reports});
+    Options const options;
+    parser.addOptions({options.object, options.screenshot, options.language, options.units, options.theme,
+                       options.reports});
     parser.process(application);
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
     // only.
-    qev::assert::Assert::setEnabled(parser.isSet(reports));
+    qev::assert::Assert::setEnabled(parser.isSet(options.reports));
 
     auto const backend = qev::ui::QtBackend::install();
     MainWindow window(backend);
     auto const file = parser.positionalArguments().value(0);
-    if (parser.isSet(screenshot))
-        return takePicture(window, file, parser.value(object), parser.value(screenshot));
+    auto const isPicture = parser.isSet(options.screenshot);
+    auto settings = isPicture ? getSettingsForPicture() : ProgramSettings::restore();
+    if (!takeOptions(parser, options, settings))
+        return fail(badUsage, "an option has a value that is not known; see --help");
+    window.getSettingsActions().apply(settings);
+    if (isPicture)
+        return takePicture(window, file, parser.value(options.object), parser.value(options.screenshot));
 
     window.restoreWindow();
     window.show();
-    if (!file.isEmpty() && window.getFileActions().open(file) && parser.isSet(object) &&
-        !window.selectObject(parser.value(object)))
+    if (!file.isEmpty() && window.getFileActions().open(file) && parser.isSet(options.object) &&
+        !window.selectObject(parser.value(options.object)))
         std::fputs("qev-inspector: there is no object with that GlobalId\n", stderr);
     return QApplication::exec();
 }

@@ -5,6 +5,7 @@
 #include "PropertyPane.h"
 #include "SearchPanel.h"
 #include "StructureModel.h"
+#include "Texts.h"
 #include "Ui/Qt/QtBackend.h"
 #include "Ui/Qt/QtText.h"
 
@@ -42,19 +43,22 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     , m_search(new SearchPanel(*m_structure))
     , m_properties(new PropertyPane(m_backend, m_session))
     , m_messages(new MessagesPanel)
-    , m_structureDock(new QDockWidget(tr("Structure"), this))
-    , m_messagesDock(new QDockWidget(tr("Messages"), this))
+    , m_structureDock(new QDockWidget(this))
+    , m_messagesDock(new QDockWidget(this))
     , m_note(new QLabel)
     , m_fileText(new QLabel)
     , m_fileActions(m_session, *this)
     , m_editActions(m_session, *m_search, *m_structureDock)
     , m_viewActions(*m_properties, {m_structureDock, m_messagesDock})
+    , m_settingsActions(*this)
 {
     setAcceptDrops(true);
     createProperties();
     createStructure();
     createMessages();
     createMenus();
+    keepTexts();
+    setQuestions(FileQuestions::asDialogs(*this));
     statusBar()->addWidget(m_note, 1);
     statusBar()->addPermanentWidget(m_fileText);
     connectSession();
@@ -68,6 +72,12 @@ MainWindow::~MainWindow()
     m_structure->selectionModel()->disconnect(this);
     m_structureModel->setData(nullptr);
     m_search->setData(nullptr);
+}
+
+void MainWindow::setQuestions(FileQuestions questions)
+{
+    m_settingsActions.setTellProblem(questions.tellProblem);
+    m_fileActions.setQuestions(std::move(questions));
 }
 
 bool MainWindow::selectObject(QString const& globalId)
@@ -122,6 +132,13 @@ void MainWindow::dropEvent(QDropEvent* event)
     m_fileActions.open(path);
 }
 
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        updateTexts();
+    QMainWindow::changeEvent(event);
+}
+
 void MainWindow::createProperties()
 {
     setCentralWidget(m_properties);
@@ -157,9 +174,25 @@ void MainWindow::createMessages()
 
 void MainWindow::createMenus()
 {
-    m_fileActions.fill(*menuBar()->addMenu(tr("&File")));
-    m_editActions.fill(*menuBar()->addMenu(tr("&Edit")));
-    m_viewActions.fill(*menuBar()->addMenu(tr("&View")));
+    auto const addMenu = [this](std::string key) -> QMenu& {
+        auto* const menu = menuBar()->addMenu(QString());
+        m_texts.keep(*menu->menuAction(), std::move(key));
+        return *menu;
+    };
+    m_fileActions.fill(addMenu("Menu_File"), m_texts);
+    m_editActions.fill(addMenu("Menu_Edit"), m_texts);
+    m_viewActions.fill(addMenu("Menu_View"), m_texts);
+    m_settingsActions.fill(addMenu("Menu_Settings"), m_texts);
+}
+
+void MainWindow::keepTexts()
+{
+    m_texts.keep([this] { m_structureDock->setWindowTitle(getText("Panel_Structure")); });
+    m_texts.keep([this] { m_messagesDock->setWindowTitle(getText("Panel_Messages")); });
+    m_texts.keep([this] {
+        emit m_structureModel->headerDataChanged(Qt::Horizontal, StructureModel::nameColumn,
+                                                 StructureModel::classColumn);
+    });
 }
 
 void MainWindow::connectSession()
@@ -171,6 +204,12 @@ void MainWindow::connectSession()
     m_fileActions.onSaved.iHandlerAdd([this](QString const& text) {
         updateTitle();
         statusBar()->showMessage(text, savedMilliseconds);
+    });
+    m_settingsActions.onChanging.iHandlerAdd([this] { m_properties->leaveFile(); });
+    m_settingsActions.onChanged.iHandlerAdd([this] {
+        m_properties->showFile();
+        updateActions();
+        updateNote();
     });
     m_editActions.onTravelled.iHandlerAdd([this] {
         m_properties->showSelection();
@@ -252,9 +291,18 @@ void MainWindow::updateFileText()
         return;
     }
     auto const count = m_session.getObjectCount();
-    auto const objects = count == 1 ? tr("1 object") : tr("%1 objects").arg(count);
+    auto const objects =
+        count == 1 ? getText("Status_OneObject") : getText("Status_Objects", {QString::number(count)});
     m_fileText->setText(fromPath(m_session.getPath().filename()) + "   " +
                         toQString(m_session.getFile()->schemaName()) + "   " + objects);
+}
+
+void MainWindow::updateTexts()
+{
+    m_texts.renew();
+    m_editActions.update();
+    updateFileText();
+    updateNote();
 }
 
 void MainWindow::updateNote()
@@ -264,12 +312,9 @@ void MainWindow::updateNote()
     if (others == 0)
         m_note->clear();
     else if (others == 1)
-        m_note->setText(
-            tr("%1 is shared with another object: an edit changes that one too.").arg(toQString(set)));
+        m_note->setText(getText("Status_SharedWithOne", {toQString(set)}));
     else
-        m_note->setText(tr("%1 is shared with %2 other objects: an edit changes them all.")
-                            .arg(toQString(set))
-                            .arg(others));
+        m_note->setText(getText("Status_SharedWithMany", {toQString(set), QString::number(others)}));
 }
 
 void MainWindow::updateMessages()

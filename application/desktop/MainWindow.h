@@ -3,6 +3,8 @@
 #include "EditActions.h"
 #include "FileActions.h"
 #include "InspectorSession.h"
+#include "LiveTexts.h"
+#include "SettingsActions.h"
 #include "ViewActions.h"
 
 #include <memory>
@@ -26,14 +28,15 @@ class StructureModel;
 /// The window of the program: the structure of the building, the properties of the selected object,
 /// and the messages of the file.
 ///
-/// It brings the panels together; what the menus do stands in `FileActions`, `EditActions` and `ViewActions`.
+/// It brings the panels together; what the menus do stands in `FileActions`, `EditActions`, `ViewActions` and
+/// `SettingsActions`.
 class MainWindow final : public QMainWindow
 {
 public:
     explicit MainWindow(std::shared_ptr<ui::QtBackend> backend);
     ~MainWindow() override;
 
-    void setQuestions(FileQuestions questions) { m_fileActions.setQuestions(std::move(questions)); }
+    void setQuestions(FileQuestions questions);
 
     /// Selects the object, in the structure too. False when there is none with that GlobalId.
     bool selectObject(QString const& globalId);
@@ -42,6 +45,7 @@ public:
     void storeWindow() const;
 
     [[nodiscard]] FileActions& getFileActions() { return m_fileActions; }
+    [[nodiscard]] SettingsActions& getSettingsActions() { return m_settingsActions; }
     [[nodiscard]] InspectorSession& getSession() { return m_session; }
     [[nodiscard]] PropertyPane& getProperties() const { return *m_properties; }
     [[nodiscard]] SearchPanel& getSearch() const { return *m_search; }
@@ -55,12 +59,14 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void createProperties();
     void createStructure();
     void createMessages();
     void createMenus();
+    void keepTexts();
     void connectSession();
 
     void leaveFile();
@@ -70,6 +76,7 @@ private:
     void updateActions();
     void updateTitle();
     void updateFileText();
+    void updateTexts();
     void updateNote();
     void updateMessages();
 
@@ -87,6 +94,8 @@ private:
     FileActions m_fileActions;
     EditActions m_editActions;
     ViewActions m_viewActions;
+    SettingsActions m_settingsActions;
+    LiveTexts m_texts;
     std::size_t m_shownMessages = 0;
 };
 

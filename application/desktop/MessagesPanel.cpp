@@ -1,5 +1,6 @@
 #include "MessagesPanel.h"
 
+#include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
 #include <QMessageBox>
@@ -29,8 +30,9 @@ MessagesPanel::MessagesPanel(QWidget* parent)
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem const* item) {
-        auto* const box =
-            new QMessageBox(QMessageBox::NoIcon, tr("Message"), item->text(), QMessageBox::Ok, window());
+        auto* const box = new QMessageBox(QMessageBox::NoIcon, getText("Message_Title"), item->text(),
+                                          QMessageBox::NoButton, window());
+        box->addButton(getText("Button_Ok"), QMessageBox::AcceptRole);
         box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->open();
@@ -46,7 +48,7 @@ void MessagesPanel::setMessages(std::vector<step::StepMessage> const& messages, 
         new QListWidgetItem(style()->standardIcon(getPicture(message.severity)),
                             ui::toQString(message.toString()), this);
     if (dropped > 0)
-        new QListWidgetItem(tr("…and %1 more").arg(dropped), this);
+        new QListWidgetItem(getText("Message_More", {QString::number(dropped)}), this);
 }
 
 } // namespace qev::application

@@ -4,6 +4,7 @@
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "ObjectLabel.h"
 #include "ShowAllFilter.h"
+#include "Texts.h"
 #include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControl.h"
 #include "UI/FoundationClasses/Property/PropertyInterface.h"
@@ -93,13 +94,13 @@ void PropertyPane::showSelection()
     auto const& object = m_session.getSelection();
     m_title->setVisible(object != nullptr);
     if (!m_session.isOpen()) {
-        showHint(tr("Open an IFC file by File > Open (Ctrl+O), or drop one here."));
+        showHint(getText("Hint_NoFile"));
         return;
     }
     auto const model = m_session.getData();
     if (!object) {
         m_control->setObjects(model, {});
-        showHint(tr("Select an object in the structure on the left, or find one by Ctrl+F."));
+        showHint(getText("Hint_NoSelection"));
         return;
     }
     auto const label = ObjectLabel::of(*model, object->getIndex());
@@ -165,7 +166,7 @@ void PropertyPane::showHint(QString const& hint)
 void PropertyPane::createControl()
 {
     auto const formatter = std::make_shared<fc::ui::PropertyGridControlPropertyFormatter>();
-    formatter->addStrategy(std::make_shared<UnsetHint>(ui::fromQString(tr("not set"))));
+    formatter->addStrategy(std::make_shared<UnsetHint>(ui::fromQString(getText("Row_NotSet"))));
     m_control = std::make_shared<PropertySetGridControl>(
         ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_session.getData(),
         m_dialog, std::make_shared<ShowAllFilter>(), GridFormatters{nullptr, formatter},

@@ -1,5 +1,6 @@
 #include "SearchPanel.h"
 
+#include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
 #include <QHeaderView>
@@ -26,10 +27,9 @@ SearchPanel::SearchPanel(QWidget& whenEmpty, QWidget* parent)
     , m_whenEmpty(&whenEmpty)
     , m_hits(new QTreeWidget)
 {
-    m_box->setPlaceholderText(tr("Find by name, class or GlobalId"));
     m_box->setClearButtonEnabled(true);
     m_box->installEventFilter(this);
-    m_hits->setHeaderLabels({tr("Name"), tr("Class")});
+    showTexts();
     m_hits->setRootIsDecorated(false);
     m_hits->setUniformRowHeights(true);
     m_hits->hide();
@@ -89,6 +89,19 @@ bool SearchPanel::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+void SearchPanel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        showTexts();
+    QWidget::changeEvent(event);
+}
+
+void SearchPanel::showTexts()
+{
+    m_box->setPlaceholderText(getText("Search_Placeholder"));
+    m_hits->setHeaderLabels({getText("Search_Name"), getText("Search_Class")});
+}
+
 void SearchPanel::start()
 {
     m_delay.stop();
@@ -133,12 +146,13 @@ void SearchPanel::addHit(ObjectSearch::Hit const& hit)
 void SearchPanel::showCount()
 {
     auto const count = m_hits->topLevelItemCount();
+    auto const number = QString::number(count);
     if (m_search->isCutShort())
-        m_count->setText(tr("The first %1 are shown").arg(count));
+        m_count->setText(getText("Search_First", {number}));
     else if (!m_search->isFinished())
-        m_count->setText(tr("%1 found so far…").arg(count));
+        m_count->setText(getText("Search_SoFar", {number}));
     else
-        m_count->setText(count == 0 ? tr("Nothing found") : tr("%1 found").arg(count));
+        m_count->setText(count == 0 ? getText("Search_Nothing") : getText("Search_Found", {number}));
 }
 
 void SearchPanel::choose(QTreeWidgetItem* item)

@@ -37,8 +37,10 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void showTexts();
     void start();
     void advance();
     void addHit(ObjectSearch::Hit const& hit);

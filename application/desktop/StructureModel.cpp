@@ -1,5 +1,6 @@
 #include "StructureModel.h"
 
+#include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -122,7 +123,7 @@ QVariant StructureModel::headerData(int section, Qt::Orientation orientation, in
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    return section == nameColumn ? tr("Name") : tr("Class");
+    return getText(section == nameColumn ? "Structure_Name" : "Structure_Class");
 }
 
 StructureModel::Node* StructureModel::getNode(QModelIndex const& index) const

@@ -23,18 +23,19 @@ ViewActions::ViewActions(PropertyPane& properties, std::vector<QDockWidget*> doc
 
 ViewActions::~ViewActions() = default;
 
-void ViewActions::fill(QMenu& menu)
+void ViewActions::fill(QMenu& menu, LiveTexts& texts)
 {
-    m_showUnused = menu.addAction(tr("Show &unused properties"));
+    m_showUnused = menu.addAction(QString());
+    texts.keep(*m_showUnused, "View_ShowUnused");
     m_showUnused->setShortcut(QKeySequence("Ctrl+U"));
     m_showUnused->setCheckable(true);
     m_showUnused->setChecked(m_properties.isUnusedShown());
     connect(m_showUnused, &QAction::toggled, this,
             [this](bool shown) { m_properties.setUnusedShown(shown); });
     menu.addSeparator();
-    m_expandAll = appendAction(menu, tr("&Expand all groups"), QKeySequence("Ctrl+Shift+E"),
+    m_expandAll = appendAction(menu, texts, "View_ExpandAll", QKeySequence("Ctrl+Shift+E"),
                                [this] { setAllFolded(false); });
-    m_collapseAll = appendAction(menu, tr("&Collapse all groups"), QKeySequence("Ctrl+Shift+C"),
+    m_collapseAll = appendAction(menu, texts, "View_CollapseAll", QKeySequence("Ctrl+Shift+C"),
                                  [this] { setAllFolded(true); });
     menu.addSeparator();
     for (auto* const dock : m_docks)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LiveTexts.h"
 #include "PropertyPane.h"
 
 #include <QAction>
@@ -18,7 +19,7 @@ public:
     ViewActions(PropertyPane& properties, std::vector<QDockWidget*> docks);
     ~ViewActions() override;
 
-    void fill(QMenu& menu);
+    void fill(QMenu& menu, LiveTexts& texts);
     /// Enables the actions that can be done at present.
     void update();
 

@@ -83,6 +83,13 @@ std::string_view takeUpTo(std::string_view& rest, char separator)
 
 } // namespace
 
+std::optional<UnitPreferences::System> UnitPreferences::systemFromName(std::string_view name)
+{
+    if (name == "metric")
+        return System::Metric;
+    return name == "imperial" ? std::optional(System::Imperial) : std::nullopt;
+}
+
 UnitPreferences::UnitPreferences(System system)
 {
     if (system == System::Metric)

@@ -29,6 +29,9 @@ public:
         Imperial
     };
 
+    /// "metric" or "imperial"; nothing for any other name.
+    [[nodiscard]] static std::optional<System> systemFromName(std::string_view name);
+
     struct Choice
     {
         /// The number of a unit.

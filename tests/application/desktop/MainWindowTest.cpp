@@ -1,25 +1,12 @@
 #include "MainWindow.h"
 
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "InspectorWindow.h"
 #include "MessagesPanel.h"
-#include "PropertyPane.h"
-#include "ReportRecorder.h"
-#include "SearchPanel.h"
-#include "SmallBuilding.h"
-#include "TemporaryFolder.h"
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
-#include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
-#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
-#include "Ui/Qt/QtBackend.h"
-#include "Ui/Qt/QtText.h"
-#include "Ui/Window/Details/WindowInterfaceFactory.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QTest>
 #include <QUrl>
 
 namespace qev::test {
@@ -30,81 +17,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class MainWindowTest : public testing::Test
+class MainWindowTest : public InspectorWindow
 {
 protected:
-    MainWindowTest()
-        : backend(ui::QtBackend::install())
-        , window(std::make_unique<MainWindow>(backend))
-        , path(folder.write("small.ifc", smallBuilding))
-    {
-        FileQuestions questions;
-        questions.leaveChanges = [this](QString const&) {
-            asked.emplace_back("leave");
-            return leave;
-        };
-        questions.overwriteChanged = [this](QString const&) {
-            asked.emplace_back("overwrite");
-            return overwrite;
-        };
-        questions.tellProblem = [this](QString const& text, QString const&) {
-            asked.push_back(text.toStdString());
-        };
-        questions.pathToSave = [this](QString const&) { return pathToSave; };
-        window->setQuestions(questions);
-        window->show();
-        QApplication::setActiveWindow(window.get());
-    }
-    ~MainWindowTest() override
-    {
-        window.reset();
-        ui::details::WindowInterfaceFactory::setBackend(nullptr);
-        expectOnlyKnownReports();
-    }
-
-    /// The sets of the standard have properties of kinds that are not shown; that is reported, and nothing
-    /// else.
-    static void expectOnlyKnownReports()
-    {
-        for (auto const& report : takeReports())
-            EXPECT_THAT(report.text, testing::EndsWith(" not implemented."));
-    }
-
-    static void settle() { QCoreApplication::processEvents(); }
-    void open() { ASSERT_TRUE(window->getFileActions().open(QString::fromStdString(path.string()))); }
-    [[nodiscard]] ui::QtPropertyGridView& view() const
-    {
-        return window->getProperties().getGrid()->getView();
-    }
-
-    [[nodiscard]] QModelIndex row(std::vector<std::string> const& names) const
-    {
-        auto const& model = window->getProperties().getGrid()->getItemModel();
-        QModelIndex found;
-        for (auto const& name : names) {
-            auto const matches = model.match(model.index(0, 0, found), Qt::DisplayRole, ui::toQString(name),
-                                             1, Qt::MatchExactly | Qt::MatchCaseSensitive);
-            if (matches.isEmpty())
-                return {};
-            found = matches.front();
-        }
-        return found;
-    }
-    [[nodiscard]] QModelIndex fireRating() const { return row({"Pset_WallCommon", "FireRating"}); }
-    [[nodiscard]] std::string value(QModelIndex const& index) const
-    {
-        return index.siblingAtColumn(1).data().toString().toStdString();
-    }
-    void typeInto(QModelIndex const& index, char const* text)
-    {
-        view().setFocus();
-        view().setCurrentIndex(index);
-        QTest::keyClick(&view(), Qt::Key_F2);
-        ASSERT_NE(QApplication::focusWidget(), &view()) << "no editor has opened";
-        QTest::keyClicks(QApplication::focusWidget(), text);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        settle();
-    }
     void editEastWall()
     {
         open();
@@ -112,15 +27,6 @@ protected:
         ASSERT_TRUE(fireRating().isValid());
         typeInto(fireRating(), "F90");
     }
-
-    TemporaryFolder folder;
-    std::shared_ptr<ui::QtBackend> backend;
-    std::unique_ptr<MainWindow> window;
-    std::filesystem::path path;
-    FileQuestions::Leave leave = FileQuestions::Leave::Stay;
-    bool overwrite = false;
-    QString pathToSave;
-    std::vector<std::string> asked;
 };
 
 TEST_F(MainWindowTest, SaysWhatToDoWhileThereIsNothingToShow)

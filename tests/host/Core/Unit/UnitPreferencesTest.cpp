@@ -64,6 +64,13 @@ TEST(UnitPreferences, ImperialChoicesAreThoseOfNorthAmerica)
     EXPECT_EQ(shown("PlaneAngleMeasure", 1.5707963267948966, preferences), "90°");
 }
 
+TEST(UnitPreferences, SystemsHaveNames)
+{
+    EXPECT_EQ(UnitPreferences::systemFromName("metric"), System::Metric);
+    EXPECT_EQ(UnitPreferences::systemFromName("imperial"), System::Imperial);
+    EXPECT_EQ(UnitPreferences::systemFromName("Metric"), std::nullopt);
+}
+
 TEST(UnitPreferences, AChoiceIsOneQuantitysOwn)
 {
     UnitPreferences preferences;

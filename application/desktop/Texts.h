@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qev::application {
+
+/// A text of the program in the current language, by its key in the dictionaries "Inspector", with
+/// \p arguments in place of "%1" to "%9".
+[[nodiscard]] QString getText(std::string_view key, std::vector<QString> const& arguments = {});
+
+} // namespace qev::application

@@ -1,0 +1,32 @@
+#include "Definitions.h"
+
+#include "Core/Localization/LocalizationAdmin.h"
+#include "Format/Ifc/Schema/DefinitionTexts.h"
+#include "Format/Ifc/Schema/PsdReader.h"
+#include "Format/Ifc/Schema/SchemaLoader.h"
+#include "Format/Ifc/Schema/SchemaPset.h"
+
+#include <utility>
+
+namespace qev::application {
+
+DefinitionsResult addDefinitions(std::filesystem::path const& fileOrFolder)
+{
+    DefinitionsResult result;
+    auto read = ifc::def::readPsd(fileOrFolder);
+    for (auto const& error : read.errors)
+        result.messages.push_back(error.file.string() + ", line " + std::to_string(error.line) + ": " +
+                                  error.message);
+    result.isAnyFound = !read.definitions.sets().empty();
+    if (!result.isAnyFound) {
+        result.messages.push_back("there are no property-set definitions in " + fileOrFolder.string());
+        return result;
+    }
+    ifc::def::addTexts(read.definitions, "IfcProperties", resource::localization::getAdminInstance());
+    ifc::SchemaLoader::curr()
+        .pSchemaFromName("IFC4X3_TC1")
+        ->addDefinitions(fileOrFolder.string(), std::move(read.definitions));
+    return result;
+}
+
+} // namespace qev::application
