@@ -1,12 +1,15 @@
 #include "Commands.h"
 #include "Core/Assert/Assert.h"
+#include "Core/Locale/Locale.h"
 #include "Definitions.h"
+#include "DisplaySettings.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 
 #include <CLI/CLI.hpp>
 
 #include <functional>
 #include <future>
+#include <iostream>
 
 namespace {
 
@@ -40,6 +43,27 @@ void addObjects(CLI::App& command, ObjectSelection& objects, bool mayBeAll)
     group->require_option(1);
 }
 
+/// Adds how values and texts are shown, which is metric and English unless the options say otherwise.
+void addDisplay(CLI::App& app, DisplaySettings& display)
+{
+    using qev::unit::UnitPreferences;
+    display.language = "en";
+    app.add_option_function<std::string>(
+           "--units",
+           [&display](std::string const& name) {
+               if (auto const system = UnitPreferences::systemFromName(name))
+                   display.units = UnitPreferences(*system);
+           },
+           "metric or imperial units, in what is shown and for numbers without a unit")
+        ->check(CLI::IsMember({"metric", "imperial"}));
+    app.add_option("--language", display.language, "the language of names and texts: en, de or fr")
+        ->check([](std::string const& code) {
+            return qev::locale::Locale::fromCode(code) ? std::string() : code + " is no code of a language";
+        });
+    app.add_option("--texts", display.texts, "a folder of texts of your own: <context>.<language>.txt")
+        ->check(CLI::ExistingDirectory);
+}
+
 /// The subcommands and what they were given; one of them sets `run`.
 struct CommandLine
 {
@@ -52,6 +76,7 @@ struct CommandLine
     EntityOptions entity;
     bool showReports = false;
     std::vector<std::filesystem::path> definitions;
+    DisplaySettings display;
     std::function<ExitCode()> run;
 
     void addTo(CLI::App& app);
@@ -110,7 +135,8 @@ void CommandLine::addTo(CLI::App& app)
     which->add_option("--id", entity.id, "the number of its record: 12 for #12");
     which->add_flag("--all", entity.all, "every entity of the file, one document a line as JSON");
     which->require_option(1);
-    command->add_option("--set", entity.assignments, "path=value, what to change; may be given several times");
+    command->add_option("--set", entity.assignments,
+                        "path=value, what to change; may be given several times");
     command->add_option("--output", entity.output, "the file to write; it may be FILE itself");
     command->callback([this] { run = [this] { return runEntity(entity); }; });
 
@@ -118,6 +144,7 @@ void CommandLine::addTo(CLI::App& app)
     app.add_option("--definitions", definitions,
                    "property-set definitions in the standard's XML form, a file or a folder; may be given "
                    "several times");
+    addDisplay(app, display);
     app.require_subcommand(1);
 }
 
@@ -128,6 +155,23 @@ std::future<void> readSchemasAhead()
         qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1");
         qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X1");
     });
+}
+
+void print(std::vector<std::string> const& messages)
+{
+    for (auto const& message : messages)
+        std::cerr << "qev-ifc: " << message << '\n';
+}
+
+bool addAllDefinitions(std::vector<std::filesystem::path> const& filesOrFolders)
+{
+    for (auto const& path : filesOrFolders) {
+        auto const result = addDefinitions(path);
+        print(result.messages);
+        if (!result.isAnyFound)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -146,7 +190,8 @@ int main(int argc, char** argv)
     // only.
     qev::assert::Assert::setEnabled(commandLine.showReports);
     std::future<void> const schemas = readSchemasAhead();
-    if (!addDefinitions(commandLine.definitions))
+    print(commandLine.display.apply(qev::locale::Locale()));
+    if (!addAllDefinitions(commandLine.definitions))
         return static_cast<int>(ExitCode::UnreadableFile);
     return static_cast<int>(commandLine.run());
 }

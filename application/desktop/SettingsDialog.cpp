@@ -65,7 +65,7 @@ SettingsDialog::SettingsDialog(ProgramSettings const& settings, locale::Locale c
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(pages);
     layout->addWidget(buttons);
-    show(settings);
+    fill(settings);
     resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 36);
 }
 
@@ -133,7 +133,7 @@ void SettingsDialog::fillLanguages()
         m_language->addItem(getLanguageName(language), toQString(language.code()));
 }
 
-void SettingsDialog::show(ProgramSettings const& settings)
+void SettingsDialog::fill(ProgramSettings const& settings)
 {
     auto const& display = settings.display;
     m_units->setPreferences(display.units);

@@ -30,7 +30,7 @@ private:
     [[nodiscard]] QWidget* createUnitsPage();
     [[nodiscard]] QWidget* createProgramPage();
     void fillLanguages();
-    void show(ProgramSettings const& settings);
+    void fill(ProgramSettings const& settings);
     void takeSystem();
     void showSystem();
     void showDecimalSign();

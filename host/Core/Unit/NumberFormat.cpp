@@ -1,6 +1,7 @@
 #include "Core/Unit/NumberFormat.h"
 
 #include "Core/Localization/Localize.h"
+#include "Core/String/Ascii.h"
 #include "Core/String/NumberText.h"
 #include "Core/Unit/QppBase.h"
 
@@ -11,15 +12,6 @@ namespace qev::unit {
 namespace {
 
 bool isSeparator(char character) { return character == '.' || character == ','; }
-
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t";
-    auto const first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 bool groupsThousands(std::string_view wholePart, char separator)
 {
@@ -66,7 +58,10 @@ std::optional<std::string> plainMantissa(std::string_view mantissa)
 
 NumberFormat const& NumberFormat::current() { return QppBase::registration().preferences().numberFormat(); }
 
-std::string NumberFormat::write(double number) const { return withDecimalSign(str::shortestText(number + 0.0)); }
+std::string NumberFormat::write(double number) const
+{
+    return withDecimalSign(str::shortestText(number + 0.0));
+}
 
 std::string NumberFormat::withDecimalSign(std::string text) const
 {
@@ -76,7 +71,7 @@ std::string NumberFormat::withDecimalSign(std::string text) const
 
 std::optional<double> NumberFormat::read(std::string_view text) const
 {
-    auto const digits = plainDigits(trimmed(text));
+    auto const digits = plainDigits(str::trimmed(text, " \t"));
     auto const number = digits ? str::parseDouble(*digits) : std::nullopt;
     return number ? std::optional(*number + 0.0) : std::nullopt;
 }
@@ -105,7 +100,7 @@ bool NumberFormat::isAmbiguous(std::string_view text) const
 
 std::string NumberFormat::describeExpected(std::string_view text) const
 {
-    text = trimmed(text);
+    text = str::trimmed(text, " \t");
     if (text.starts_with('-') || text.starts_with('+'))
         text.remove_prefix(1);
     if (!isAmbiguous(text))

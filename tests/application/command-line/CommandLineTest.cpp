@@ -218,6 +218,100 @@ TEST_F(CommandLine, SetChangesNoQuantityOfAnotherName)
     EXPECT_EQ(quantitiesOf(run("grid " + target() + each).output), before);
 }
 
+/// A wall whose set holds a length of 2.5 m.
+constexpr char wallWithALength[] = R"(ISO-10303-21;
+HEADER;
+FILE_DESCRIPTION((''),'2;1');
+FILE_NAME('wall.ifc','2024-01-01T00:00:00',(''),(''),'','','');
+FILE_SCHEMA(('IFC4X3_ADD2'));
+ENDSEC;
+DATA;
+#1=IFCPROJECT('0000000000000000000001',$,'Project',$,$,$,$,$,#2);
+#2=IFCUNITASSIGNMENT((#3));
+#3=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);
+#4=IFCWALL('0000000000000000000004',$,'Wall',$,$,$,$,$,$);
+#5=IFCPROPERTYSINGLEVALUE('Width',$,IFCLENGTHMEASURE(2500.),$);
+#6=IFCPROPERTYSET('0000000000000000000006',$,'Company',$,(#5));
+#7=IFCRELDEFINESBYPROPERTIES('0000000000000000000007',$,$,$,(#4),#6);
+ENDSEC;
+END-ISO-10303-21;
+)";
+
+class CommandLineDisplay : public CommandLine
+{
+protected:
+    CommandLineDisplay()
+        : wall(quoted(folder.write("wall.ifc", wallWithALength).string()))
+    {
+    }
+
+    /// The row of the length in the grid, shown with further options.
+    [[nodiscard]] Json width(std::string const& options) const
+    {
+        for (Json const& group : json(options + " grid " + wall + " --class IfcWall")["groups"]) {
+            if (group["name"] == "Company")
+                return group["rows"].at(0);
+        }
+        ADD_FAILURE() << "there is no row";
+        return {};
+    }
+    /// What the file says after typing \p value with further options.
+    [[nodiscard]] std::string lengthAfter(std::string const& options, std::string const& value) const
+    {
+        EXPECT_EQ(run(options + " set " + wall + " --class IfcWall --property Company.Width --value " +
+                      value + " --output " + target())
+                      .exitCode,
+                  0);
+        auto const text = saved();
+        auto const start = text.find("IFCLENGTHMEASURE(") + 17;
+        return text.substr(start, text.find(')', start) - start);
+    }
+
+    std::string wall;
+};
+
+TEST_F(CommandLineDisplay, UnitsAreMetricUnlessOthersAreAskedFor)
+{
+    EXPECT_EQ(width("")["value"], "2.5 m");
+    Json const imperial = width("--units imperial");
+    EXPECT_EQ(imperial["value"], "8' 2 7/16\"");
+    EXPECT_EQ(imperial["number"], 2.5);
+}
+
+TEST_F(CommandLineDisplay, InputHasTheUnitsThatAreShown)
+{
+    EXPECT_EQ(lengthAfter("", "3"), "3000.");
+    EXPECT_EQ(lengthAfter("--units imperial", "10"), "3048.");
+    EXPECT_EQ(lengthAfter("--units imperial", "\"3 m\""), "3000.");
+}
+
+TEST_F(CommandLineDisplay, LanguageChoosesTextsAndDecimalSign)
+{
+    EXPECT_EQ(width("--language de")["value"], "2,5 m");
+    EXPECT_EQ(lengthAfter("--language de", "1,234"), "1234.");
+    Outcome const refused =
+        run("--language fr set " + wall + " --class IfcWall --property Company.Width --value wide --output " +
+            target());
+    EXPECT_EQ(refused.exitCode, 5);
+    EXPECT_NE(refused.output.find("Un nombre est attendu"), std::string::npos) << refused.output;
+}
+
+TEST_F(CommandLineDisplay, TextsOfTheUserAreShown)
+{
+    folder.write("IfcProperties.en.txt", "Width\tOur width\nnot understood\n");
+    std::string const options = "--texts " + quoted(folder.path().string());
+    EXPECT_EQ(width(options)["label"], "Our width");
+    Outcome const outcome = run(options + " grid " + wall + " --class IfcWall");
+    EXPECT_NE(outcome.errors.find("IfcProperties.en.txt, line 2"), std::string::npos) << outcome.errors;
+}
+
+TEST_F(CommandLineDisplay, ChoicesThatDoNotExistAreBadUsage)
+{
+    EXPECT_EQ(run("--units cubits info " + wall).exitCode, 2);
+    EXPECT_EQ(run("--language x1 info " + wall).exitCode, 2);
+    EXPECT_EQ(run("--texts nowhere info " + wall).exitCode, 2);
+}
+
 TEST_F(CommandLine, BadUsageGivesTwo)
 {
     EXPECT_EQ(run("").exitCode, 2);

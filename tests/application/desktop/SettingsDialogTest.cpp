@@ -154,7 +154,7 @@ TEST_P(SettingsDialogLanguages, ShowTheirTextsInFull)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, SettingsDialogLanguages, testing::Values("en", "de", "fr"),
-                         [](auto const& info) { return std::string(info.param); });
+                         [](auto const& tested) { return std::string(tested.param); });
 
 } // namespace
 } // namespace qev::test

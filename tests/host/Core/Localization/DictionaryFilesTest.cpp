@@ -112,7 +112,7 @@ TEST_P(DictionaryFiles, HaveATextWithTheSameArgumentsForEachKey)
 
 INSTANTIATE_TEST_SUITE_P(All, DictionaryFiles,
                          testing::Values("FoundationClassesUi", "Ifc", "Inspector", "Ui", "Units"),
-                         [](auto const& info) { return info.param; });
+                         [](auto const& tested) { return tested.param; });
 
 /// The names of the standard are English, so that there is no file for English.
 TEST(DictionaryFilesOfTheStandard, HaveTheSameKeysInEachLanguage)
