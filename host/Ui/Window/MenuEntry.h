@@ -11,9 +11,11 @@ namespace qev::ui {
 class HOSTUI_EXPORT MenuEntry
 {
 public:
-    explicit MenuEntry(std::string text, bool enabled = true)
+    /// A text of two parts with a tab between them is an entry and the keys that stand for it.
+    explicit MenuEntry(std::string text, bool enabled = true, bool beginsGroup = false)
         : m_text(std::move(text))
         , m_enabled(enabled)
+        , m_beginsGroup(beginsGroup)
     {
     }
     virtual ~MenuEntry() = default;
@@ -24,10 +26,13 @@ public:
 
     [[nodiscard]] std::string const& getText() const { return m_text; }
     [[nodiscard]] bool isEnabled() const { return m_enabled; }
+    /// A line sets the entry off from those above it.
+    [[nodiscard]] bool beginsGroup() const { return m_beginsGroup; }
 
 private:
     std::string m_text;
     bool m_enabled = true;
+    bool m_beginsGroup = false;
 };
 
 } // namespace qev::ui

@@ -1,4 +1,4 @@
-#include "Ui/Window/Controls/ListControl/ListCellNumber.h"
+#include "Ui/List/ListCellNumber.h"
 
 #include <gtest/gtest.h>
 

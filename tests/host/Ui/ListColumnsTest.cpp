@@ -1,4 +1,4 @@
-#include "Ui/Window/Controls/ListControl/ListColumns.h"
+#include "Ui/List/ListColumns.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -53,6 +53,16 @@ TEST_F(ListColumnsTest, WhatIsSaidBeforeOtherColumnsComeIsSaidOfThem)
     EXPECT_TRUE(columns.isHidden(1));
     columns.setCheckBoxes(0, std::nullopt);
     EXPECT_FALSE(columns.getCheckBoxMode(0));
+}
+
+TEST_F(ListColumnsTest, NoColumnsAtAllMakeForgetWhatTheOwnerSaid)
+{
+    columns.setCheckBoxes(1, 2);
+    columns.setTitles({});
+    columns.setCheckBoxes(3, 0);
+    columns.setTitles({"Name", "Width", "Width", "Rating"});
+    EXPECT_FALSE(columns.getCheckBoxMode(1));
+    EXPECT_EQ(columns.getCheckBoxMode(3), 0);
 }
 
 TEST_F(ListColumnsTest, TheUserCanShowWhatIsHiddenByDefault)

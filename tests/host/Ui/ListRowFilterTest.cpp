@@ -1,4 +1,4 @@
-#include "Ui/Window/Controls/ListControl/ListRowFilter.h"
+#include "Ui/List/ListRowFilter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Ui/Window/Controls/ListControl/ListRowOrder.h"
+#include "Ui/List/ListRowOrder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -24,10 +24,13 @@ protected:
     }
     bool advance(std::size_t rows = all)
     {
-        return order.advance(rows, [this](std::size_t row, std::size_t column) {
+        auto const getText = [this](std::size_t row, std::size_t column) {
             ++reads;
             return table.at(row).at(column);
-        });
+        };
+        return order.advance(rows, {getText, [&](std::size_t row, std::size_t column) {
+                                        return ListSortCell{getText(row, column), getNumber(row)};
+                                    }});
     }
     [[nodiscard]] std::vector<std::size_t> rows() const
     {
@@ -49,6 +52,8 @@ protected:
     }
 
     std::vector<std::vector<std::string>> table;
+    /// The number of the owner's for a row.
+    std::function<std::optional<double>(std::size_t)> getNumber = [](std::size_t) { return std::nullopt; };
     ListRowOrder order;
     std::size_t reads = 0;
 };
@@ -77,6 +82,15 @@ TEST_F(ListRowOrderTest, NumbersOfSeveralUnitsAreTexts)
 {
     EXPECT_THAT(sorted({"2 m", "1 mm", "1 m"}), ElementsAre(2u, 1u, 0u));
     EXPECT_THAT(sorted({"2B", "10A", "2A"}), ElementsAre(2u, 0u, 1u));
+}
+
+TEST_F(ListRowOrderTest, NumbersOfTheOwnerGoBeforeTexts)
+{
+    std::vector<double> const numbers{1000, 1, 0, 20};
+    getNumber = [&](std::size_t row) { return numbers[row]; };
+    EXPECT_THAT(sorted({"1 km", "1 m", "", "20 m"}), ElementsAre(1u, 3u, 0u, 2u));
+    getNumber = [&](std::size_t row) { return row == 1 ? std::nullopt : std::optional(numbers[row]); };
+    EXPECT_THAT(sorted({"b", "c", "", "a"}, true), ElementsAre(1u, 0u, 3u, 2u)) << "Not all have one.";
 }
 
 TEST_F(ListRowOrderTest, EmptyCellsComeLastEitherWay)

@@ -174,7 +174,8 @@ public:
     [[nodiscard]] ListControlSettings getSettings() const;
     void loadSettings(ListControlSettings const& settings);
 
-    /// A row is opened: a double click, or Return.
+    /// A row is opened: a double click where nothing can be edited, or Ctrl+Return; in a popup any double click,
+    /// or Return.
     EventHandlerContainer<Window, void, ItemInfo const&> onItemActivated;
     /// A row is asked about by the other gesture: a click with the middle button.
     EventHandlerContainer<Window, void, ItemInfo const&> onItemSecondaryEvent;

@@ -1,4 +1,4 @@
-#include "Ui/Window/Controls/ListControl/ListRowOrder.h"
+#include "Ui/List/ListRowOrder.h"
 
 #include <algorithm>
 #include <utility>
@@ -37,7 +37,7 @@ void ListRowOrder::restart()
     m_work.emplace(Work{ListRowFilter(m_filter), ListSortKeys(m_sorting), {}, 0});
 }
 
-bool ListRowOrder::advance(std::size_t rows, CellText const& text)
+bool ListRowOrder::advance(std::size_t rows, Cells const& cells)
 {
     if (!m_work)
         return false;
@@ -47,16 +47,17 @@ bool ListRowOrder::advance(std::size_t rows, CellText const& text)
     auto const end = m_work->nextRow + std::min(rows, m_rowCount - m_work->nextRow);
     for (; m_work->nextRow < end; ++m_work->nextRow) {
         auto const row = m_work->nextRow;
-        if (isFiltered && !m_work->filter.passes([&](std::size_t column) { return text(row, column); }))
+        if (isFiltered &&
+            !m_work->filter.passes([&](std::size_t column) { return cells.getText(row, column); }))
             continue;
         if (m_sorting.empty()) {
             m_work->rows.push_back(row);
             continue;
         }
-        std::vector<std::string> texts;
+        std::vector<ListSortCell> sortCells;
         for (auto const& column : m_sorting)
-            texts.push_back(text(row, column.column));
-        m_work->keys.add(row, std::move(texts));
+            sortCells.push_back(cells.getSortCell(row, column.column));
+        m_work->keys.add(row, std::move(sortCells));
     }
     if (m_work->nextRow < m_rowCount)
         return false;

@@ -1,4 +1,4 @@
-#include "Ui/Window/Controls/ListControl/ListColumns.h"
+#include "Ui/List/ListColumns.h"
 
 #include <algorithm>
 #include <utility>
@@ -29,7 +29,9 @@ void ListColumns::setDefaultHidden(std::set<std::size_t> columns)
 
 void ListColumns::setTitles(std::vector<std::string> titles)
 {
-    if (!m_titles.empty() && titles != m_titles)
+    if (titles.empty())
+        m_said = {};
+    else if (!m_titles.empty() && titles != m_titles)
         m_said = m_saidSince;
     m_saidSince = {};
     m_keys = makeKeys(titles);

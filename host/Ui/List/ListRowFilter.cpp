@@ -1,7 +1,7 @@
-#include "Ui/Window/Controls/ListControl/ListRowFilter.h"
+#include "Ui/List/ListRowFilter.h"
 
 #include "Core/String/Fold.h"
-#include "Ui/Window/Controls/ListControl/ListCellNumber.h"
+#include "Ui/List/ListCellNumber.h"
 
 #include <algorithm>
 #include <array>

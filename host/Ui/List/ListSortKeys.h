@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostUiExport.h"
+#include "Ui/List/ListSortCell.h"
 #include "Ui/Window/Controls/ListControl/ListSortColumn.h"
 
 #include <cstddef>
@@ -9,19 +10,19 @@
 
 namespace qev::ui {
 
-/// Sorts rows by the texts of their cells, each of which is read once.
+/// Sorts rows by their cells, each of which is read once.
 ///
-/// Numbers go by their value where all cells of a column that hold anything hold a number in the same unit;
-/// other columns go by the natural order of texts. Empty cells come last, whichever way round a column is
-/// sorted. Rows with the same texts stay in the order they have.
+/// Numbers go by their value where all cells of a column that hold anything have a number, or a text that is
+/// a number in the same unit; other columns go by the natural order of texts. Empty cells come last,
+/// whichever way round a column is sorted. Rows with the same texts stay in the order they have.
 class HOSTUI_EXPORT ListSortKeys
 {
 public:
     explicit ListSortKeys(std::vector<ListSortColumn> columns);
 
     [[nodiscard]] std::vector<ListSortColumn> const& getColumns() const { return m_columns; }
-    /// Adds a row; \p texts are those of the columns, in their order. Rows come in ascending order.
-    void add(std::size_t row, std::vector<std::string> texts);
+    /// Adds a row; \p cells are those of the columns, in their order. Rows come in ascending order.
+    void add(std::size_t row, std::vector<ListSortCell> cells);
     /// The rows in their new order. Nothing is left of them here.
     [[nodiscard]] std::vector<std::size_t> takeSorted();
 
@@ -31,8 +32,9 @@ private:
     {
         bool isDescending = false;
         std::vector<std::string> texts;
-        /// In place of the texts, once all are known to be numbers.
+        /// Not a number for an empty cell; empty when not all cells have numbers.
         std::vector<double> numbers;
+        bool hasNumbers = true;
     };
 
     static void prepare(Keys& keys);

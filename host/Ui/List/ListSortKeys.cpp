@@ -1,7 +1,7 @@
-#include "Ui/Window/Controls/ListControl/ListSortKeys.h"
+#include "Ui/List/ListSortKeys.h"
 
 #include "Core/String/Compare.h"
-#include "Ui/Window/Controls/ListControl/ListCellNumber.h"
+#include "Ui/List/ListCellNumber.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,14 +30,20 @@ ListSortKeys::ListSortKeys(std::vector<ListSortColumn> columns)
     : m_columns(std::move(columns))
 {
     for (auto const& column : m_columns)
-        m_keys.push_back({column.isDescending, {}, {}});
+        m_keys.push_back({column.isDescending, {}, {}, true});
 }
 
-void ListSortKeys::add(std::size_t row, std::vector<std::string> texts)
+void ListSortKeys::add(std::size_t row, std::vector<ListSortCell> cells)
 {
     m_rows.push_back(row);
-    for (std::size_t i = 0; i < m_keys.size(); ++i)
-        m_keys[i].texts.push_back(std::move(texts[i]));
+    for (std::size_t i = 0; i < m_keys.size(); ++i) {
+        auto& keys = m_keys[i];
+        auto& cell = cells[i];
+        keys.hasNumbers = keys.hasNumbers && (cell.number || cell.text.empty());
+        if (keys.hasNumbers)
+            keys.numbers.push_back(cell.text.empty() ? noNumber : *cell.number);
+        keys.texts.push_back(std::move(cell.text));
+    }
 }
 
 std::vector<std::size_t> ListSortKeys::takeSorted()
@@ -61,6 +67,9 @@ std::vector<std::size_t> ListSortKeys::takeSorted()
 
 void ListSortKeys::prepare(Keys& keys)
 {
+    if (keys.hasNumbers)
+        return;
+    keys.numbers.clear();
     if (readNumbers(keys))
         return;
     keys.numbers.clear();

@@ -26,7 +26,7 @@ public:
     /// Hides columns that the user has not shown.
     void setDefaultHidden(std::set<std::size_t> columns);
     /// The columns are those of \p titles from now on. When these are others than before, what the owner has
-    /// said counts no more, except what was said since the last call.
+    /// said counts no more, except what was said since the last call. No titles at all: nothing counts.
     void setTitles(std::vector<std::string> titles);
 
     [[nodiscard]] std::size_t getCount() const { return m_titles.size(); }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "HostUiExport.h"
-#include "Ui/Window/Controls/ListControl/ListFilter.h"
+#include "Ui/List/ListFilter.h"
 
 #include <functional>
 #include <optional>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "HostUiExport.h"
-#include "Ui/Window/Controls/ListControl/ListFilter.h"
-#include "Ui/Window/Controls/ListControl/ListRowFilter.h"
+#include "Ui/List/ListFilter.h"
+#include "Ui/List/ListRowFilter.h"
+#include "Ui/List/ListSortKeys.h"
 #include "Ui/Window/Controls/ListControl/ListSortColumn.h"
-#include "Ui/Window/Controls/ListControl/ListSortKeys.h"
 
 #include <cstddef>
 #include <functional>
@@ -23,7 +23,13 @@ namespace qev::ui {
 class HOSTUI_EXPORT ListRowOrder
 {
 public:
-    using CellText = std::function<std::string(std::size_t row, std::size_t column)>;
+    /// How the cells are read.
+    struct Cells
+    {
+        /// What a filter looks at.
+        std::function<std::string(std::size_t row, std::size_t column)> getText;
+        std::function<ListSortCell(std::size_t row, std::size_t column)> getSortCell;
+    };
 
     /// The rows are new ones. When they are more or fewer than before, all are shown in their own order until
     /// filter and sorting have been worked out for them.
@@ -42,7 +48,7 @@ public:
     /// How many rows have been looked at for it.
     [[nodiscard]] std::size_t getProgress() const { return m_work ? m_work->nextRow : m_rowCount; }
     /// Looks at up to \p rows more rows. True when the positions have changed: the work is done.
-    bool advance(std::size_t rows, CellText const& text);
+    bool advance(std::size_t rows, Cells const& cells);
 
     [[nodiscard]] std::size_t getRowCount() const { return m_rowCount; }
     /// How many positions there are.
