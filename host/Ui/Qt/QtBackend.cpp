@@ -1,22 +1,27 @@
 #include "Ui/Qt/QtBackend.h"
 
+#include "Ui/Qt/ListControl/QtListControl.h"
+#include "Ui/Qt/ListControl/QtListControlInterface.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
 #include "Ui/Qt/QtDialog.h"
 #include "Ui/Qt/QtInterface.h"
 #include "Ui/Qt/QtProgressBar.h"
 #include "Ui/Qt/QtText.h"
+#include "Ui/Window/Controls/ListControl/ListControl.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
 #include "Ui/Window/DialogControl.h"
 #include "Ui/Window/GroupBox.h"
 #include "Ui/Window/PopupMenu.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QCursor>
 #include <QGroupBox>
 #include <QMenu>
 #include <QMessageBox>
 #include <utility>
+#include <vector>
 
 namespace qev::ui {
 
@@ -63,6 +68,8 @@ std::optional<WindowClass> getWindowClassOf(std::string const& className)
 {
     if (className == PropertyGridControl::getClassName())
         return WindowClass::PropertyGridControl;
+    if (className == ListControl::getClassName())
+        return WindowClass::ListControl;
     if (className == Dialog::getClassName())
         return WindowClass::Dialog;
     if (className == DialogControl::getClassName())
@@ -74,11 +81,14 @@ std::optional<WindowClass> getWindowClassOf(std::string const& className)
     return std::nullopt;
 }
 
-QWidget* makeWidget(WindowClass windowClass, QWidget* parent)
+/// \p style means something for lists only.
+QWidget* makeWidget(WindowClass windowClass, QWidget* parent, unsigned int style = 0)
 {
     switch (windowClass) {
     case WindowClass::PropertyGridControl:
         return new QtPropertyGrid(parent);
+    case WindowClass::ListControl:
+        return new QtListControl(style, parent);
     case WindowClass::Dialog:
         return new QtDialog(parent);
     case WindowClass::GroupBox:
@@ -164,6 +174,11 @@ QtPropertyGrid* QtBackend::getPropertyGrid(PropertyGridControl const& control) c
     return dynamic_cast<QtPropertyGrid*>(getWidget(control.getHandle()));
 }
 
+QtListControl* QtBackend::getListControl(ListControl const& control) const
+{
+    return dynamic_cast<QtListControl*>(getWidget(control.getHandle()));
+}
+
 QWidget* QtBackend::getWidget(WindowHandle const& handle) const
 {
     auto const* const entry = findEntry(handle);
@@ -176,7 +191,7 @@ WindowHandle QtBackend::createWindow(WindowCreation const& creation)
     auto* const owner = getWidget(creation.owner);
     if (!windowClass || (creation.owner.isValid() && !owner))
         return {};
-    auto* const widget = makeWidget(*windowClass, owner);
+    auto* const widget = makeWidget(*windowClass, owner, creation.style);
     auto const& placement = creation.placement;
     widget->setGeometry(placement.left, placement.top, placement.right - placement.left,
                         placement.bottom - placement.top);
@@ -191,6 +206,8 @@ std::unique_ptr<WindowInterface> QtBackend::createInterface(WindowHandle const& 
     auto& widget = *entry->widget;
     if (auto* const grid = dynamic_cast<QtPropertyGrid*>(&widget))
         return std::make_unique<QtPropertyGridInterface>(*grid, entry->controlId);
+    if (auto* const list = dynamic_cast<QtListControl*>(&widget))
+        return std::make_unique<QtListControlInterface>(*list, entry->controlId);
     if (entry->windowClass == WindowClass::Dialog)
         return std::make_unique<QtDialogInterface>(widget, entry->windowClass, entry->controlId);
     if (entry->windowClass == WindowClass::Window)
@@ -236,11 +253,18 @@ void QtBackend::showMessage(MessageBox::Message message)
 std::optional<std::size_t> QtBackend::showPopupMenu(PopupMenu const& menu, Position const& position)
 {
     QMenu widget;
-    for (auto const& entry : menu.getEntries())
-        widget.addAction(toQString(entry->getText()))->setEnabled(entry->isEnabled());
-    auto const actions = widget.actions();
-    auto const index = actions.indexOf(widget.exec(QPoint(position.x, position.y)));
-    return index < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(index));
+    std::vector<QAction const*> actions;
+    for (auto const& entry : menu.getEntries()) {
+        if (entry->beginsGroup() && !actions.empty())
+            widget.addSeparator();
+        auto* const action = widget.addAction(toQString(entry->getText()));
+        action->setEnabled(entry->isEnabled());
+        actions.push_back(action);
+    }
+    auto const* const chosen = widget.exec(QPoint(position.x, position.y));
+    auto const found = std::find(actions.begin(), actions.end(), chosen);
+    return found == actions.end() ? std::nullopt
+                                  : std::optional(static_cast<std::size_t>(found - actions.begin()));
 }
 
 std::unique_ptr<ProgressBarInterface> QtBackend::createProgressBar(std::string const& title)

@@ -13,14 +13,16 @@
 
 namespace qev::ui {
 
+class ListControl;
 class PropertyGridControl;
+class QtListControl;
 class QtPropertyGrid;
 
 /// The back end of Qt widgets.
 ///
 /// A window handle is the address of its `QWidget`. Widgets have their place in Qt's own order of
 /// ownership; placements are in Qt's device-independent pixels. Needs a `QApplication`. Property grids,
-/// dialogs, group boxes and plain controls can be made, lists cannot.
+/// lists, dialogs, group boxes and plain controls can be made.
 ///
 /// Example:
 ///
@@ -47,6 +49,8 @@ public:
 
     /// The widget of a grid; null when the control has none here.
     [[nodiscard]] QtPropertyGrid* getPropertyGrid(PropertyGridControl const& control) const;
+    /// The widget of a list; null when the control has none here.
+    [[nodiscard]] QtListControl* getListControl(ListControl const& control) const;
     /// The widget of a handle; null when it is gone or of another back end.
     [[nodiscard]] QWidget* getWidget(WindowHandle const& handle) const;
 

@@ -106,7 +106,9 @@ public:
     }
     void onChildCreated(WindowHandle const& child) override
     {
-        if (auto* const widget = static_cast<QWidget*>(child.getNativeWindow()))
+        // What has a window of its own is shown when its owner says so.
+        auto* const widget = static_cast<QWidget*>(child.getNativeWindow());
+        if (widget && !widget->isWindow())
             widget->show();
     }
 

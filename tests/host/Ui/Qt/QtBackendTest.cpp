@@ -34,6 +34,12 @@ public:
     std::vector<Size> sizes;
 };
 
+class UnknownControl final : public DialogControl
+{
+public:
+    [[nodiscard]] static char const* getClassName() { return "UnknownControl"; }
+};
+
 TEST_F(QtBackendTest, DialogHasTitleSizeAndIsShown)
 {
     auto* const widget = backend->getWidget(dialog->getHandle());
@@ -73,7 +79,7 @@ TEST_F(QtBackendTest, PlaceholderGivesItsPlaceToTheControlThatReplacesIt)
 
 TEST_F(QtBackendTest, WindowsOfUnknownClassAreRefused)
 {
-    EXPECT_EQ(Window::create<ListControl>(dialog, 0, 0, {0, 0, 10, 10}), nullptr);
+    EXPECT_EQ(Window::create<UnknownControl>(dialog, 0, 0, {0, 0, 10, 10}), nullptr);
     expectReport("Unable to create window", "qev::ui::Window::createWindow", "Ui/Window/Window");
 }
 

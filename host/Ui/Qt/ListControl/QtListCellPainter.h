@@ -1,0 +1,56 @@
+#pragma once
+
+#include "HostUiQtExport.h"
+#include "Ui/Qt/ListControl/QtListCell.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QStyleOptionViewItem>
+
+namespace qev::ui {
+
+/// Draws the cells of a list, many at a time: what is the same for all of them is worked out once.
+class HOSTUIQT_EXPORT QtListCellPainter
+{
+public:
+    /// How a cell stands among the others.
+    struct Place
+    {
+        QRect area;
+        bool isSelected = false;
+        bool isCurrent = false;
+    };
+
+    /// \p option is that of the view; both outlive this.
+    QtListCellPainter(QPainter& painter, QStyleOptionViewItem const& option);
+
+    void paint(QtListCell const& cell, Place const& place);
+
+    /// Where the box of a cell is in \p area.
+    [[nodiscard]] static QRect getCheckBox(QStyleOptionViewItem const& option, QRect const& area,
+                                           bool isBoxAlone);
+    /// What is left free on both sides of a text.
+    [[nodiscard]] static int getMargin(QStyleOptionViewItem const& option);
+    /// The text as it is drawn: in one line.
+    [[nodiscard]] static QString getOneLine(QString text);
+
+private:
+    void paintText(QtListCell const& cell, Place const& place, QRect const& area);
+    void paintCheckBox(CheckState state, QRect const& area, bool isEnabled);
+    void paintLocalMark(QRect const& area, bool isSelected);
+    void setFont(bool isBold);
+    [[nodiscard]] QColor getTextColour(QtListCell const& cell, Place const& place) const;
+
+    QPainter& m_painter;
+    QStyleOptionViewItem const& m_option;
+    QFont m_plainFont;
+    QFont m_boldFont;
+    QFontMetrics m_plainMetrics;
+    QFontMetrics m_boldMetrics;
+    bool m_isBold = false;
+    int m_margin;
+    QPalette::ColorGroup m_colours;
+    QColor m_grid;
+};
+
+} // namespace qev::ui

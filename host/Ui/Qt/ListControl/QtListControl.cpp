@@ -1,0 +1,499 @@
+#include "Ui/Qt/ListControl/QtListControl.h"
+
+#include "Ui/Qt/ListControl/QtListHeaderPanel.h"
+#include "Ui/Qt/QtText.h"
+#include "Ui/Window/Details/WindowInterfaceFactory.h"
+
+#include <algorithm>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QSizeGrip>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <utility>
+
+namespace qev::ui {
+
+namespace {
+
+/// How long work may go on before the user gets a turn.
+constexpr qint64 portionMilliseconds = 25;
+constexpr std::size_t portionRows = 200;
+constexpr std::size_t portionCells = 2000;
+constexpr std::size_t mostRefusalsInNotice = 5;
+constexpr std::size_t mostRefusalsInDetails = 50;
+
+QString translate(char const* text) { return QCoreApplication::translate("QtListControl", text); }
+
+char const* getReasonText(ListRefusalReason reason)
+{
+    switch (reason) {
+    case ListRefusalReason::NotEditable:
+        return "%1, row %L2: cannot be changed";
+    case ListRefusalReason::NotAnEntry:
+        return "%1, row %L2: “%3” is none of the values it can have";
+    case ListRefusalReason::NotTaken:
+        return "%1, row %L2: does not take “%3”";
+    }
+    return "";
+}
+
+} // namespace
+
+QtListControl::QtListControl(unsigned int style, QWidget* parent)
+    : QWidget(parent)
+    , m_style(style)
+    , m_cells(new QtListItemModel(
+          [this] {
+              return std::dynamic_pointer_cast<ListControl>(
+                  details::WindowInterfaceFactory::pWindowFromHandle_(WindowHandle(this)));
+          },
+          this))
+    , m_view(new QtListView(*m_cells))
+    , m_filterBox(new QLineEdit)
+    , m_findBar(new QWidget)
+    , m_findBox(new QLineEdit)
+    , m_findState(new QLabel)
+    , m_counts(new QLabel)
+    , m_notice(new QLabel)
+{
+    if (isPopup())
+        setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    createLayout();
+    connectView();
+    updateBehaviour();
+    setFocusProxy(m_view);
+    m_work.setInterval(0);
+    connect(&m_work, &QTimer::timeout, this, &QtListControl::doWork);
+    updateCounts();
+}
+
+QtListControl::~QtListControl() = default;
+
+QString QtListControl::getNotice() const { return m_notice->isHidden() ? QString() : m_notice->text(); }
+
+bool QtListControl::isUsingReportStyle() const
+{
+    return (m_style & (ListControl::ReportStyle | ListControl::PopupReportStyle)) != 0;
+}
+
+void QtListControl::setItemAndColumnCounts(std::size_t rows, std::size_t columns)
+{
+    auto const control = m_cells->getControl();
+    std::vector<std::string> titles;
+    for (std::size_t column = 0; control && column < columns; ++column)
+        titles.push_back(fireEvent(control->onGetColumnHeaderText, column));
+
+    m_cells->setCounts(rows, titles);
+    m_view->arrangeColumns();
+    if (!titles.empty())
+        takeOrderAlong(titles);
+    startWork();
+}
+
+void QtListControl::addStyleFlags(unsigned int flags)
+{
+    m_flags |= flags;
+    updateBehaviour();
+}
+
+void QtListControl::setReadOnly(bool readOnly)
+{
+    auto behaviour = m_view->getBehaviour();
+    behaviour.isReadOnly = readOnly;
+    m_view->setBehaviour(behaviour);
+}
+
+ListControlSettings QtListControl::getSettings() const
+{
+    auto settings = m_cells->getColumns().getSettings();
+    settings.sorting = m_sortingForLater.value_or(m_cells->getOrder().getSorting());
+    return settings;
+}
+
+void QtListControl::loadSettings(ListControlSettings const& settings)
+{
+    m_cells->getColumns().loadSettings(settings);
+    if (m_cells->getColumns().getCount() == 0) {
+        m_sortingForLater = settings.sorting;
+        return;
+    }
+    m_view->arrangeColumns();
+    auto sorting = settings.sorting;
+    std::erase_if(sorting, [this](ListSortColumn const& column) {
+        return column.column >= m_cells->getColumns().getCount();
+    });
+    setSorting(std::move(sorting));
+}
+
+void QtListControl::setSorting(std::vector<ListSortColumn> sorting)
+{
+    m_cells->changeOrder([&](ListRowOrder& order) { order.setSorting(std::move(sorting)); });
+    m_view->getHeader().viewport()->update();
+    startWork();
+}
+
+QString QtListControl::getColumnFilter(std::size_t column) const
+{
+    auto const& texts = m_cells->getOrder().getFilter().columnTexts;
+    auto const found = texts.find(column);
+    return found == texts.end() ? QString() : toQString(found->second);
+}
+
+void QtListControl::setColumnFilter(std::size_t column, QString const& text)
+{
+    auto filter = m_cells->getOrder().getFilter();
+    if (text.trimmed().isEmpty())
+        filter.columnTexts.erase(column);
+    else
+        filter.columnTexts[column] = fromQString(text);
+    changeFilter(std::move(filter));
+}
+
+void QtListControl::setColumnHidden(std::size_t column, bool hidden)
+{
+    m_cells->getColumns().setHidden(column, hidden);
+    m_view->arrangeColumns();
+    changeFilter(m_cells->getOrder().getFilter());
+}
+
+bool QtListControl::mayHideColumn(std::size_t column) const
+{
+    auto const control = m_cells->getControl();
+    return control && fireEvent(control->onQueryColumn, column);
+}
+
+void QtListControl::resetArrangement()
+{
+    m_cells->getColumns().resetArrangement();
+    m_view->arrangeColumns();
+    changeFilter(m_cells->getOrder().getFilter());
+}
+
+QString QtListControl::getTitle(int column) const
+{
+    return m_cells->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
+void QtListControl::openFindBox()
+{
+    m_findBar->show();
+    m_findBox->setFocus();
+    m_findBox->selectAll();
+}
+
+void QtListControl::findNext(bool forwards)
+{
+    auto const columns = m_view->getHeader().getShownColumns();
+    auto const rows = m_cells->getOrder().getShownCount();
+    if (m_findBox->text().isEmpty() || columns.empty() || rows == 0)
+        return;
+    auto const current = m_view->currentIndex();
+    auto const found = std::find(columns.begin(), columns.end(), current.column());
+    // Without a current cell the first is the next one.
+    ListFinder::Place start{rows - 1, columns.size() - 1};
+    if (current.isValid() && found != columns.end())
+        start = {static_cast<std::size_t>(current.row()), static_cast<std::size_t>(found - columns.begin())};
+    m_finder.emplace(fromQString(m_findBox->text()), rows, columns.size(), start, forwards);
+    m_findState->clear();
+    startWork();
+}
+
+QtListHeaderPanel& QtListControl::openHeaderPanel(int column, QPoint const& position)
+{
+    auto* const panel = new QtListHeaderPanel(*this, column);
+    panel->move(position);
+    panel->show();
+    return *panel;
+}
+
+void QtListControl::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (m_findBar->isVisible()) {
+        m_findBar->hide();
+        m_finder.reset();
+        m_view->setFocus();
+    } else if (auto* const owner = parentWidget(); owner && isPopup()) {
+        // A popup goes when it loses the focus.
+        owner->activateWindow();
+        owner->setFocus();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void QtListControl::createLayout()
+{
+    m_filterBox->setObjectName(QStringLiteral("listFilter"));
+    m_filterBox->setPlaceholderText(translate("Filter all columns"));
+    m_filterBox->setClearButtonEnabled(true);
+    m_findBox->setObjectName(QStringLiteral("listFind"));
+    m_findBox->setPlaceholderText(translate("Find (F3 for the next)"));
+    m_notice->setWordWrap(true);
+    m_notice->setAutoFillBackground(true);
+    m_notice->setForegroundRole(QPalette::ToolTipText);
+    m_notice->setBackgroundRole(QPalette::ToolTipBase);
+    m_notice->setMargin(fontMetrics().averageCharWidth() / 2);
+    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_notice->hide();
+
+    auto const margin = fontMetrics().averageCharWidth() / 2;
+    auto* const findLayout = new QHBoxLayout(m_findBar);
+    findLayout->setContentsMargins(0, 0, 0, 0);
+    findLayout->addWidget(m_findBox, 1);
+    findLayout->addWidget(m_findState);
+    for (bool const forwards : {false, true}) {
+        auto* const button = new QToolButton;
+        button->setArrowType(forwards ? Qt::DownArrow : Qt::UpArrow);
+        button->setToolTip(forwards ? translate("Next (F3)") : translate("Previous (Shift+F3)"));
+        connect(button, &QToolButton::clicked, this, [this, forwards] { findNext(forwards); });
+        findLayout->addWidget(button);
+    }
+    m_findBar->hide();
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(margin);
+    layout->addWidget(m_filterBox);
+    layout->addWidget(m_findBar);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_notice);
+    layout->addWidget(m_counts);
+    if (!isPopup())
+        return;
+    m_filterBox->hide();
+    m_counts->hide();
+    m_view->getHeader().setVisible(isUsingReportStyle() && (m_style & ListControl::PopupReportStyle) != 0);
+    m_view->getHeader().setStretchLastSection(true);
+    layout->addWidget(new QSizeGrip(this), 0, Qt::AlignRight);
+    layout->setSpacing(0);
+}
+
+void QtListControl::connectView()
+{
+    m_view->onInputDone.iHandlerAdd([this](ListEditResult const& result) { tell(result); });
+    m_view->onMessage.iHandlerAdd([this](QString const& text) { showNotice(text, {}); });
+    m_view->onSelectionChanged.iHandlerAdd([this] { updateCounts(); });
+    m_view->onFind.iHandlerAdd([this] { openFindBox(); });
+    m_view->onFindNext.iHandlerAdd([this](bool forwards) { findNext(forwards); });
+    connect(m_cells, &QAbstractItemModel::modelAboutToBeReset, this, &QtListControl::keepPlace);
+    connect(m_cells, &QAbstractItemModel::modelReset, this, &QtListControl::restorePlace);
+    connect(m_filterBox, &QLineEdit::textChanged, this, [this](QString const& text) {
+        auto filter = m_cells->getOrder().getFilter();
+        filter.text = fromQString(text);
+        changeFilter(std::move(filter));
+    });
+    connect(m_filterBox, &QLineEdit::returnPressed, m_view, [this] { m_view->setFocus(); });
+    connect(m_findBox, &QLineEdit::returnPressed, this,
+            [this] { findNext(!QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)); });
+    auto& header = m_view->getHeader();
+    connect(&header, &QHeaderView::sectionClicked, this, &QtListControl::clickHeader);
+    connect(&header, &QWidget::customContextMenuRequested, this, [this](QPoint const& position) {
+        auto& shown = m_view->getHeader();
+        openHeaderPanel(shown.logicalIndexAt(position), shown.viewport()->mapToGlobal(position));
+    });
+}
+
+void QtListControl::keepPlace()
+{
+    auto const& selection = m_view->selectionModel()->selection();
+    Place place;
+    place.rowCount = m_cells->getOrder().getRowCount();
+    place.current = m_cells->getItem(m_view->currentIndex());
+    // Rows that are selected in parts are not selected again: other cells would be among them.
+    place.isBlock = !selection.isEmpty();
+    for (auto const& range : selection)
+        place.isBlock = place.isBlock && range.left() == selection.front().left() &&
+                        range.right() == selection.front().right();
+    if (place.isBlock) {
+        place.rows = m_view->getSelectedRows();
+        place.left = selection.front().left();
+        place.right = selection.front().right();
+    }
+    m_place = std::move(place);
+}
+
+void QtListControl::restorePlace()
+{
+    auto const place = std::exchange(m_place, std::nullopt);
+    if (place && place->rowCount == m_cells->getOrder().getRowCount()) {
+        m_view->setAutoScroll(false);
+        m_view->selectRows(place->rows, place->left, place->right, place->current);
+        m_view->setAutoScroll(true);
+    }
+    m_view->updateView();
+    updateCounts();
+}
+
+void QtListControl::changeFilter(ListFilter filter)
+{
+    filter.searchedColumns = getShownColumns();
+    m_cells->changeOrder([&](ListRowOrder& order) { order.setFilter(std::move(filter)); });
+    m_view->getHeader().viewport()->update();
+    startWork();
+}
+
+std::vector<std::size_t> QtListControl::getShownColumns() const
+{
+    std::vector<std::size_t> columns;
+    for (auto const column : m_view->getHeader().getShownColumns())
+        columns.push_back(static_cast<std::size_t>(column));
+    return columns;
+}
+
+void QtListControl::takeOrderAlong(std::vector<std::string> const& titles)
+{
+    auto const& columns = m_cells->getColumns();
+    auto const later = std::exchange(m_sortingForLater, std::nullopt);
+    std::vector<ListSortColumn> sorting;
+    for (auto const& sorted : later ? *later : m_cells->getOrder().getSorting())
+        if (auto const column = columns.findColumn(later ? titles : m_titles, sorted.column))
+            sorting.push_back({*column, sorted.isDescending});
+    auto filter = m_cells->getOrder().getFilter();
+    for (auto const& [oldColumn, text] : std::exchange(filter.columnTexts, {}))
+        if (auto const column = columns.findColumn(m_titles, oldColumn))
+            filter.columnTexts.emplace(*column, text);
+    filter.searchedColumns = getShownColumns();
+    m_titles = titles;
+    m_cells->changeOrder([&](ListRowOrder& order) {
+        order.setSorting(std::move(sorting));
+        order.setFilter(std::move(filter));
+    });
+}
+
+void QtListControl::clickHeader(int column)
+{
+    auto const clicked = static_cast<std::size_t>(column);
+    auto sorting = m_cells->getOrder().getSorting();
+    auto const found = std::find_if(sorting.begin(), sorting.end(),
+                                    [=](ListSortColumn const& sorted) { return sorted.column == clicked; });
+    bool const isDescending = found != sorting.end() && found->isDescending;
+    bool const isAscending = found != sorting.end() && !found->isDescending;
+    auto const modifiers = QApplication::keyboardModifiers();
+    bool const addsColumn = modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier);
+    if (!addsColumn)
+        sorting.clear();
+    std::erase_if(sorting,
+                  [=](ListSortColumn const& sorted) { return isDescending && sorted.column == clicked; });
+    if (addsColumn && isAscending)
+        std::find_if(sorting.begin(), sorting.end(), [=](auto const& sorted) {
+            return sorted.column == clicked;
+        })->isDescending = true;
+    else if (!isDescending)
+        sorting.push_back({clicked, isAscending});
+    setSorting(std::move(sorting));
+}
+
+void QtListControl::startWork()
+{
+    m_work.start();
+    updateCounts();
+}
+
+void QtListControl::doWork()
+{
+    QElapsedTimer timer;
+    timer.start();
+    bool isBusy = true;
+    while (isBusy && timer.elapsed() < portionMilliseconds) {
+        if (m_cells->getOrder().isPending())
+            m_cells->advanceOrder(portionRows);
+        else
+            isBusy = advanceFinder();
+    }
+    if (!isBusy)
+        m_work.stop();
+    updateCounts();
+}
+
+bool QtListControl::advanceFinder()
+{
+    if (!m_finder)
+        return false;
+    auto const columns = m_view->getHeader().getShownColumns();
+    auto const state = m_finder->advance(portionCells, [&](ListFinder::Place const& place) {
+        auto const item =
+            m_cells->getItem(static_cast<int>(place.row), static_cast<std::size_t>(columns[place.column]));
+        return m_cells->getPlainText(*item.item, *item.column);
+    });
+    if (state == ListFinder::State::Searching)
+        return true;
+    if (state == ListFinder::State::Found) {
+        auto const place = m_finder->getPlace();
+        auto const index = m_cells->index(static_cast<int>(place.row), columns[place.column]);
+        m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        m_view->scrollTo(index);
+    } else {
+        m_findState->setText(translate("Not found"));
+    }
+    m_finder.reset();
+    return false;
+}
+
+void QtListControl::updateCounts()
+{
+    auto const& order = m_cells->getOrder();
+    auto text = order.getShownCount() == order.getRowCount()
+                    ? translate("%L1 rows").arg(order.getRowCount())
+                    : translate("%L1 of %L2 rows shown").arg(order.getShownCount()).arg(order.getRowCount());
+    if (auto const selected = m_view->countSelectedRows(); selected > 0)
+        text += translate(", %L1 selected").arg(selected);
+    if (order.isPending() && order.getRowCount() > 0)
+        text += translate(" – looking through all rows: %1 %")
+                    .arg(100 * order.getProgress() / order.getRowCount());
+    else if (m_finder)
+        text += translate(" – searching …");
+    m_counts->setText(text);
+}
+
+void QtListControl::updateBehaviour()
+{
+    auto behaviour = m_view->getBehaviour();
+    behaviour.isMenuOfRows = isPopup() && (m_flags & ListControl::EditLabels) == 0;
+    behaviour.editsNextByTab = (m_flags & ListControl::EditNextByTab) != 0;
+    m_view->setBehaviour(behaviour);
+}
+
+void QtListControl::tell(ListEditResult const& result)
+{
+    m_notice->hide();
+    updateCounts();
+    auto const count = result.refusals.size();
+    if (count == 0)
+        return;
+    QStringList lines;
+    for (std::size_t i = 0; i < std::min(count, mostRefusalsInDetails); ++i)
+        lines.push_back(describe(result.refusals[i]));
+    auto text = translate("%L1 changed, %L2 refused: ").arg(result.takenCells).arg(count);
+    text += lines.mid(0, static_cast<qsizetype>(mostRefusalsInNotice)).join(QLatin1String("; "));
+    if (count > mostRefusalsInNotice)
+        text += translate("; and %L1 more").arg(count - mostRefusalsInNotice);
+    showNotice(text, lines.join(QLatin1Char('\n')));
+}
+
+void QtListControl::showNotice(QString const& text, QString const& details)
+{
+    m_notice->setText(text);
+    m_notice->setToolTip(details.toHtmlEscaped().replace('\n', QLatin1String("<br>")));
+    m_notice->show();
+}
+
+QString QtListControl::describe(ListRefusal const& refusal) const
+{
+    auto const positions = m_cells->getOrder().getPositions({refusal.item.item.value_or(0)});
+    // People count rows from one, as they see them.
+    auto const place = positions.empty() ? refusal.item.item.value_or(0) : positions.front();
+    auto text = translate(getReasonText(refusal.reason))
+                    .arg(getTitle(static_cast<int>(refusal.item.column.value_or(0))))
+                    .arg(place + 1);
+    return refusal.reason == ListRefusalReason::NotEditable ? text : text.arg(toQString(refusal.text));
+}
+
+} // namespace qev::ui
