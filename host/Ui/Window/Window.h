@@ -151,8 +151,9 @@ public:
     /// The focus came to the window (true) or left it (false).
     EventHandlerContainer<Window, void, bool> onFocus;
 
-    /// Hooks for derived windows; they do nothing here. A platform side calls those it has an occasion for:
-    /// all tell of the focus, of new sizes and of chosen menu entries.
+    /// Hooks for derived windows; they do nothing here. A back end calls those it has an occasion for: the
+    /// ones of this program call `onFocusChanged`, `onSizeChanged` of dialogs, and
+    /// `onContextMenuItemSelected` of lists.
     virtual void onPaint() {}
     virtual void onEraseBackground() {}
     virtual void onCustomDraw() {}
