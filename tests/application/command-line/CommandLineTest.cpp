@@ -248,7 +248,8 @@ protected:
     /// The row of the length in the grid, shown with further options.
     [[nodiscard]] Json width(std::string const& options) const
     {
-        for (Json const& group : json(options + " grid " + wall + " --class IfcWall")["groups"]) {
+        Json const document = json(options + " grid " + wall + " --class IfcWall");
+        for (Json const& group : document["groups"]) {
             if (group["name"] == "Company")
                 return group["rows"].at(0);
         }

@@ -103,7 +103,8 @@ TEST_P(DictionaryFiles, HaveATextWithTheSameArgumentsForEachKey)
 {
     auto const english = read(GetParam(), "en").dictionary;
     for (char const* const language : {"en", "de", "fr"}) {
-        for (auto const& [key, text] : read(GetParam(), language).dictionary.texts()) {
+        auto const dictionary = read(GetParam(), language).dictionary;
+        for (auto const& [key, text] : dictionary.texts()) {
             EXPECT_FALSE(text.empty()) << language << ": " << key;
             EXPECT_EQ(placesOf(text), placesOf(english.text(key).value_or(""))) << language << ": " << key;
         }
