@@ -1,5 +1,6 @@
 #include "Format/Ifc/Step/StepFile.h"
 
+#include "Core/Platform/PageRelease.h"
 #include "Core/Platform/Prefetch.h"
 #include "Format/Ifc/Step/LineTable.h"
 #include "Format/Ifc/Step/RecordLookup.h"
@@ -155,7 +156,7 @@ StepFile::StepFile(platform::FileBytes bytes)
 {
 }
 
-StepFile::~StepFile() = default;
+StepFile::~StepFile() { platform::releasePages(m_private->bytes.data(), m_private->bytes.size()); }
 
 StepOpenResult StepFile::open(std::filesystem::path const& path, Progress const& progress)
 {
