@@ -1,17 +1,47 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Measure/FcDerivedUnit.h"
+#include "FoundationClasses/Resource/Measure/FcDerivedUnitElement.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
-
-#include "FoundationClasses/Resource/Measure/FcDerivedUnit.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::measure::FcDerivedUnit;
 
-bool GetProperties::visit(FcDerivedUnit const&) { return true; }
+namespace {
 
-bool GetPropertyName::visit(FcDerivedUnit const&) { return true; }
+constexpr char elementsId[] = "Elements";
 
-bool GetPropertyDescription::visit(FcDerivedUnit const&) { return true; }
+} // namespace
+
+bool GetProperties::visit(FcDerivedUnit const& unit)
+{
+    unit.FcBase::accept(*this);
+    if (auto const group = groupOf(*this)) {
+        auto list = makeList(elementsId, unit);
+        for (auto const& element : unit.Elements->get())
+            appendPropertiesOf(element, *list);
+        group->children.push_back(std::move(list));
+    }
+    return false;
+}
+
+bool GetPropertyName::visit(FcDerivedUnit const&)
+{
+    if (id.text() != elementsId)
+        return true;
+    name = localizeWithFallback("IfcDerivedUnit::Elements", elementsId);
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcDerivedUnit const&)
+{
+    if (id.text() != elementsId)
+        return true;
+    description = fc::localize("IfcDerivedUnit::Elements_Description");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

@@ -1,17 +1,46 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Measure/FcDerivedUnitElement.h"
+#include "FoundationClasses/Resource/Measure/FcNamedUnit.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
-
-#include "FoundationClasses/Resource/Measure/FcDerivedUnitElement.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::measure::FcDerivedUnitElement;
 
-bool GetProperties::visit(FcDerivedUnitElement const&) { return true; }
+namespace {
 
-bool GetPropertyName::visit(FcDerivedUnitElement const&) { return true; }
+constexpr char unitId[] = "Unit";
 
-bool GetPropertyDescription::visit(FcDerivedUnitElement const&) { return true; }
+} // namespace
+
+bool GetProperties::visit(FcDerivedUnitElement const& element)
+{
+    element.FcBase::accept(*this);
+    if (auto const group = groupOf(*this)) {
+        auto row = makeGroup(unitId, element);
+        appendPropertiesOf(element.Unit->get(), *row);
+        group->children.push_back(std::move(row));
+    }
+    return false;
+}
+
+bool GetPropertyName::visit(FcDerivedUnitElement const&)
+{
+    if (id.text() != unitId)
+        return true;
+    name = localizeWithFallback("IfcDerivedUnitElement::Unit", unitId);
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcDerivedUnitElement const&)
+{
+    if (id.text() != unitId)
+        return true;
+    description = fc::localize("IfcDerivedUnitElement::Unit_Description");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

@@ -1,14 +1,39 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/ExternalReference/FcDocumentInformation.h"
+#include "FoundationClasses/Resource/ExternalReference/FcDocumentReference.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
-
-#include "FoundationClasses/Resource/ExternalReference/FcDocumentReference.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::externalreference::FcDocumentReference;
 
-bool GetProperties::visit(FcDocumentReference const&) { return true; }
+namespace {
 
-bool GetPropertyName::visit(FcDocumentReference const&) { return true; }
+constexpr char referencedDocument[] = "ReferencedDocument";
+
+} // namespace
+
+bool GetProperties::visit(FcDocumentReference const& entity)
+{
+    entity.FcExternalReference::accept(*this);
+    auto const document = entity.ReferencedDocument->get();
+    if (auto const group = document ? groupOf(*this) : nullptr) {
+        auto row = makeGroup(referencedDocument, entity);
+        appendPropertiesOf(document, *row);
+        group->children.push_back(std::move(row));
+    }
+    return false;
+}
+
+bool GetPropertyName::visit(FcDocumentReference const& entity)
+{
+    if (id.text() != referencedDocument)
+        return true;
+    name = referenceLabel(localizeWithFallback("IfcDocumentReference.ReferencedDocument", referencedDocument),
+                          entity.ReferencedDocument->get().get());
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

@@ -23,7 +23,8 @@ inline constexpr char referencedInStructuresId[] = "ReferencedInStructures";
 
 /// Puts a heading of that id with the rows of \p address before the first heading in \p group. Without an
 /// address or such a heading nothing happens.
-QEVFOUNDATIONCLASSESUI_EXPORT void insertAddress(std::string_view id, std::shared_ptr<FcBase const> const& address, FcBase const& owner,
-                   Property& group);
+QEVFOUNDATIONCLASSESUI_EXPORT void insertAddress(std::string_view id,
+                                                 std::shared_ptr<FcBase const> const& address,
+                                                 FcBase const& owner, Property& group);
 
 } // namespace qev::fc::ui::propertyinterface
