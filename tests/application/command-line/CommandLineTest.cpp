@@ -1,76 +1,16 @@
-#include "kit/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
+#include "CommandLineFixture.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <map>
 #include <sstream>
 
 namespace {
 
+using qev::test::expectKeys;
+using qev::test::Json;
 using qev::test::readFile;
-using Json = nlohmann::json;
-
-/// What a run of the program gave.
-struct Outcome
-{
-    int exitCode = -1;
-    std::string output;
-    std::string errors;
-};
-
-class CommandLine : public testing::Test
-{
-protected:
-    /// Runs the program as a shell does.
-    Outcome run(std::string const& arguments) const
-    {
-        auto const output = folder.path() / "output.txt";
-        auto const errors = folder.path() / "errors.txt";
-        std::string const command = quoted(QEV_IFC_PROGRAM) + " " + arguments + " >" +
-                                    quoted(output.string()) + " 2>" + quoted(errors.string());
-        int const status = std::system(command.c_str());
-#ifdef _WIN32
-        int const exitCode = status;
-#else
-        int const exitCode = status >> 8;
-#endif
-        return {exitCode, readFile(output), readFile(errors)};
-    }
-
-    Json json(std::string const& arguments) const
-    {
-        Outcome const result = run(arguments + " --format json");
-        EXPECT_EQ(result.exitCode, 0) << arguments << '\n' << result.errors;
-        Json document = Json::parse(result.output, nullptr, false);
-        EXPECT_FALSE(document.is_discarded()) << result.output;
-        return document;
-    }
-
-    static std::string quoted(std::string const& text) { return '"' + text + '"'; }
-    static std::filesystem::path samplePath(std::string const& name)
-    {
-        return std::filesystem::path(OWN_SAMPLES_DIRECTORY) / name;
-    }
-    static std::string sample(std::string const& name) { return quoted(samplePath(name).string()); }
-
-    std::string target() const { return quoted((folder.path() / "saved.ifc").string()); }
-    std::string saved() const { return readFile(folder.path() / "saved.ifc"); }
-
-    qev::test::TemporaryFolder folder;
-};
-
-void expectKeys(Json const& object, std::vector<std::string> keys)
-{
-    std::vector<std::string> found;
-    for (auto const& item : object.items())
-        found.push_back(item.key());
-    std::sort(keys.begin(), keys.end());
-    EXPECT_EQ(found, keys);
-}
+using Outcome = qev::test::CommandLineOutcome;
+using CommandLine = qev::test::CommandLineFixture;
 
 TEST_F(CommandLine, InfoTellsSchemaAndCounts)
 {
