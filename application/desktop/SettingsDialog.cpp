@@ -66,7 +66,7 @@ SettingsDialog::SettingsDialog(ProgramSettings const& settings, locale::Locale c
     layout->addWidget(pages);
     layout->addWidget(buttons);
     fill(settings);
-    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 36);
+    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 36);
 }
 
 SettingsDialog::~SettingsDialog() = default;

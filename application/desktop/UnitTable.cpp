@@ -79,8 +79,11 @@ UnitTable::UnitTable(QWidget* parent)
         addRow(facts);
     for (int row = 0; row < rowCount(); ++row)
         renewRow(row);
+    setWordWrap(false);
+    // The example takes what the other columns leave, and is the one to be cut short.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     resizeColumnsToContents();
-    horizontalHeader()->setSectionResizeMode(quantityColumn, QHeaderView::Stretch);
+    horizontalHeader()->setStretchLastSection(true);
     resizeRowsToContents();
 }
 

@@ -2,6 +2,7 @@
 
 #include "Texts.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QLabel>
@@ -120,6 +121,18 @@ TEST_F(SettingsDialogTest, WheelOverABoxScrollsAndChangesNothing)
     EXPECT_EQ(dialog.getSettings(), ProgramSettings());
 }
 
+int getWidestCell(UnitTable const& units, int column)
+{
+    int widest = 0;
+    for (int row = 0; row < units.rowCount(); ++row) {
+        auto const* const box = units.cellWidget(row, column);
+        widest =
+            std::max(widest, box ? box->sizeHint().width()
+                                 : units.fontMetrics().horizontalAdvance(units.item(row, column)->text()));
+    }
+    return widest;
+}
+
 /// Every text of the dialog has its room in each language.
 class SettingsDialogLanguages : public testing::TestWithParam<char const*>
 {
@@ -141,6 +154,10 @@ TEST_P(SettingsDialogLanguages, ShowTheirTextsInFull)
     dialog.show();
     QCoreApplication::processEvents();
     EXPECT_EQ(dialog.windowTitle(), getText("Settings_Title"));
+    auto& units = dialog.getUnits();
+    for (int const column : {UnitTable::quantityColumn, UnitTable::unitColumn, UnitTable::decimalsColumn})
+        EXPECT_GE(units.columnWidth(column), getWidestCell(units, column));
+    EXPECT_LE(units.columnViewportPosition(UnitTable::exampleColumn), units.viewport()->width() * 3 / 4);
     for (auto const* const label : dialog.findChildren<QLabel*>()) {
         if (!label->wordWrap() && label->isVisible()) {
             EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
