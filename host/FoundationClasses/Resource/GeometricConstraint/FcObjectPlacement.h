@@ -15,8 +15,10 @@ public:
     /// The transformation from the object's coordinate system to that of the whole model. Placements that
     /// are relative to each other in a circle count once.
     [[nodiscard]] math::Matrix absoluteMatrix() const;
-    /// The transformation from the object's coordinate system to that of `PlacementRelTo`. For a kind of
-    /// placement that is not told by coordinates the identity.
+    /// The transformation from the object's coordinate system to the one that it is told in: that of
+    /// `PlacementRelTo`, and for a placement in a grid without it that of the grid. The identity where the
+    /// place is told along a curve and not by coordinates, and for a place in a grid that cannot be worked
+    /// out.
     [[nodiscard]] virtual math::Matrix relativeMatrix() const;
 };
 
