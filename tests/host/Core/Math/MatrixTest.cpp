@@ -62,6 +62,49 @@ TEST(Matrix, TheTranslationMovesPointsAndNotDirections)
     EXPECT_EQ(matrix.translation(), (Vector{1, 2, 3}));
 }
 
+/// The angle of the triangle with sides 3, 4 and 5 whose cosine is 0.6 and whose sine is 0.8.
+double const angleOfTriangle = std::atan2(4, 3);
+
+TEST(Matrix, HasTheFiguresOfATurnAndAMove)
+{
+    Matrix const turn = Matrix::createZRotate(angleOfTriangle);
+    expectEqual(turn.xAxis(), {0.6, 0.8, 0});
+    expectEqual(turn.yAxis(), {-0.8, 0.6, 0});
+    Matrix const placed = Matrix::createTranslation({1, 2, 3}) * turn;
+    expectEqual(placed.transform({5, 0, 0}), {4, 6, 3});
+    expectEqual((turn * Matrix::createTranslation({5, 0, 0})).translation(), {3, 4, 0});
+}
+
+TEST(Matrix, HasTheFiguresOfAnInverse)
+{
+    Matrix const placed = Matrix::createTranslation({1, 2, 3}) * Matrix::createZRotate(angleOfTriangle);
+    Matrix const back({0.6, -0.8, 0}, {0.8, 0.6, 0}, {0, 0, 1}, {-2.2, -0.4, -3});
+    expectEqual(placed.inverse(), back);
+    Matrix const stretched({2, 0, 0}, {0, 4, 0}, {0, 0, 5}, {6, 8, 10});
+    Matrix const shrunk({0.5, 0, 0}, {0, 0.25, 0}, {0, 0, 0.2}, {-3, -2, -2});
+    expectEqual(stretched.inverse(), shrunk);
+}
+
+TEST(Matrix, HasTheFiguresOfItsRotations)
+{
+    Matrix const aboutX({1, 0, 0}, {0, 0.6, 0.8}, {0, -0.8, 0.6}, {7, 8, 9});
+    expectEqual(aboutX.getRotations(), {angleOfTriangle, 0, 0});
+    Matrix const aboutY({0.6, 0, -0.8}, {0, 1, 0}, {0.8, 0, 0.6}, {});
+    expectEqual(aboutY.getRotations(), {0, angleOfTriangle, 0});
+    Matrix const aboutZ({0.6, 0.8, 0}, {-0.8, 0.6, 0}, {0, 0, 1}, {});
+    expectEqual(aboutZ.getRotations(), {0, 0, angleOfTriangle});
+    Matrix const axesInTurn({0, 1, 0}, {0, 0, 1}, {1, 0, 0}, {});
+    expectEqual(axesInTurn.getRotations(), {quarterTurn, 0, quarterTurn});
+}
+
+TEST(Matrix, TurnsInTheOrderOfTheProduct)
+{
+    Matrix const aboutX = Matrix::createXRotate(quarterTurn);
+    Matrix const aboutZ = Matrix::createZRotate(quarterTurn);
+    expectEqual((aboutZ * aboutX).transform({0, 1, 0}), {0, 0, 1});
+    expectEqual((aboutX * aboutZ).transform({0, 1, 0}), {-1, 0, 0});
+}
+
 TEST_F(RandomMatrices, AProductAppliesTheRightOneFirst)
 {
     for (int i = 0; i < 50; ++i) {
@@ -83,6 +126,15 @@ TEST_F(RandomMatrices, TimesItsInverseIsTheIdentity)
         for (int axis = 0; axis < 3; ++axis)
             EXPECT_NEAR(product.at(axis, axis), 1, tolerance);
         expectEqual(inverse.transform(matrix.transform({1, 2, 3})), {1, 2, 3}, 1e-7);
+    }
+}
+
+TEST_F(RandomMatrices, TheInverseOfAProductUndoesTheLeftOneFirst)
+{
+    for (int i = 0; i < 50; ++i) {
+        Matrix const left = placement();
+        Matrix const right = placement();
+        expectEqual((left * right).inverse(), right.inverse() * left.inverse(), 1e-9);
     }
 }
 

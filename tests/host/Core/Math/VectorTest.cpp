@@ -52,6 +52,16 @@ TEST(Vector2d, TheCounterClockwiseAngleGoesOneWayRound)
     EXPECT_DOUBLE_EQ(up.counterClockwiseAngle({0, 0}), 0);
 }
 
+TEST(Vector2d, TurnsAgainstTheClock)
+{
+    double const angleOfTriangle = std::atan2(4, 3);
+    _2d::Vector const north = _2d::Vector{0, 1}.rotate(angleOfTriangle);
+    EXPECT_NEAR(north.x, -0.8, 1e-15);
+    EXPECT_NEAR(north.y, 0.6, 1e-15);
+    EXPECT_DOUBLE_EQ((_2d::Vector{0, 1}.counterClockwiseAngle({-4, 3})), angleOfTriangle);
+    EXPECT_DOUBLE_EQ((_2d::Vector{4, 3}.innerAngle({5, 0})), std::atan2(3, 4));
+}
+
 TEST(Vector2d, TheInnerAngleGoesTheShorterWayRound)
 {
     _2d::Vector const up{0, 1};
