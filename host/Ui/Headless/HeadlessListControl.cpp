@@ -112,6 +112,17 @@ std::optional<CheckState> HeadlessListControl::getCheckState(std::size_t row, st
     return control ? ListEditing(control).getCheckState(cell(row, column)) : std::nullopt;
 }
 
+std::string HeadlessListControl::getCellText(std::size_t row, std::size_t column) const
+{
+    std::string text;
+    if (auto const state = getCheckState(row, column))
+        text = *state == CheckState::Checked ? "[x]" : *state == CheckState::Unchecked ? "[ ]" : "[-]";
+    if (getCheckBoxMode(column) == ListControl::BoxAlone)
+        return text;
+    auto const value = getText(row, column);
+    return text.empty() || value.empty() ? text + value : text + ' ' + value;
+}
+
 bool HeadlessListControl::containsLocalValue(std::size_t row, std::size_t column) const
 {
     auto const control = getListControl();
@@ -387,17 +398,6 @@ std::vector<ListControl::ItemInfo> HeadlessListControl::getSelectedCells(std::si
     for (auto const row : m_selection)
         cells.push_back(cell(row, column));
     return cells;
-}
-
-std::string HeadlessListControl::getCellText(std::size_t row, std::size_t column) const
-{
-    std::string text;
-    if (auto const state = getCheckState(row, column))
-        text = *state == CheckState::Checked ? "[x]" : *state == CheckState::Unchecked ? "[ ]" : "[-]";
-    if (getCheckBoxMode(column) == ListControl::BoxAlone)
-        return text;
-    auto const value = getText(row, column);
-    return text.empty() || value.empty() ? text + value : text + ' ' + value;
 }
 
 bool HeadlessListControl::click(std::vector<ListControl::ItemInfo> const& items)

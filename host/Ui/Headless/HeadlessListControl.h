@@ -35,6 +35,8 @@ public:
     [[nodiscard]] std::optional<attr::Colour> getBackgroundColour(std::size_t row, std::size_t column) const;
     /// The state of the cell's check box; nothing for a cell without one.
     [[nodiscard]] std::optional<CheckState> getCheckState(std::size_t row, std::size_t column) const;
+    /// A cell as `dump` has it: its check box, as "[x]" or "[ ]", and its text.
+    [[nodiscard]] std::string getCellText(std::size_t row, std::size_t column) const;
     [[nodiscard]] bool containsLocalValue(std::size_t row, std::size_t column) const;
     [[nodiscard]] bool isColumnHidden(std::size_t column) const;
     [[nodiscard]] bool isComboBoxColumn(std::size_t column) const
@@ -113,7 +115,6 @@ private:
     [[nodiscard]] std::shared_ptr<ListControl> getListControl() const;
     [[nodiscard]] bool isReachableCell(std::size_t row, std::size_t column) const;
     [[nodiscard]] bool isReachableColumn(std::size_t column) const;
-    [[nodiscard]] std::string getCellText(std::size_t row, std::size_t column) const;
     [[nodiscard]] std::vector<ListControl::ItemInfo> getSelectedCells(std::size_t column) const;
     bool click(std::vector<ListControl::ItemInfo> const& items);
     bool openEditor(std::vector<ListControl::ItemInfo> items);

@@ -273,6 +273,8 @@ void ListEditing::setCheckStates(Items const& items, CheckState state, ListEditR
 bool ListEditing::says(ItemInfo const& item, std::string const& text) const
 {
     auto const editText = getEditText(item);
+    if (isCheckBoxAlone(columnOf(item)) && !editText.empty() && checkStateOf(text) == checkStateOf(editText))
+        return true;
     // A cell without a value may show one all the same, such as a zero, and then does not say it.
     bool const hasValue = !editText.empty();
     return editText == text || (hasValue && fireEvent(m_list->onGetItemText, item) == text);

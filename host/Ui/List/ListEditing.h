@@ -86,6 +86,11 @@ public:
     [[nodiscard]] ListBlock copy(std::vector<std::size_t> const& rows,
                                  std::vector<std::size_t> const& columns, bool withHeaders) const;
 
+    /// What an editor of a cell opens with.
+    [[nodiscard]] std::string getEditText(ListControl::ItemInfo const& item) const;
+    /// Tells if a cell has the value \p text already, as it is shown or with all its digits.
+    [[nodiscard]] bool says(ListControl::ItemInfo const& item, std::string const& text) const;
+
     /// Puts \p text into each of \p items, of any columns, that can be edited. A check box alone takes
     /// "TRUE", "FALSE", "1" and "0".
     ListEditResult setText(Items const& items, std::string const& text) const;
@@ -109,11 +114,9 @@ private:
     /// Puts \p text into cells of one column.
     void setTextInColumn(Items const& items, std::string const& text, ListEditResult& result) const;
     void setCheckStates(Items const& items, CheckState state, ListEditResult& result) const;
-    [[nodiscard]] bool says(ListControl::ItemInfo const& item, std::string const& text) const;
     /// Tells if a check box alone shows an unchecked state only because the cell has no value.
     [[nodiscard]] bool isUnsetBox(ListControl::ItemInfo const& item) const;
     [[nodiscard]] bool isCheckBoxAlone(std::size_t column) const;
-    [[nodiscard]] std::string getEditText(ListControl::ItemInfo const& item) const;
     [[nodiscard]] std::string getCommonEditText(Items const& items) const;
     void end(ListEdit const& edit, std::string_view text, std::optional<std::size_t> selectedIndex,
              ListEditResult& result) const;

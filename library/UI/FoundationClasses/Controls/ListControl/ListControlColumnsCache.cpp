@@ -41,9 +41,11 @@ ListControlColumnsCache::PsetPropertyColumnElement::PsetPropertyColumnElement(Co
 {
 }
 
-ListControlColumnsCache::CustomColumnElement::CustomColumnElement(std::string id, std::string title)
+ListControlColumnsCache::CustomColumnElement::CustomColumnElement(
+    std::string id, std::string title, std::optional<ColumnPropertyNames> insertBefore)
     : ColumnElement({std::string(), std::move(id)})
     , m_title(std::move(title))
+    , m_insertBefore(std::move(insertBefore))
 {
 }
 
@@ -78,10 +80,25 @@ void ListControlColumnsCache::addPropertyColumn(std::string const& title, std::s
 void ListControlColumnsCache::addCustomColumn(std::string const& id, std::string const& title,
                                               std::optional<ColumnPropertyNames> const& insertBefore)
 {
-    auto const position = std::find_if(m_columns.begin(), m_columns.end(), [&](auto const& column) {
-        return insertBefore && column->getNames() == *insertBefore;
-    });
-    m_columns.insert(position, std::make_unique<CustomColumnElement>(id, title));
+    auto const place = insertBefore ? findPlaceBefore(*insertBefore) : m_columns.size();
+    m_columns.insert(m_columns.begin() + static_cast<std::ptrdiff_t>(place),
+                     std::make_unique<CustomColumnElement>(id, title, insertBefore));
+}
+
+std::size_t ListControlColumnsCache::findPlaceBefore(ColumnPropertyNames const& names) const
+{
+    auto const found = std::find_if(m_columns.begin(), m_columns.end(),
+                                    [&names](auto const& column) { return column->getNames() == names; });
+    auto place = static_cast<std::size_t>(found - m_columns.begin());
+    if (found == m_columns.end())
+        return place;
+    auto const wasPutThere = [&names](ColumnElement const& column) {
+        auto const* const custom = dynamic_cast<CustomColumnElement const*>(&column);
+        return custom && custom->getInsertBefore() == names;
+    };
+    while (place > 0 && wasPutThere(*m_columns[place - 1]))
+        --place;
+    return place;
 }
 
 bool ListControlColumnsCache::isColumnIndexOutOfRange(std::size_t index) const

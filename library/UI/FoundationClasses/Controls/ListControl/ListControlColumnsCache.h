@@ -67,7 +67,8 @@ public:
     class QEVFOUNDATIONCLASSESUI_EXPORT CustomColumnElement final : public ColumnElement
     {
     public:
-        CustomColumnElement(std::string id, std::string title);
+        CustomColumnElement(std::string id, std::string title,
+                            std::optional<ColumnPropertyNames> insertBefore);
 
         [[nodiscard]] std::string const& getTitle() const override { return m_title; }
         [[nodiscard]] bool isCustom() const override { return true; }
@@ -75,8 +76,15 @@ public:
         void setProperty(PropertyInterface* property) override;
         void resetProperty() override;
 
+        /// The names of the column in front of which this one was to go.
+        [[nodiscard]] std::optional<ColumnPropertyNames> const& getInsertBefore() const
+        {
+            return m_insertBefore;
+        }
+
     private:
         std::string m_title;
+        std::optional<ColumnPropertyNames> m_insertBefore;
     };
 
     /// \p formatter may be null as long as no text of a column of the host's own is asked for.
@@ -86,8 +94,9 @@ public:
     /// Appends the column of a property, which is valid for as long as it is not reset.
     void addPropertyColumn(std::string const& title, std::string const& setName,
                            std::string const& propertyName, PropertyInterface* property);
-    /// Puts a column of the host's own in front of the first column of these names; at the end when
-    /// there is none, or no names are given.
+    /// Puts a column of the host's own in front of the first column of these names, and of those that were
+    /// put there before; at the end when there is none, or no names are given. Columns that are to stand in
+    /// front of one column in a certain order are thus added from the last to the first.
     void addCustomColumn(std::string const& id, std::string const& title,
                          std::optional<ColumnPropertyNames> const& insertBefore);
 
@@ -107,6 +116,8 @@ public:
     void clear();
 
 private:
+    [[nodiscard]] std::size_t findPlaceBefore(ColumnPropertyNames const& names) const;
+
     std::vector<std::unique_ptr<ColumnElement>> m_columns;
     std::shared_ptr<ListControlPropertyFormatterInterface> m_formatter;
 };
