@@ -74,6 +74,23 @@ struct EntityOptions
     std::filesystem::path output;
 };
 
+struct ListOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    ObjectSelection objects;
+    /// Set names and property names with a dot between them, as CSV; all common properties without any.
+    std::string columns;
+};
+
+struct ImportOptions
+{
+    std::filesystem::path file;
+    /// The CSV file.
+    std::filesystem::path table;
+    std::filesystem::path output;
+};
+
 ExitCode runInfo(InfoOptions const& options);
 ExitCode runSave(SaveOptions const& options);
 ExitCode runObjects(ObjectsOptions const& options);
@@ -81,5 +98,7 @@ ExitCode runSets(SetsOptions const& options);
 ExitCode runGrid(GridOptions const& options);
 ExitCode runSet(SetOptions const& options);
 ExitCode runEntity(EntityOptions const& options);
+ExitCode runList(ListOptions const& options);
+ExitCode runImport(ImportOptions const& options);
 
 } // namespace qev::application

@@ -7,6 +7,7 @@ enum class Format
 {
     Text, ///< people
     Json, ///< programs
+    Csv,  ///< spreadsheets
 };
 
 } // namespace qev::application

@@ -34,12 +34,6 @@ Place findPlace(std::vector<GridGroup> const& groups, std::string const& propert
     return {};
 }
 
-std::string describe(fc::FcBase const& object)
-{
-    auto const label = ObjectLabel::of(object);
-    return label.globalId + " " + label.className + " '" + label.name + "'";
-}
-
 /// What came of the edit over all objects.
 struct Outcome
 {
@@ -59,11 +53,12 @@ void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetO
     auto const definition = fc::entityCast<FcObjectDefinition>(object);
     if (std::size_t const others = countOthersWithSet(*definition, group->name); others > 0)
         std::cerr << "qev-ifc: the set is shared: " << others << " further objects change with "
-                  << describe(*object) << '\n';
+                  << ObjectLabel::of(*object).getDescription() << '\n';
     if (session.type(*row, options.value))
         return;
     ++outcome.refused;
-    std::cout << "refused: " << describe(*object) << ": " << session.message() << '\n';
+    std::cout << "refused: " << ObjectLabel::of(*object).getDescription() << ": " << session.message()
+              << '\n';
 }
 
 } // namespace

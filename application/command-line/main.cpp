@@ -74,6 +74,8 @@ struct CommandLine
     GridOptions grid;
     SetOptions set;
     EntityOptions entity;
+    ListOptions list;
+    ImportOptions importTable;
     bool showReports = false;
     std::vector<std::filesystem::path> definitions;
     DisplaySettings display;
@@ -139,6 +141,29 @@ void CommandLine::addTo(CLI::App& app)
                         "path=value, what to change; may be given several times");
     command->add_option("--output", entity.output, "the file to write; it may be FILE itself");
     command->callback([this] { run = [this] { return runEntity(entity); }; });
+
+    command = app.add_subcommand("list",
+                                 "one row for each object, one column for each property they have in common");
+    addFile(*command, list.file);
+    std::map<std::string, Format> const formats = {
+        {"text", Format::Text}, {"json", Format::Json}, {"csv", Format::Csv}};
+    command
+        ->add_option("--format", list.format,
+                     "text for people, json for programs, csv for spreadsheets and import")
+        ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case));
+    addObjects(*command, list.objects, false);
+    command->add_option("--columns", list.columns,
+                        "the properties wanted: \"Pset_WallCommon.FireRating,Pset_WallCommon.Status\"");
+    command->callback([this] { run = [this] { return runList(list); }; });
+
+    command = app.add_subcommand("import", "bring a table of list --format csv back, and save");
+    addFile(*command, importTable.file);
+    command
+        ->add_option("CSV", importTable.table,
+                     "a table with a column GlobalId and columns named \"Set.Property\"")
+        ->required();
+    addOutput(*command, importTable.output);
+    command->callback([this] { run = [this] { return runImport(importTable); }; });
 
     app.add_flag("--reports", showReports, "print reports of programming errors on the error stream");
     app.add_option("--definitions", definitions,

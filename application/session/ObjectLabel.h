@@ -20,6 +20,11 @@ struct ObjectLabel
     [[nodiscard]] static ObjectLabel of(fc::Data const& data, fc::EntityIndex index);
     /// The name, or the class for an object without one.
     [[nodiscard]] std::string const& getTitle() const { return name.empty() ? className : name; }
+    /// All of it on one line, for messages.
+    [[nodiscard]] std::string getDescription() const
+    {
+        return globalId + " " + className + " '" + name + "'";
+    }
 };
 
 } // namespace qev::application

@@ -310,4 +310,50 @@ TEST_F(CommandLine, AnOutputThatCannotBeWrittenGivesSix)
     EXPECT_EQ(run("save " + sample("office-IFC4.ifc") + " --output " + nowhere).exitCode, 6);
 }
 
+TEST_F(CommandLine, ListsGoOutAsTablesAndComeBack)
+{
+    auto const file = sample("office-IFC4X3.ifc");
+    Outcome const listed =
+        run("list " + file + " --class IfcWall --columns Pset_WallCommon.FireRating --format csv");
+    EXPECT_EQ(listed.exitCode, 0) << listed.errors;
+    EXPECT_TRUE(listed.output.starts_with("GlobalId,Name,Pset_WallCommon.FireRating\n")) << listed.output;
+
+    auto const unchanged = folder.write("unchanged.csv", listed.output);
+    Outcome result = run("import " + file + " " + quoted(unchanged.string()) + " --output " + target());
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    EXPECT_EQ(result.output, "0 values changed\n");
+    EXPECT_TRUE(saved() == readFile(samplePath("office-IFC4X3.ifc")));
+
+    auto const firstLine = listed.output.find('\n') + 1;
+    auto const globalId = listed.output.substr(firstLine, 22);
+    auto const changed =
+        folder.write("changed.csv", "GlobalId;Pset_WallCommon.FireRating;Pset_WallCommon.Status\n" +
+                                        globalId + ";F77;BROKEN\n");
+    result = run("import " + file + " " + quoted(changed.string()) + " --output " + target());
+    EXPECT_EQ(result.exitCode, 5);
+    EXPECT_EQ(result.output, "refused: line 2, Pset_WallCommon.Status, " + globalId +
+                                 ": 'BROKEN': it is none of the values to choose from\n1 value changed\n");
+    Json const list =
+        json("list " + target() + " --object " + globalId + " --columns Pset_WallCommon.FireRating");
+    expectKeys(list, {"columns", "objects"});
+    expectKeys(list["columns"][0], {"name", "label", "unit"});
+    expectKeys(list["objects"][0], {"globalId", "name", "values"});
+    EXPECT_EQ(list["objects"][0]["globalId"], globalId);
+    EXPECT_EQ(list["objects"][0]["values"]["Pset_WallCommon.FireRating"], "F77");
+}
+
+TEST_F(CommandLine, ListsAndTablesThatCannotBeAreTold)
+{
+    auto const file = sample("office-IFC4X3.ifc");
+    EXPECT_EQ(run("list " + file + " --class IfcWall --columns None.Such").exitCode, 4);
+    EXPECT_EQ(run("list " + file + " --class IfcBoiler").exitCode, 4);
+    EXPECT_EQ(run("list " + file).exitCode, 2);
+    EXPECT_EQ(run("import " + file + " none.csv --output " + target()).exitCode, 3);
+    auto const table = folder.write("table.csv", "Name,Pset_WallCommon.FireRating\nx,y\n");
+    Outcome const result = run("import " + file + " " + quoted(table.string()) + " --output " + target());
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_NE(result.errors.find("has no column GlobalId"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "saved.ifc"));
+}
+
 } // namespace

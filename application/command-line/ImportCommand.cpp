@@ -1,0 +1,83 @@
+#include "Commands.h"
+#include "FileAccess.h"
+#include "ListImport.h"
+#include "ListTable.h"
+#include "ObjectLabel.h"
+#include "Output.h"
+#include "SharedSets.h"
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <set>
+
+namespace qev::application {
+
+namespace {
+
+using fc::core::kernel::FcObjectDefinition;
+
+std::optional<std::string> readText(std::filesystem::path const& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+/// Tells of sets that further objects share: those change with the objects of the table.
+void tellSharedSets(ifc::IfcFile const& file, ListTable const& table, ImportResult const& preview)
+{
+    std::set<std::pair<std::string, std::string>> told;
+    for (ImportChange const& change : preview.changes) {
+        std::string const& globalId = table.rows[change.row].globalId;
+        auto const object = fc::entityCast<FcObjectDefinition>(file.entityFromGlobalId(globalId));
+        std::size_t const others = object ? countOthersWithSet(*object, change.setName) : 0;
+        if (others > 0 && told.emplace(globalId, change.setName).second)
+            std::cerr << "qev-ifc: the set " << change.setName << " is shared: " << others
+                      << " further objects change with " << ObjectLabel::of(*object).getDescription() << '\n';
+    }
+}
+
+void printRefusals(ImportResult const& result)
+{
+    for (ImportRefusal const& refusal : result.refusals) {
+        std::cout << "refused: line " << refusal.line;
+        if (!refusal.column.empty())
+            std::cout << ", " << refusal.column;
+        std::cout << ", " << refusal.globalId;
+        if (!refusal.column.empty())
+            std::cout << ": '" << onOneLine(refusal.text) << "'";
+        std::cout << ": " << refusal.reason << '\n';
+    }
+}
+
+} // namespace
+
+ExitCode runImport(ImportOptions const& options)
+{
+    auto const file = openFile(options.file);
+    auto const text = readText(options.table);
+    if (!text)
+        std::cerr << "qev-ifc: cannot read " << options.table.string() << '\n';
+    if (!file || !text)
+        return ExitCode::UnreadableFile;
+    auto const table = ListTable::fromCsv(*text);
+    if (!table || table->rows.empty()) {
+        std::cerr << "qev-ifc: " << options.table.string() << " has no "
+                  << (table ? "rows" : "column GlobalId in its first line") << '\n';
+        return ExitCode::NothingFound;
+    }
+    ListImport const tableImport(*file, *table);
+    ImportResult preview = tableImport.preview();
+    tellSharedSets(*file, *table, preview);
+    ImportResult const result = tableImport.apply(std::move(preview));
+    printRefusals(result);
+    std::cout << result.changes.size() << (result.changes.size() == 1 ? " value" : " values") << " changed\n";
+    ExitCode const saved = saveFile(*file, options.output);
+    if (saved != ExitCode::Success)
+        return saved;
+    return result.refusals.empty() ? ExitCode::Success : ExitCode::RefusedEdit;
+}
+
+} // namespace qev::application

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "UI/FoundationClasses/Controls/Formatters/ListControlPropertyFormatterStrategyInterface.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace qev::application {
+
+/// Puts columns that tell which object a row is, its GlobalId and its name, in front of all others.
+class IdentityColumns final : public fc::ui::ListControlPropertyFormatterStrategyInterface
+{
+public:
+    static constexpr char globalId[] = "GlobalId";
+    static constexpr char name[] = "Name";
+
+    /// Tells the names of the first column that is there already; nothing when there is none.
+    using FirstColumn = std::function<std::optional<fc::ui::ColumnPropertyNames>()>;
+
+    void setFirstColumn(FirstColumn firstColumn) { m_firstColumn = std::move(firstColumn); }
+
+    void setObject(std::shared_ptr<fc::Data>, std::shared_ptr<fc::FcBase> object) override;
+    void setListControl(std::shared_ptr<ui::ListControl> const&) override {}
+    void onItemAndColumnCountUpdated() override {}
+    [[nodiscard]] std::optional<bool> doesItemContainLocalValue(std::string const&,
+                                                                std::string const&) const override;
+    void onResetItemToGlobalValue(std::string const&, std::string const&) override {}
+    [[nodiscard]] std::optional<bool> isPropertyToBeHiddenByDefault(std::string const&,
+                                                                    std::string const&) const override;
+    [[nodiscard]] std::optional<std::vector<CustomColumn>> getCustomColumns() const override;
+    [[nodiscard]] std::optional<std::string>
+    getCustomColumnItemString(std::string const& columnId) const override;
+
+private:
+    FirstColumn m_firstColumn;
+    std::shared_ptr<fc::FcBase> m_object;
+};
+
+} // namespace qev::application

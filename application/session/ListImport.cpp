@@ -1,0 +1,227 @@
+#include "ListImport.h"
+
+#include "Core/String/NumberText.h"
+#include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+
+namespace qev::application {
+
+namespace {
+
+using fc::core::kernel::FcObjectDefinition;
+
+/// The name of a column of a table without the unit in brackets behind it, and that unit.
+struct Header
+{
+    std::string id;
+    std::string unit;
+};
+
+Header headerOf(std::string const& text)
+{
+    auto const bracket = text.rfind(" [");
+    if (bracket == std::string::npos || !text.ends_with(']'))
+        return {text, {}};
+    return {text.substr(0, bracket), text.substr(bracket + 2, text.size() - bracket - 3)};
+}
+
+/// The column of the list that a column of a table is about. A name that itself ends in brackets goes first.
+ListColumn const* findColumn(std::vector<ListColumn> const& columns, std::string const& header)
+{
+    for (auto const& id : {header, headerOf(header).id}) {
+        auto const found = std::find_if(columns.begin(), columns.end(),
+                                        [&id](ListColumn const& column) { return column.id == id; });
+        if (found != columns.end())
+            return &*found;
+    }
+    return nullptr;
+}
+
+/// A cell of a table as a text for the list, which may show another unit by now.
+std::string textForList(std::string const& cell, std::string const& header, ListColumn const& column)
+{
+    auto const unit = column.id == header ? std::string() : headerOf(header).unit;
+    bool const isBareNumber =
+        !cell.empty() && cell.find_first_not_of("+-0123456789.,eE ") == std::string::npos;
+    return isBareNumber && !unit.empty() && unit != column.unit ? cell + " " + unit : cell;
+}
+
+/// Tells if two texts are one number, which a spreadsheet may have written with a decimal comma.
+bool isSameNumber(std::string left, std::string right)
+{
+    std::replace(left.begin(), left.end(), ',', '.');
+    std::replace(right.begin(), right.end(), ',', '.');
+    auto const number = str::parseDouble(left);
+    return number && number == str::parseDouble(right);
+}
+
+std::string reasonText(ui::ListRefusalReason reason)
+{
+    switch (reason) {
+    case ui::ListRefusalReason::NotEditable:
+        return "it cannot be edited here";
+    case ui::ListRefusalReason::NotAnEntry:
+        return "it is none of the values to choose from";
+    case ui::ListRefusalReason::NotTaken:
+        return "it is no value for this property";
+    }
+    return {};
+}
+
+void sortRefusals(ImportResult& result)
+{
+    std::stable_sort(
+        result.refusals.begin(), result.refusals.end(),
+        [](ImportRefusal const& left, ImportRefusal const& right) { return left.line < right.line; });
+}
+
+} // namespace
+
+ListImport::ListImport(ifc::IfcFile& file, ListTable const& table)
+    : m_file(file)
+    , m_table(table)
+{
+}
+
+ImportResult ListImport::preview() const
+{
+    ImportResult result;
+    ListSession session(m_file.data(), columnIds());
+    std::vector<std::size_t> allColumns(m_table.columns.size());
+    std::iota(allColumns.begin(), allColumns.end(), std::size_t{0});
+    for (Group const& group : makeGroups(result)) {
+        session.show(group.objects);
+        // Properties that not all objects of the class have are still those of some of them.
+        auto const missing = findChanges(session, group, allColumns, result);
+        findChangesOfSingleObjects(session, group, missing, result);
+    }
+    std::sort(result.changes.begin(), result.changes.end(),
+              [](ImportChange const& left, ImportChange const& right) {
+                  return std::pair(left.row, left.column) < std::pair(right.row, right.column);
+              });
+    sortRefusals(result);
+    return result;
+}
+
+ImportResult ListImport::apply(ImportResult preview) const
+{
+    ImportResult result = std::move(preview);
+    fc::ChangeLog::Step const step(m_file.data()->changes(), "Import");
+    ListSession session(m_file.data(), columnIds());
+    write(session, result);
+    sortRefusals(result);
+    return result;
+}
+
+std::vector<ListImport::Group> ListImport::makeGroups(ImportResult& result) const
+{
+    std::map<unsigned int, Group> groups;
+    for (std::size_t row = 0; row < m_table.rows.size(); ++row) {
+        ListTable::Row const& tableRow = m_table.rows[row];
+        auto const object = m_file.entityFromGlobalId(tableRow.globalId);
+        if (!fc::entityCast<FcObjectDefinition>(object)) {
+            result.refusals.push_back(
+                {tableRow.line, tableRow.globalId, {}, {}, "there is no object with this GlobalId"});
+            continue;
+        }
+        Group& group = groups[object->getIdFirst()];
+        group.rows.push_back(row);
+        group.objects.push_back(object);
+    }
+    std::vector<Group> list;
+    for (auto& [number, group] : groups)
+        list.push_back(std::move(group));
+    return list;
+}
+
+std::vector<std::size_t> ListImport::findChanges(ListSession& session, Group const& group,
+                                                 std::vector<std::size_t> const& tableColumns,
+                                                 ImportResult& result) const
+{
+    std::vector<std::size_t> missing;
+    auto const columns = session.columns();
+    auto const editing = session.editing();
+    for (std::size_t const tableColumn : tableColumns) {
+        std::string const& header = m_table.columns[tableColumn];
+        ListColumn const* const column = findColumn(columns, header);
+        if (!column) {
+            missing.push_back(tableColumn);
+            continue;
+        }
+        auto const& setName = session.control().getColumns().getColumnNames(column->index).setName;
+        for (std::size_t row = 0; row < group.rows.size(); ++row) {
+            ui::ListControl::ItemInfo const item{row, column->index};
+            auto text = textForList(m_table.rows[group.rows[row]].cells[tableColumn], header, *column);
+            auto oldText = editing.getEditText(item);
+            bool const isSame =
+                editing.says(item, text) || (!column->unit.empty() && isSameNumber(oldText, text));
+            if (!isSame)
+                result.changes.push_back(
+                    {group.rows[row], tableColumn, setName, std::move(oldText), std::move(text)});
+        }
+    }
+    return missing;
+}
+
+void ListImport::findChangesOfSingleObjects(ListSession& session, Group const& group,
+                                            std::vector<std::size_t> const& tableColumns,
+                                            ImportResult& result) const
+{
+    for (std::size_t row = 0; row < group.rows.size(); ++row) {
+        ListTable::Row const& tableRow = m_table.rows[group.rows[row]];
+        std::vector<std::size_t> filled;
+        std::copy_if(tableColumns.begin(), tableColumns.end(), std::back_inserter(filled),
+                     [&tableRow](std::size_t column) { return !tableRow.cells[column].empty(); });
+        if (filled.empty())
+            continue;
+        session.show({group.objects[row]});
+        for (std::size_t const column :
+             findChanges(session, {{group.rows[row]}, {group.objects[row]}}, filled, result))
+            result.refusals.push_back({tableRow.line, tableRow.globalId, m_table.columns[column],
+                                       tableRow.cells[column],
+                                       "the object has and may have no such property"});
+    }
+}
+
+void ListImport::write(ListSession& session, ImportResult& result) const
+{
+    std::vector<ImportChange> taken;
+    auto const editing = session.editing();
+    for (auto change = result.changes.begin(); change != result.changes.end();) {
+        ListTable::Row const& tableRow = m_table.rows[change->row];
+        auto const endOfRow = std::find_if(change, result.changes.end(), [&](ImportChange const& other) {
+            return other.row != change->row;
+        });
+        session.show({m_file.entityFromGlobalId(tableRow.globalId)});
+        auto const columns = session.columns();
+        for (; change != endOfRow; ++change) {
+            std::string const& header = m_table.columns[change->column];
+            ListColumn const* const column = findColumn(columns, header);
+            auto const outcome = column ? editing.setText({{0, column->index}}, change->newText)
+                                        : ui::ListEditResult{0, {ui::ListRefusal()}};
+            if (outcome.refusals.empty()) {
+                taken.push_back(*change);
+                continue;
+            }
+            result.refusals.push_back({tableRow.line, tableRow.globalId, header,
+                                       tableRow.cells[change->column],
+                                       reasonText(outcome.refusals.front().reason)});
+        }
+    }
+    result.changes = std::move(taken);
+}
+
+std::vector<std::string> ListImport::columnIds() const
+{
+    std::set<std::string> ids;
+    for (std::string const& column : m_table.columns) {
+        ids.insert(column);
+        ids.insert(headerOf(column).id);
+    }
+    return {ids.begin(), ids.end()};
+}
+
+} // namespace qev::application

@@ -1,0 +1,312 @@
+#include "Core/String/DelimitedText.h"
+#include "Core/String/NumberText.h"
+#include "ExpectedReports.h"
+#include "Format/Ifc/Model/IfcFile.h"
+#include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+#include "GridSession.h"
+#include "ListImport.h"
+#include "ListSession.h"
+#include "ListTable.h"
+#include "ObjectLabel.h"
+#include "RecordChanges.h"
+#include "SampleFiles.h"
+#include "UI/FoundationClasses/Property/PropertyInterface.h"
+#include "UI/FoundationClasses/Set/PropertySetDefinition.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+#include <map>
+#include <optional>
+#include <typeinfo>
+
+namespace {
+
+using namespace qev::application;
+using namespace qev::test::samples;
+using qev::fc::FcBase;
+using qev::fc::core::kernel::FcObjectDefinition;
+using qev::fc::ui::PropertyInterface;
+using qev::ifc::IfcFile;
+using qev::ui::CheckState;
+using qev::ui::ListControl;
+using Objects = std::vector<std::shared_ptr<FcBase>>;
+
+/// In the further files so many objects of a class are looked at, spread over all of them, in view of the
+/// time.
+constexpr std::size_t mostOfAClass = 40;
+
+/// A cell to be changed by way of a table.
+struct TableEdit
+{
+    std::string globalId;
+    std::string column;
+    std::string newText;
+};
+
+class List : public testing::TestWithParam<SampleFile>
+{
+protected:
+    List()
+        : opened(IfcFile::open(GetParam().path))
+        // What the objects have and no list has a column for.
+        , reports({"IfcPropertyReferenceValue not implemented.", "IfcPropertyTableValue not implemented.",
+                   "IfcComplexProperty not implemented.", "Unknown property.", "Unknown quantity.",
+                   "Unknown property set definition type.", "Unknown type",
+                   "Should create grid property object", "Must be a simple value to hold a boolean.",
+                   "FcSimpleValue doesn't hold a boolean."})
+    {
+    }
+
+    /// All objects by their class.
+    std::map<std::string, Objects> objectsByClass() const
+    {
+        auto const& data = opened.file->data();
+        std::map<std::string, Objects> classes;
+        for (auto const place :
+             data->indicesFromId(FcObjectDefinition::idFirst, FcObjectDefinition::idLast)) {
+            if (auto object = data->entity(place))
+                classes[object->getEntityName()].push_back(std::move(object));
+        }
+        return classes;
+    }
+
+    std::size_t stepThrough(std::size_t count) const
+    {
+        bool const isOwn = GetParam().path.string().starts_with(OWN_SAMPLES_DIRECTORY);
+        return isOwn ? 1 : std::max<std::size_t>(1, count / mostOfAClass);
+    }
+
+    /// The first objects of a class, without those that have the GlobalId of another one.
+    Objects knownByGlobalId(Objects const& objects) const
+    {
+        Objects known;
+        for (auto const& object : objects) {
+            bool const isKnown = opened.file->entityFromGlobalId(ObjectLabel::of(*object).globalId) == object;
+            if (isKnown && known.size() < 100)
+                known.push_back(object);
+        }
+        return known;
+    }
+
+    void compareRow(ListSession const& list, std::size_t row, GridSession& grid);
+    void compareCell(ListSession const& list, ListControl::ItemInfo const& cell,
+                     PropertyInterface const& shown, GridGroup::Row const* gridRow);
+
+    /// Expects that a table says what the model says.
+    void expectNoChange(std::string const& csv);
+    void importEdit(TableEdit const& edit);
+
+    qev::ifc::OpenResult opened;
+    ExpectedReports reports;
+    std::size_t cellsCompared = 0;
+    std::size_t cellsOfOtherKinds = 0;
+};
+
+PropertyInterface const* findProperty(GridSession const& grid, std::string const& setName,
+                                      std::string const& name)
+{
+    for (auto const& definition : grid.definitions()) {
+        if (!definition || definition->getName() != setName)
+            continue;
+        for (auto const& property : definition->getProperties()) {
+            if (property->getName() == name)
+                return property.get();
+        }
+    }
+    return nullptr;
+}
+
+GridGroup::Row const* findRow(std::vector<GridGroup> const& groups, PropertyInterface const& property)
+{
+    for (auto const& group : groups) {
+        for (auto const& row : group.rows) {
+            if (row.row->getUserData() == &property)
+                return &row;
+        }
+    }
+    return nullptr;
+}
+
+void List::compareRow(ListSession const& list, std::size_t row, GridSession& grid)
+{
+    auto const& object = list.control().getObjects()[row];
+    SCOPED_TRACE(ObjectLabel::of(*object).globalId + " " + object->getEntityName());
+    grid.show({object});
+    auto const groups = grid.groups();
+    auto const& columns = list.control().getColumns();
+    for (std::size_t column = 0; column < columns.getColumnCount(); ++column) {
+        if (columns.isCustomColumn(column))
+            continue;
+        auto const& names = columns.getColumnNames(column);
+        SCOPED_TRACE(names.setName + "." + names.propertyName);
+        auto const* const shown = findProperty(grid, names.setName, names.propertyName);
+        // A set that no schema knows has the properties of the first object, in the kinds they have there.
+        if (!shown || typeid(*shown) != typeid(*columns.getProperty(column))) {
+            ++cellsOfOtherKinds;
+            continue;
+        }
+        compareCell(list, {row, column}, *shown, findRow(groups, *shown));
+    }
+}
+
+void List::compareCell(ListSession const& list, ListControl::ItemInfo const& cell,
+                       PropertyInterface const& shown, GridGroup::Row const* gridRow)
+{
+    ++cellsCompared;
+    auto const text = list.list().getText(*cell.item, *cell.column);
+    auto const state = list.list().getCheckState(*cell.item, *cell.column);
+    if (!gridRow) {
+        EXPECT_EQ(text, shown.getValue());
+    } else if (state) {
+        EXPECT_EQ(text, "");
+        ASSERT_TRUE(gridRow->record.checked);
+        EXPECT_EQ(*state == CheckState::Checked, *gridRow->record.checked == CheckState::Checked);
+    } else {
+        EXPECT_EQ(text, gridRow->record.value);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, List, testing::ValuesIn(wellFormedFiles()),
+                         [](auto const& file) { return file.param.name; });
+
+TEST_P(List, OfEachClassShowsWhatTheGridShowsForEachObjectAlone)
+{
+    ASSERT_TRUE(opened.file);
+    ListSession list(opened.file->data());
+    GridSession grid(opened.file->data(), true);
+    for (auto const& [name, objects] : objectsByClass()) {
+        list.show(objects);
+        reports.take(name);
+        for (std::size_t row = 0; row < objects.size(); row += stepThrough(objects.size())) {
+            compareRow(list, row, grid);
+            reports.take(name);
+            if (HasFailure())
+                return;
+        }
+        grid.show({});
+    }
+    std::cout << "    " << cellsCompared << " cells compared, " << cellsOfOtherKinds
+              << " of properties that are of another kind in the first object\n";
+}
+
+/// The first text or number of a list that can be changed. What is put in its place is made from \p number,
+/// so that edits of sets which several classes share stay apart.
+std::optional<TableEdit> findEdit(ListSession const& list, std::size_t number)
+{
+    auto const editing = list.editing();
+    for (auto const& column : list.columns()) {
+        if (column.isCustom)
+            continue;
+        constexpr std::size_t mostTries = 5;
+        auto const rows = std::min(mostTries, list.list().getRowCount());
+        for (std::size_t row = 0; row < rows; ++row) {
+            ListControl::ItemInfo const item{row, column.index};
+            auto const text = editing.getEditText(item);
+            if (text.empty())
+                continue;
+            auto const edit = editing.begin({item});
+            if (!edit || edit->editor.editType != ListControl::EditBox)
+                break;
+            bool const isNumber = !column.unit.empty() || qev::str::parseDouble(text);
+            auto const newText =
+                isNumber ? std::to_string(7000 + number) : "Changed, \"by\" table " + std::to_string(number);
+            auto const& object = *list.control().getObjects()[row];
+            return TableEdit{ObjectLabel::of(object).globalId, tableHeader(column), newText};
+        }
+    }
+    return std::nullopt;
+}
+
+/// The same text, or numbers that differ by what a file in feet cannot hold.
+bool isSameValue(std::string const& left, std::string const& right)
+{
+    auto const a = qev::str::parseDouble(left);
+    auto const b = qev::str::parseDouble(right);
+    return left == right || (a && b && std::abs(*a - *b) <= 1e-14 * std::abs(*a));
+}
+
+std::string exported(IfcFile const& file, TableEdit const& edit)
+{
+    ListSession list(file.data());
+    list.show({file.entityFromGlobalId(edit.globalId)});
+    for (auto const& column : list.columns()) {
+        if (tableHeader(column) == edit.column)
+            return tableRow(*list.control().getListControl(), 0, {column}).front();
+    }
+    ADD_FAILURE() << "no column " << edit.column;
+    return {};
+}
+
+/// The table of all rows and columns of a list.
+std::string exportedTable(ListSession const& list)
+{
+    auto const columns = list.columns();
+    std::vector<std::vector<std::string>> rows(1);
+    for (auto const& column : columns)
+        rows.front().push_back(tableHeader(column));
+    for (std::size_t row = 0; row < list.list().getRowCount(); ++row)
+        rows.push_back(tableRow(*list.control().getListControl(), row, columns));
+    return qev::str::writeDelimited(rows, ',');
+}
+
+void List::expectNoChange(std::string const& csv)
+{
+    auto const table = ListTable::fromCsv(csv);
+    ASSERT_TRUE(table);
+    for (auto const& change : ListImport(*opened.file, *table).preview().changes)
+        ADD_FAILURE() << table->rows[change.row].globalId << " " << table->columns[change.column] << ": "
+                      << change.oldText << " is not " << change.newText;
+}
+
+void List::importEdit(TableEdit const& edit)
+{
+    auto const table = ListTable::fromCsv(
+        qev::str::writeDelimited({{"GlobalId", edit.column}, {edit.globalId, edit.newText}}, ';'));
+    ASSERT_TRUE(table);
+    ListImport const listImport(*opened.file, *table);
+    auto const result = listImport.apply(listImport.preview());
+    EXPECT_EQ(result.changes.size(), 1u) << edit.globalId << " " << edit.column;
+    for (auto const& refusal : result.refusals)
+        ADD_FAILURE() << refusal.globalId << " " << refusal.column << ": " << refusal.reason;
+}
+
+TEST_P(List, GoesOutAsATableAndComesBackChanged)
+{
+    ASSERT_TRUE(opened.file);
+    auto const before = opened.file->toText();
+    std::vector<TableEdit> edits;
+    for (auto const& [name, objects] : objectsByClass()) {
+        ListSession list(opened.file->data());
+        list.show(knownByGlobalId(objects));
+        expectNoChange(exportedTable(list));
+        if (auto const edit = findEdit(list, edits.size())) {
+            importEdit(*edit);
+            edits.push_back(*edit);
+        }
+        reports.take(name);
+    }
+    auto const after = opened.file->toText();
+    auto const changes = RecordChanges::between(before, after);
+    EXPECT_LE(changes.changed.size(), edits.size());
+    EXPECT_TRUE(changes.added.empty());
+    EXPECT_TRUE(changes.removed.empty());
+    EXPECT_TRUE(changes.isRestSame);
+
+    auto const again = IfcFile::fromText(after);
+    ASSERT_TRUE(again.file);
+    std::size_t asTyped = 0;
+    for (auto const& edit : edits) {
+        auto const value = exported(*again.file, edit);
+        EXPECT_TRUE(isSameValue(value, exported(*opened.file, edit))) << edit.globalId << " " << edit.column;
+        asTyped += isSameValue(value, edit.newText) ? 1 : 0;
+        reports.take(edit.globalId);
+    }
+    // Of several edits of a set that several classes share, the last one stands.
+    EXPECT_TRUE(edits.empty() || asTyped > 0);
+    std::cout << "    " << edits.size() << " values changed by tables, " << asTyped << " of them to stay\n";
+}
+
+} // namespace
