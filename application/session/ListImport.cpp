@@ -1,7 +1,8 @@
 #include "ListImport.h"
 
-#include "Core/String/NumberText.h"
+#include "Core/Unit/QuantityPresentation.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertySingleValue.h"
 
 #include <algorithm>
 #include <numeric>
@@ -49,13 +50,24 @@ std::string textForList(std::string const& cell, std::string const& header, List
     return isBareNumber && !unit.empty() && unit != column.unit ? cell + " " + unit : cell;
 }
 
-/// Tells if two texts are one number, which a spreadsheet may have written with a decimal comma.
-bool isSameNumber(std::string left, std::string right)
+/// The number that \p text stands for in a column with a unit, in SI units; nothing in other columns.
+std::optional<double> numberOf(std::string const& text, ListSession const& session, ListColumn const& column)
 {
-    std::replace(left.begin(), left.end(), ',', '.');
-    std::replace(right.begin(), right.end(), ',', '.');
-    auto const number = str::parseDouble(left);
-    return number && number == str::parseDouble(right);
+    auto const* const property =
+        column.isCustom ? nullptr : session.control().getColumns().getProperty(column.index);
+    auto const* const single = dynamic_cast<fc::ui::FcPropertySingleValue const*>(property);
+    auto const presentation = single ? single->quantityPresentation() : nullptr;
+    return presentation ? presentation->parse(text) : std::nullopt;
+}
+
+/// Tells if a cell has the value \p text, as it may be written in another unit or with another decimal sign.
+bool says(ListSession const& session, ui::ListControl::ItemInfo const& item, ListColumn const& column,
+          std::string const& text)
+{
+    if (session.editing().says(item, text))
+        return true;
+    auto const number = numberOf(text, session, column);
+    return number && number == fireEvent(session.control().getListControl()->onGetItemNumber, item);
 }
 
 std::string reasonText(ui::ListRefusalReason reason)
@@ -155,12 +167,9 @@ std::vector<std::size_t> ListImport::findChanges(ListSession& session, Group con
         for (std::size_t row = 0; row < group.rows.size(); ++row) {
             ui::ListControl::ItemInfo const item{row, column->index};
             auto text = textForList(m_table.rows[group.rows[row]].cells[tableColumn], header, *column);
-            auto oldText = editing.getEditText(item);
-            bool const isSame =
-                editing.says(item, text) || (!column->unit.empty() && isSameNumber(oldText, text));
-            if (!isSame)
+            if (!says(session, item, *column, text))
                 result.changes.push_back(
-                    {group.rows[row], tableColumn, setName, std::move(oldText), std::move(text)});
+                    {group.rows[row], tableColumn, setName, editing.getEditText(item), std::move(text)});
         }
     }
     return missing;

@@ -169,6 +169,7 @@ TEST_F(ListImportTest, AnUnchangedRowDoesNotPutASharedValueBack)
 
 TEST_F(ListImportTest, ANumberInAnotherUnitIsConverted)
 {
+    EXPECT_THAT(import("GlobalId,Own.Offset [mm]\n0000000000000000000032,2345.6789\n").changes, IsEmpty());
     EXPECT_THAT(import("GlobalId,Own.Offset [mm]\n0000000000000000000032,1500\n").changes, SizeIs(1));
     EXPECT_THAT(file->toText(), HasSubstr("IFCLENGTHMEASURE(1500.)"));
 }
