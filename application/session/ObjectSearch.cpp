@@ -1,10 +1,9 @@
 #include "ObjectSearch.h"
 
-#include "Core/String/Ascii.h"
+#include "Core/String/Fold.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace qev::application {
 
@@ -12,20 +11,11 @@ namespace {
 
 using fc::core::kernel::FcObjectDefinition;
 
-std::vector<std::string> getWords(std::string const& text)
-{
-    std::istringstream stream(str::toLower(text));
-    std::vector<std::string> words;
-    for (std::string word; stream >> word;)
-        words.push_back(word);
-    return words;
-}
-
 } // namespace
 
 ObjectSearch::ObjectSearch(std::shared_ptr<fc::Data> data, std::string const& text)
     : m_data(std::move(data))
-    , m_words(getWords(text))
+    , m_words(str::foldedWords(text))
 {
     if (!m_words.empty())
         m_objects = m_data->indicesFromId(FcObjectDefinition::idFirst, FcObjectDefinition::idLast);
@@ -52,7 +42,7 @@ bool ObjectSearch::isFinished() const { return m_position >= m_objects.size() ||
 
 bool ObjectSearch::matches(ObjectLabel const& label) const
 {
-    auto const text = str::toLower(label.name + '\n' + label.className + '\n' + label.globalId);
+    auto const text = str::foldCase(label.name + '\n' + label.className + '\n' + label.globalId);
     return std::all_of(m_words.begin(), m_words.end(),
                        [&](std::string const& word) { return text.find(word) != std::string::npos; });
 }

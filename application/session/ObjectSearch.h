@@ -13,8 +13,8 @@ namespace qev::application {
 /// A search for objects and types by name, class or GlobalId, to be carried on bit by bit, so that a
 /// large model keeps nobody waiting.
 ///
-/// Each word of the text has to be found somewhere in the name, the class or the GlobalId; the case of the
-/// letters A to Z does not count.
+/// Each word of the text has to be found somewhere in the name, the class or the GlobalId; the case of
+/// letters does not count.
 class ObjectSearch
 {
 public:

@@ -3,6 +3,7 @@
 #include "Core/String/Ascii.h"
 
 #include <algorithm>
+#include <sstream>
 #include <unicode/stringpiece.h>
 #include <unicode/unistr.h>
 
@@ -18,6 +19,15 @@ std::string foldCase(std::string_view text)
         .foldCase()
         .toUTF8String(folded);
     return folded;
+}
+
+std::vector<std::string> foldedWords(std::string_view text)
+{
+    std::istringstream stream{foldCase(text)};
+    std::vector<std::string> words;
+    for (std::string word; stream >> word;)
+        words.push_back(word);
+    return words;
 }
 
 } // namespace qev::str

@@ -1,5 +1,6 @@
 #include "Ui/List/ListCellNumber.h"
 
+#include "Core/String/Ascii.h"
 #include "Core/String/NumberText.h"
 
 #include <algorithm>
@@ -10,14 +11,6 @@ namespace {
 
 constexpr auto digitCharacters = "0123456789";
 constexpr double inchesPerFoot = 12;
-
-std::string_view trim(std::string_view text)
-{
-    auto const first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 /// How many characters at the beginning of \p text are a number with sign, decimals and exponent.
 std::size_t getNumberLength(std::string_view text)
@@ -72,7 +65,7 @@ std::optional<double> readInches(std::string_view text)
     if (blank == std::string_view::npos)
         return readFraction(text);
     auto const whole = str::parseDouble(text.substr(0, blank));
-    auto const part = readFraction(trim(text.substr(blank)));
+    auto const part = readFraction(str::trimmed(text.substr(blank)));
     if (!whole || !part)
         return std::nullopt;
     return *whole + *part;
@@ -89,13 +82,13 @@ std::optional<double> readFeetAndInches(std::string_view text)
         if (!feet)
             return std::nullopt;
         inches = *feet * inchesPerFoot;
-        text = trim(text.substr(mark + 1));
+        text = str::trimmed(text.substr(mark + 1));
         if (text.empty())
             return isNegative ? -inches : inches;
     }
     if (!text.ends_with('"'))
         return std::nullopt;
-    auto const rest = readInches(trim(text.substr(0, text.size() - 1)));
+    auto const rest = readInches(str::trimmed(text.substr(0, text.size() - 1)));
     if (!rest)
         return std::nullopt;
     inches += *rest;
@@ -106,14 +99,14 @@ std::optional<double> readFeetAndInches(std::string_view text)
 
 std::optional<ListCellNumber> ListCellNumber::read(std::string_view text)
 {
-    text = trim(text);
+    text = str::trimmed(text);
     if (auto const inches = readFeetAndInches(text))
         return ListCellNumber{*inches, "ft in"};
     auto const length = getNumberLength(text);
     auto const value = readNumber(text.substr(0, length));
     if (!value)
         return std::nullopt;
-    auto const unit = trim(text.substr(length));
+    auto const unit = str::trimmed(text.substr(length));
     // Dates, fractions and lists of numbers are more than one number with its unit.
     constexpr std::string_view noUnitBegin = "0123456789+-/.,";
     if (unit.find(' ') != std::string_view::npos ||

@@ -1,33 +1,16 @@
 #include "Ui/List/ListRowFilter.h"
 
+#include "Core/String/Ascii.h"
 #include "Core/String/Fold.h"
 #include "Ui/List/ListCellNumber.h"
 
 #include <algorithm>
 #include <array>
-#include <sstream>
 #include <utility>
 
 namespace qev::ui {
 
 namespace {
-
-std::vector<std::string> splitWords(std::string_view text)
-{
-    std::istringstream stream{str::foldCase(text)};
-    std::vector<std::string> words;
-    for (std::string word; stream >> word;)
-        words.push_back(word);
-    return words;
-}
-
-std::string_view trim(std::string_view text)
-{
-    auto const first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 bool contains(std::string const& text, std::string const& word)
 {
@@ -37,11 +20,11 @@ bool contains(std::string const& text, std::string const& word)
 } // namespace
 
 ListRowFilter::ListRowFilter(ListFilter const& filter)
-    : m_words(splitWords(filter.text))
+    : m_words(str::foldedWords(filter.text))
     , m_searchedColumns(filter.searchedColumns)
 {
     for (auto const& [column, text] : filter.columnTexts)
-        m_conditions.push_back(makeCondition(column, trim(text)));
+        m_conditions.push_back(makeCondition(column, str::trimmed(text)));
 }
 
 bool ListRowFilter::passes(ColumnText const& text) const
@@ -70,12 +53,12 @@ ListRowFilter::Condition ListRowFilter::makeCondition(std::size_t column, std::s
         if (!text.starts_with(sign))
             continue;
         condition.relation = relation;
-        text = trim(text.substr(sign.size()));
+        text = str::trimmed(text.substr(sign.size()));
         break;
     }
     condition.text = str::foldCase(text);
     if (condition.relation == Relation::Contains)
-        condition.words = splitWords(text);
+        condition.words = str::foldedWords(text);
     else if (auto const number = ListCellNumber::read(text))
         condition.number = number->value;
     return condition;
