@@ -72,11 +72,12 @@ std::optional<PropertyValue> numberFromText(std::string const& text,
 /// The unset value of the optional kind that belongs to \p value.
 PropertyValue unsetLike(PropertyValue const& value) { return value.getWrappedOptionalValue(PropertyValue()); }
 
+/// A value as people read it, without regard to a unit; empty for an unset one and for nothing.
+std::string textOf(PropertyValue const& value) { return std::visit(TextOfValue(), value.variant()); }
+
 bool isOptionalKind(PropertyValue const& value) { return value.kind() >= Kind::OptionalInteger; }
 
 } // namespace
-
-std::string textOf(PropertyValue const& value) { return std::visit(TextOfValue(), value.variant()); }
 
 EntityProperties::EntityProperties(std::shared_ptr<fc::Data> data, std::shared_ptr<fc::FcBase> entity)
     : m_wrapper(FcPropertyWrapper::createStrongOwningFcPropertyWrapper(std::move(data), std::move(entity)))
@@ -118,7 +119,7 @@ EntityProperty EntityProperties::describe(fc::Property const& node) const
     }
     auto const presentation = m_wrapper->createQuantityPresentation(path);
     property.unit = ui::PropertyGridNumber::getUnit(presentation.get());
-    if (auto const number = numberOf(property.value); number && presentation)
+    if (auto const number = numberOf(property.value))
         property.text = ui::PropertyGridNumber::getShownText(*number, presentation.get());
     return property;
 }

@@ -55,7 +55,4 @@ private:
     std::shared_ptr<fc::ui::propertyinterface::FcPropertyWrapper> m_wrapper;
 };
 
-/// A value as people read it, without regard to a unit; empty for an unset one and for nothing.
-[[nodiscard]] std::string textOf(object::PropertyValue const& value);
-
 } // namespace qev::application

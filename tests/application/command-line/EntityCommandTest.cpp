@@ -60,6 +60,16 @@ TEST_F(EntityCommand, PrintsAnyRecordByItsNumber)
     EXPECT_EQ(findNode(document["properties"], "Version").value()["value"], "1.0");
 }
 
+TEST_F(EntityCommand, WritesNumbersInTheLanguageOfTheProgram)
+{
+    Json const document = json("--language de entity " + sample(office) + " --id 310");
+    auto const easting = findNode(document["properties"], "Eastings").value();
+    EXPECT_EQ(easting["text"], "356600,25 m");
+    auto const abscissa = findNode(document["properties"], "XAxisAbscissa").value();
+    EXPECT_EQ(abscissa["value"], 0.9961946981);
+    EXPECT_EQ(abscissa["text"], "0,9961946981");
+}
+
 TEST_F(EntityCommand, PrintsTextForPeople)
 {
     auto const result = run("entity " + sample(office) + " --id 106");
