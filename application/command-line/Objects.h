@@ -13,8 +13,6 @@ struct ObjectSelection
     std::vector<std::string> globalIds;
     std::string className;
     bool all = false;
-
-    [[nodiscard]] bool isGiven() const { return all || !className.empty() || !globalIds.empty(); }
 };
 
 /// The places of the selected objects: in the order of the global ids, or by class and then as in the file.

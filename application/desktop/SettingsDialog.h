@@ -24,7 +24,6 @@ public:
     [[nodiscard]] QComboBox& getSystemBox() const { return *m_system; }
     [[nodiscard]] QComboBox& getDecimalSignBox() const { return *m_decimalSign; }
     [[nodiscard]] QComboBox& getLanguageBox() const { return *m_language; }
-    [[nodiscard]] QComboBox& getThemeBox() const { return *m_theme; }
 
 private:
     [[nodiscard]] QWidget* createUnitsPage();

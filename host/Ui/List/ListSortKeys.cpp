@@ -26,10 +26,9 @@ std::optional<int> compareEmpty(bool isLeftEmpty, bool isRightEmpty)
 
 } // namespace
 
-ListSortKeys::ListSortKeys(std::vector<ListSortColumn> columns)
-    : m_columns(std::move(columns))
+ListSortKeys::ListSortKeys(std::vector<ListSortColumn> const& columns)
 {
-    for (auto const& column : m_columns)
+    for (auto const& column : columns)
         m_keys.push_back({column.isDescending, {}, {}, true});
 }
 

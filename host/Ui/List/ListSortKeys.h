@@ -18,9 +18,8 @@ namespace qev::ui {
 class HOSTUI_EXPORT ListSortKeys
 {
 public:
-    explicit ListSortKeys(std::vector<ListSortColumn> columns);
+    explicit ListSortKeys(std::vector<ListSortColumn> const& columns);
 
-    [[nodiscard]] std::vector<ListSortColumn> const& getColumns() const { return m_columns; }
     /// Adds a row; \p cells are those of the columns, in their order. Rows come in ascending order.
     void add(std::size_t row, std::vector<ListSortCell> cells);
     /// The rows in their new order. Nothing is left of them here.
@@ -42,7 +41,6 @@ private:
     /// Negative when the cell at \p left comes first, 0 when neither does.
     [[nodiscard]] static int compare(Keys const& keys, std::size_t left, std::size_t right);
 
-    std::vector<ListSortColumn> m_columns;
     std::vector<std::size_t> m_rows;
     std::vector<Keys> m_keys;
 };

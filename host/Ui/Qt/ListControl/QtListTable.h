@@ -20,7 +20,6 @@ public:
 
     [[nodiscard]] QtListItemModel& getCells() const { return m_cells; }
     [[nodiscard]] QtListHeader& getHeader() const { return *m_header; }
-    [[nodiscard]] int getRowHeight() const { return m_rowHeight; }
     /// The positions that can be seen, the last of them perhaps in part: from the first on, this many.
     [[nodiscard]] int getFirstPosition() const;
     [[nodiscard]] int countVisiblePositions() const;

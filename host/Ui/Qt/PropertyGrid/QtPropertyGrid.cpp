@@ -91,8 +91,6 @@ void QtPropertyGrid::adjustLayout()
 
 QString QtPropertyGrid::getDescriptionText() const { return m_description->toPlainText(); }
 
-void QtPropertyGrid::showDescription(bool shown) { m_description->setVisible(shown); }
-
 QByteArray QtPropertyGrid::saveLayout() const
 {
     QByteArray layout;

@@ -31,7 +31,6 @@ public:
 
     /// The text below the rows.
     [[nodiscard]] QString getDescriptionText() const;
-    void showDescription(bool shown);
 
     /// How the user has divided the grid and what is folded, to be kept and given back.
     [[nodiscard]] QByteArray saveLayout() const;
