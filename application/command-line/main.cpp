@@ -177,7 +177,7 @@ void CommandLine::addTo(CLI::App& app)
 std::future<void> readSchemasAhead()
 {
     return std::async(std::launch::async, [] {
-        qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1");
+        qev::ifc::SchemaLoader::curr().pSchemaFromName(qev::ifc::SchemaLoader::modelVersion);
         qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X1");
     });
 }

@@ -19,14 +19,6 @@ using step::StepSaveResult;
 using ui::fromQString;
 using ui::toQString;
 
-QString getLines(std::vector<std::string> const& lines)
-{
-    QString text;
-    for (auto const& line : lines)
-        text += toQString(line) + '\n';
-    return text;
-}
-
 QString getFileName(InspectorSession const& session) { return fromPath(session.getPath().filename()); }
 
 } // namespace

@@ -18,14 +18,6 @@ namespace {
 
 using System = unit::UnitPreferences::System;
 
-QString getLines(std::vector<std::string> const& lines)
-{
-    QString text;
-    for (auto const& line : lines)
-        text += ui::toQString(line) + '\n';
-    return text;
-}
-
 /// Windows pass the event on to all that stands in them.
 void tellWindowsOfLanguage()
 {

@@ -38,4 +38,12 @@ QString getText(std::string_view key, std::vector<QString> const& arguments)
     return ui::toQString(localize(key, context, texts));
 }
 
+QString getLines(std::vector<std::string> const& lines)
+{
+    QString text;
+    for (auto const& line : lines)
+        text += ui::toQString(line) + '\n';
+    return text;
+}
+
 } // namespace qev::application

@@ -11,4 +11,7 @@ namespace qev::application {
 /// \p arguments in place of "%1" to "%9".
 [[nodiscard]] QString getText(std::string_view key, std::vector<QString> const& arguments = {});
 
+/// \p lines as one text, each line with its end.
+[[nodiscard]] QString getLines(std::vector<std::string> const& lines);
+
 } // namespace qev::application

@@ -24,7 +24,7 @@ DefinitionsResult addDefinitions(std::filesystem::path const& fileOrFolder)
     }
     ifc::def::addTexts(read.definitions, "IfcProperties", resource::localization::getAdminInstance());
     ifc::SchemaLoader::curr()
-        .pSchemaFromName("IFC4X3_TC1")
+        .pSchemaFromName(ifc::SchemaLoader::modelVersion)
         ->addDefinitions(fileOrFolder.string(), std::move(read.definitions));
     return result;
 }

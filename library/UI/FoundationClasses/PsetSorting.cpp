@@ -71,7 +71,7 @@ bool psetCompareLess(std::shared_ptr<FcPropertySetDefinition const> const& a,
 }
 
 PropertyCompareLess::PropertyCompareLess(FcPropertySetDefinition const& set)
-    : PropertyCompareLess(set, ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"))
+    : PropertyCompareLess(set, ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion))
 {
 }
 
