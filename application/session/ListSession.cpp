@@ -62,7 +62,7 @@ ListSession::ListSession(std::shared_ptr<fc::Data> data, std::vector<std::string
     formatter->addStrategy(identity);
     std::vector<std::string> const contexts = {"IfcProperties", "Ifc", "FoundationClassesUi"};
     m_control = std::make_shared<PropertySetListControl>(
-        ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1"), m_data, m_dialog, listId,
+        ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_data, m_dialog, listId,
         std::make_shared<ListColumnFilter>(std::move(columns)), Formatters{nullptr, formatter}, contexts,
         nullptr);
     identity->setFirstColumn([control = m_control.get()] { return firstColumnOf(*control); });
