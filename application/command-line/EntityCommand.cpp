@@ -10,9 +10,6 @@ namespace qev::application {
 
 namespace {
 
-/// So many objects take some ten megabytes.
-constexpr std::size_t mostObjects = 20'000;
-
 // --- Printing ---------------------------------------------------------------------------------------
 
 struct JsonOfValue
@@ -127,8 +124,7 @@ ExitCode printAll(ifc::IfcFile const& file, EntityOptions const& options)
         if (!entity)
             continue;
         print(file, entity, options);
-        if (data.objectCount() > mostObjects)
-            data.releaseUnused();
+        releaseIfMany(data);
     }
     return ExitCode::Success;
 }

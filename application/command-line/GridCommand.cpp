@@ -10,10 +10,6 @@ namespace qev::application {
 
 namespace {
 
-/// So many objects take some ten megabytes. Neighbours share types and relations, which are read again
-/// after each release.
-constexpr std::size_t mostObjects = 20'000;
-
 Json checkedOf(ui::PropertyGridRowRecord const& record)
 {
     if (!record.checked)
@@ -106,8 +102,7 @@ ExitCode runGrid(GridOptions const& options)
         print(objects, session.groups(), options);
         session.show({});
         objects.clear();
-        if (file->data()->objectCount() > mostObjects)
-            file->data()->releaseUnused();
+        releaseIfMany(*file->data());
     }
     if (!options.each && !objects.empty()) {
         session.show(objects);

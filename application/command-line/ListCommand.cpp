@@ -13,9 +13,6 @@ namespace qev::application {
 
 namespace {
 
-/// Objects beside those of the rows that are read for their values; when there are so many, they are let go.
-constexpr std::size_t mostObjects = 20'000;
-
 std::vector<std::string> wantedColumns(std::string const& text)
 {
     auto const rows = str::readDelimited(text, ',');
@@ -131,11 +128,7 @@ private:
         printTable(table);
     }
 
-    void release()
-    {
-        if (m_data.objectCount() > rowCount() + mostObjects)
-            m_data.releaseUnused();
-    }
+    void release() { releaseIfMany(m_data, rowCount()); }
 
     fc::Data& m_data;
     ListSession& m_session;

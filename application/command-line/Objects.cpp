@@ -48,4 +48,11 @@ std::vector<fc::EntityIndex> findObjects(ifc::IfcFile const& file, ObjectSelecti
     return places;
 }
 
+void releaseIfMany(fc::Data& data, std::size_t held)
+{
+    constexpr std::size_t mostObjects = 20'000;
+    if (data.objectCount() > held + mostObjects)
+        data.releaseUnused();
+}
+
 } // namespace qev::application

@@ -2,6 +2,7 @@
 
 #include "Format/Ifc/Model/IfcFile.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,10 @@ struct ObjectSelection
 /// The places of the selected objects: in the order of the global ids, or by class and then as in the file.
 /// What cannot be found is told on the error stream.
 std::vector<fc::EntityIndex> findObjects(ifc::IfcFile const& file, ObjectSelection const& selection);
+
+/// Lets go of what nobody holds any more, once there are so many objects beside \p held of them that they
+/// take some ten megabytes. Neighbours share types and relations, which are read again after each release.
+void releaseIfMany(fc::Data& data, std::size_t held = 0);
 
 /// The class of the model with this schema name, in any case; null for an unknown one.
 fc::EntityClass const* findClass(std::string const& name);
