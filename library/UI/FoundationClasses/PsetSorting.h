@@ -43,6 +43,8 @@ psetCompareLess(std::shared_ptr<core::kernel::FcPropertySetDefinition const> con
 class QEVFOUNDATIONCLASSESUI_EXPORT PropertyCompareLess
 {
 public:
+    /// For entries that are in no set: by name alone.
+    PropertyCompareLess() = default;
     /// For the entries of \p set, by the definition of its name. A set that has no name, or one that the
     /// standard does not know, is sorted by name alone.
     explicit PropertyCompareLess(core::kernel::FcPropertySetDefinition const& set);

@@ -12,7 +12,11 @@ namespace qev::fc::resource::property {
 class HOSTFOUNDATIONCLASSES_EXPORT FcPropertySingleValue : public FcPropertySingleValueAttributes
 {
 public:
-    /// Stores a value of the generic editor; false, and no change, when there is none or it does not fit the type.
+    /// Stores a value of the generic editor. One that does not fit the type changes nothing; a property
+    /// without a value takes the simple type of that kind.
+    ///
+    /// \returns false, and changes nothing, when \p value empties the property: it is not set, nothing at
+    /// all, or the empty text where the type is not one of texts, and the property has a value.
     bool setFromPropertyValue(object::PropertyValue const& value);
 };
 

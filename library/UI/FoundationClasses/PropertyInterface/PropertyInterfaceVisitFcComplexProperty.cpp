@@ -1,20 +1,55 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Property/FcComplexProperty.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 #include "UI/FoundationClasses/PropertyInterface/SetValue.h"
-
-#include "FoundationClasses/Resource/Property/FcComplexProperty.h"
+#include "UI/FoundationClasses/PropertyInterface/VisitReports.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::property::FcComplexProperty;
 
-bool GetProperties::visit(FcComplexProperty const&) { return true; }
+namespace {
 
-bool SetValue::visit(FcComplexProperty&) { return true; }
+constexpr char membersId[] = "HasProperties";
 
-bool GetPropertyName::visit(FcComplexProperty const&) { return true; }
+} // namespace
 
-bool GetPropertyDescription::visit(FcComplexProperty const&) { return true; }
+bool GetProperties::visit(FcComplexProperty const& property)
+{
+    property.FcProperty::accept(*this);
+    auto const row = groupOf(*this);
+    if (!row)
+        return false;
+    auto list = makeList(membersId, property);
+    for (auto const& member : property.HasProperties->get())
+        appendPropertiesOf(member, *list);
+    row->children.push_back(std::move(list));
+    return false;
+}
+
+bool SetValue::visit(FcComplexProperty&)
+{
+    reportSetValueNotImplemented("FcComplexProperty");
+    return false;
+}
+
+bool GetPropertyName::visit(FcComplexProperty const&)
+{
+    if (id.text() != membersId)
+        return true;
+    name = localizeWithFallback("IfcComplexProperty.HasProperties", membersId);
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcComplexProperty const&)
+{
+    if (id.text() != membersId)
+        return true;
+    description = localize("IfcComplexProperty.HasProperties_Description");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

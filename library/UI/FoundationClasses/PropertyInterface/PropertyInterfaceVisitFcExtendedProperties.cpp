@@ -1,20 +1,56 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Property/FcExtendedProperties.h"
+#include "FoundationClasses/Resource/Property/FcProperty.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 #include "UI/FoundationClasses/PropertyInterface/SetValue.h"
-
-#include "FoundationClasses/Resource/Property/FcExtendedProperties.h"
+#include "UI/FoundationClasses/PropertyInterface/VisitReports.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::property::FcExtendedProperties;
 
-bool GetProperties::visit(FcExtendedProperties const&) { return true; }
+namespace {
 
-bool SetValue::visit(FcExtendedProperties&) { return true; }
+constexpr char membersId[] = "Properties";
 
-bool GetPropertyName::visit(FcExtendedProperties const&) { return true; }
+} // namespace
 
-bool GetPropertyDescription::visit(FcExtendedProperties const&) { return true; }
+bool GetProperties::visit(FcExtendedProperties const& extended)
+{
+    extended.FcPropertyAbstraction::accept(*this);
+    auto const group = groupOf(*this);
+    if (!group)
+        return false;
+    auto list = makeList(membersId, extended);
+    for (auto const& member : extended.Properties->get())
+        appendPropertiesOf(member, *list);
+    group->children.push_back(std::move(list));
+    return false;
+}
+
+bool SetValue::visit(FcExtendedProperties&)
+{
+    reportSetValueNotImplemented("FcExtendedProperties");
+    return false;
+}
+
+bool GetPropertyName::visit(FcExtendedProperties const&)
+{
+    if (id.text() != membersId)
+        return true;
+    name = localizeWithFallback("IfcExtendedProperties.Properties", membersId);
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcExtendedProperties const&)
+{
+    if (id.text() != membersId)
+        return true;
+    description = localize("IfcExtendedProperties.Properties_Description");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

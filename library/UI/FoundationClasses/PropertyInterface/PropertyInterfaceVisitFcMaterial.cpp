@@ -1,17 +1,48 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Material/FcMaterial.h"
+#include "FoundationClasses/Resource/Material/FcMaterialProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
-
-#include "FoundationClasses/Resource/Material/FcMaterial.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::material::FcMaterial;
 
-bool GetProperties::visit(FcMaterial const&) { return true; }
+namespace {
 
-bool GetPropertyName::visit(FcMaterial const&) { return true; }
+constexpr char propertiesId[] = "Properties";
 
-bool GetPropertyDescription::visit(FcMaterial const&) { return true; }
+} // namespace
+
+bool GetProperties::visit(FcMaterial const& material)
+{
+    material.FcMaterialDefinition::accept(*this);
+    auto const group = groupOf(*this);
+    if (!group)
+        return false;
+    auto list = makeList(propertiesId, material);
+    for (auto const& set : liveOnes(material.HasProperties()))
+        appendPropertiesOf(set, *list);
+    group->children.push_back(std::move(list));
+    return false;
+}
+
+bool GetPropertyName::visit(FcMaterial const&)
+{
+    if (id.text() != propertiesId)
+        return true;
+    name = localizeWithFallback("IfcMaterial.HasProperties", "HasProperties");
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcMaterial const&)
+{
+    if (id.text() != propertiesId)
+        return true;
+    description = localizeWithFallback("IfcMaterial.HasProperties_Description", "Properties of the material");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

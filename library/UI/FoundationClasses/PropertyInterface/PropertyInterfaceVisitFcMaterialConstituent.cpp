@@ -1,17 +1,45 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Material/FcMaterial.h"
+#include "FoundationClasses/Resource/Material/FcMaterialConstituent.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
-
-#include "FoundationClasses/Resource/Material/FcMaterialConstituent.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::material::FcMaterialConstituent;
 
-bool GetProperties::visit(FcMaterialConstituent const&) { return true; }
+bool GetProperties::visit(FcMaterialConstituent const& constituent)
+{
+    constituent.FcMaterialDefinition::accept(*this);
+    auto const group = groupOf(*this);
+    if (!group)
+        return false;
+    // The heading shows the name already.
+    for (auto const& row : group->children) {
+        if (row->id.text() == "Name")
+            row->standalone = false;
+    }
+    appendPropertiesOf(constituent.Material->get(), *group);
+    return false;
+}
 
-bool GetPropertyName::visit(FcMaterialConstituent const&) { return true; }
+bool GetPropertyName::visit(FcMaterialConstituent const& constituent)
+{
+    if (id.text() != FcBaseGroupProperty)
+        return true;
+    auto const& ownName = constituent.Name.get();
+    name = ownName ? *ownName : localize("IfcMaterialConstituent");
+    return false;
+}
 
-bool GetPropertyDescription::visit(FcMaterialConstituent const&) { return true; }
+bool GetPropertyDescription::visit(FcMaterialConstituent const&)
+{
+    if (id.text() != FcBaseGroupProperty)
+        return true;
+    description = localizeWithFallback("IfcMaterialConstituent_Description", "Material constituent");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

@@ -1,23 +1,65 @@
+#include "FoundationClasses/Localize.h"
+#include "FoundationClasses/Resource/Material/FcMaterialLayer.h"
+#include "FoundationClasses/Resource/Material/FcMaterialLayerSet.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
 #include "UI/FoundationClasses/PropertyInterface/GetValue.h"
+#include "UI/FoundationClasses/PropertyInterface/MaterialRows.h"
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 #include "UI/FoundationClasses/PropertyInterface/SetValue.h"
-
-#include "FoundationClasses/Resource/Material/FcMaterialLayerSet.h"
+#include "UI/FoundationClasses/PropertyInterface/VisitReports.h"
 
 namespace qev::fc::ui::propertyinterface {
 
 using resource::material::FcMaterialLayerSet;
 
-bool GetProperties::visit(FcMaterialLayerSet const&) { return true; }
+namespace {
 
-bool GetValue::visit(FcMaterialLayerSet const&) { return true; }
+constexpr char layersId[] = "MaterialLayers";
 
-bool SetValue::visit(FcMaterialLayerSet&) { return true; }
+} // namespace
 
-bool GetPropertyName::visit(FcMaterialLayerSet const&) { return true; }
+bool GetProperties::visit(FcMaterialLayerSet const& set)
+{
+    set.FcMaterialDefinition::accept(*this);
+    auto const group = groupOf(*this);
+    if (!group)
+        return false;
+    auto list = makeList(layersId, set);
+    for (auto const& layer : set.MaterialLayers->get())
+        appendPropertiesOf(layer, *list);
+    group->children.push_back(std::move(list));
+    return false;
+}
 
-bool GetPropertyDescription::visit(FcMaterialLayerSet const&) { return true; }
+bool GetValue::visit(FcMaterialLayerSet const& set)
+{
+    if (id.text() == layersId)
+        value = nameAndDescription(set.LayerSetName, set.Description);
+    return true;
+}
+
+bool SetValue::visit(FcMaterialLayerSet&)
+{
+    reportSetValueNotImplemented("FcMaterialLayerSet");
+    return true;
+}
+
+bool GetPropertyName::visit(FcMaterialLayerSet const&)
+{
+    if (id.text() != layersId)
+        return true;
+    name = localizeWithFallback("IfcMaterialLayerSet.MaterialLayers", "MaterialLayers");
+    return false;
+}
+
+bool GetPropertyDescription::visit(FcMaterialLayerSet const&)
+{
+    if (id.text() != layersId)
+        return true;
+    description = localizeWithFallback("IfcMaterialLayerSet.MaterialLayers_Description", "Material layers");
+    return false;
+}
 
 } // namespace qev::fc::ui::propertyinterface

@@ -15,8 +15,6 @@ using resource::property::FcProperty;
 
 namespace {
 
-constexpr char nameId[] = "Name";
-
 /// The key of the texts of a property, by the first of its sets that has a name; nothing without such a set.
 std::optional<std::string> textKey(FcProperty const& property)
 {
@@ -32,14 +30,14 @@ std::optional<std::string> textKey(FcProperty const& property)
 bool GetProperties::visit(FcProperty const& property)
 {
     auto row = makeRow(property.Name.get(), property);
-    row->mappedId = object::PropertyId(nameId);
+    row->mappedId = object::PropertyId(propertyNameId);
     properties.push_back(std::move(row));
     return false;
 }
 
 bool GetValue::visit(FcProperty const& property)
 {
-    if (id.text() == nameId)
+    if (id.text() == propertyNameId)
         value = property.Name.get();
     else
         reportInVisit(std::string("Property of ") + property.getEntityName() + " has not been implemented.",
@@ -55,7 +53,7 @@ bool SetValue::visit(FcProperty&)
 
 bool GetPropertyName::visit(FcProperty const& property)
 {
-    if (id.text() != nameId)
+    if (id.text() != propertyNameId)
         return true;
     auto const key = textKey(property);
     name = key ? localizeWithFallback(*key, property.Name.get()) : property.Name.get();
@@ -64,7 +62,7 @@ bool GetPropertyName::visit(FcProperty const& property)
 
 bool GetPropertyDescription::visit(FcProperty const& property)
 {
-    if (id.text() != nameId)
+    if (id.text() != propertyNameId)
         return true;
     if (auto const key = textKey(property))
         description = localize(*key + "_Description");

@@ -11,12 +11,6 @@ namespace qev::fc::ui::propertyinterface {
 
 using core::kernel::FcPropertySet;
 
-namespace {
-
-constexpr char emptyProperty[] = "emptyProperty";
-
-} // namespace
-
 bool GetProperties::visit(FcPropertySet const& set)
 {
     set.FcPropertySetDefinition::accept(*this);
@@ -28,13 +22,13 @@ bool GetProperties::visit(FcPropertySet const& set)
     for (auto const& member : members)
         appendPropertiesOf(member, *group);
     if (members.empty())
-        group->children.push_back(makeRow(emptyProperty, set));
+        group->children.push_back(makeRow(emptyPropertyId, set));
     return false;
 }
 
 bool GetPropertyName::visit(FcPropertySet const&)
 {
-    if (id.text() != emptyProperty)
+    if (id.text() != emptyPropertyId)
         return true;
     name = "Empty property set";
     return false;

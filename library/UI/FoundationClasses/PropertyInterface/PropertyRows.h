@@ -21,6 +21,10 @@ class GetProperties;
 
 /// The id under which an entity answers for the heading above its rows.
 inline constexpr char FcBaseGroupProperty[] = "FcBaseGroupProperty";
+/// The id under which a property answers for itself, where its kind has no id of its own.
+inline constexpr char propertyNameId[] = "Name";
+/// The row of a set that holds nothing.
+inline constexpr char emptyPropertyId[] = "emptyProperty";
 
 // --- Nodes ------------------------------------------------------------------------------------------
 

@@ -143,22 +143,65 @@ TEST(SetFromPropertyValue, StoresWhatFitsTheType)
 {
     auto const property = singleValue("Width", length(2.5));
     EXPECT_TRUE(property->setFromPropertyValue(PropertyValue(3.0)));
-    EXPECT_EQ(property->NominalValue->valueAsDoubleGet(), 3.0);
-    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue("wide")));
-    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue()));
-    EXPECT_EQ(property->NominalValue->valueAsDoubleGet(), 3.0);
+    EXPECT_EQ(property->NominalValue.get(), length(3.0));
+    EXPECT_TRUE(property->setFromPropertyValue(PropertyValue(std::optional(4.0))));
+    EXPECT_EQ(property->NominalValue.get(), length(4.0));
 }
 
-TEST(SetFromPropertyValue, ARefusedValueIsNoChangeOfTheModel)
+TEST(SetFromPropertyValue, RefusesWhatEmptiesTheProperty)
+{
+    auto const property = singleValue("Width", length(2.5));
+    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue(std::optional<double>())));
+    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue(std::optional<std::string>())));
+    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue("")));
+    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue()));
+    EXPECT_EQ(property->NominalValue.get(), length(2.5));
+}
+
+TEST(SetFromPropertyValue, EmptiesNothingThatReadsAsUnset)
+{
+    auto const without = singleValue("P", {});
+    EXPECT_TRUE(without->setFromPropertyValue(PropertyValue(std::optional<std::string>())));
+    EXPECT_TRUE(without->setFromPropertyValue(PropertyValue("")));
+    EXPECT_TRUE(without->setFromPropertyValue(PropertyValue()));
+    auto const described = singleValue("P", valueOf("DescriptiveMeasure", "about"));
+    EXPECT_TRUE(described->setFromPropertyValue(PropertyValue(std::optional<double>())));
+    EXPECT_EQ(described->NominalValue->getAsString(false), "about");
+    EXPECT_FALSE(described->setFromPropertyValue(PropertyValue(std::optional<std::string>())));
+}
+
+TEST(SetFromPropertyValue, StoresTheEmptyTextInATypeOfTexts)
+{
+    auto const property = singleValue("Mark", label("A"));
+    EXPECT_TRUE(property->setFromPropertyValue(PropertyValue("")));
+    EXPECT_EQ(property->NominalValue.get(), label(""));
+}
+
+TEST(SetFromPropertyValue, AValueThatDoesNotFitIsNoChangeOfTheModel)
 {
     Model model;
     auto const set = model.addSet(model.wall("W1"), "Pset_X", {{"Width", length(2.5)}});
     auto const property = fc::entityCast<FcPropertySingleValue>(set->HasProperties.getProperties()[0]);
     model.data()->changes().setSaved();
-    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue("wide")));
+    EXPECT_TRUE(property->setFromPropertyValue(PropertyValue("wide")));
+    EXPECT_FALSE(property->setFromPropertyValue(PropertyValue("")));
     EXPECT_FALSE(model.data()->changes().isModified());
     EXPECT_TRUE(property->setFromPropertyValue(PropertyValue(3.0)));
     EXPECT_TRUE(model.data()->changes().isModified());
+}
+
+TEST(SetFromPropertyValue, GivesAPropertyWithoutAValueTheTypeOfTheKind)
+{
+    auto const stored = [](PropertyValue const& value) {
+        auto const property = singleValue("P", {});
+        property->setFromPropertyValue(value);
+        return property->NominalValue.get();
+    };
+    EXPECT_EQ(stored("A"), label("A"));
+    EXPECT_EQ(stored(2.5), real(2.5));
+    EXPECT_EQ(stored(3), integer(3));
+    EXPECT_EQ(stored(true), boolean(true));
+    EXPECT_EQ(stored(""), FcValue());
 }
 
 TEST(BoundedValueLine, ShowsBoundsAndSetPoint)
