@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Unit/QuantityPresentation.h"
+#include "FoundationClasses/Data.h"
 #include "FoundationClasses/FcBase.h"
 #include "library/kit/PropertyTree.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyAccess.h"

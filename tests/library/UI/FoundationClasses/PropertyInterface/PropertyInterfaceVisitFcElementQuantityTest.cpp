@@ -216,8 +216,8 @@ TEST_F(QuantityRows, TakeTheSetAlongWhenTheyAreTheLast)
     of(set).set("Area", std::optional<double>());
     of(set).set("Width", std::optional<double>());
 
-    EXPECT_EQ(set->getData(), nullptr);
-    EXPECT_EQ(relation->getData(), nullptr);
+    EXPECT_FALSE(of(set).isPresent());
+    EXPECT_FALSE(of(relation).isPresent());
     EXPECT_EQ(type->HasPropertySets.get(), std::nullopt);
     EXPECT_EQ(wall->getPropertySetDefinitionNonConst<FcElementQuantity>("Own"), nullptr);
     model.data()->changes().undo();

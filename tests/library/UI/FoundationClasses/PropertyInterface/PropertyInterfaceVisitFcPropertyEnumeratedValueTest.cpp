@@ -101,8 +101,7 @@ TEST_F(EnumeratedValueRow, GoesWithItsValue)
 {
     row().set(id, Text());
 
-    EXPECT_EQ(property->getData(), nullptr);
-    EXPECT_EQ(set->getData(), nullptr);
+    EXPECT_FALSE(row().isPresent());
     EXPECT_TRUE(wall->getPropertySetDefinitions<fc::core::kernel::FcPropertySet>().empty());
 }
 

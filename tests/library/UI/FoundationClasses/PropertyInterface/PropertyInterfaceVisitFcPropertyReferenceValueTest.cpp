@@ -66,7 +66,7 @@ struct ReferenceValueRow : testing::Test
 TEST_F(ReferenceValueRow, IsALeafThatAnswersByItsName)
 {
     EXPECT_EQ(row().tree(), "Source = Name\n");
-    EXPECT_EQ(row().name("Name"), "Own.Source");
+    EXPECT_EQ(row().name("Name"), "Source");
 }
 
 TEST_F(ReferenceValueRow, ShowsNothingForNoReference) { EXPECT_EQ(row().value("Name"), PropertyValue()); }

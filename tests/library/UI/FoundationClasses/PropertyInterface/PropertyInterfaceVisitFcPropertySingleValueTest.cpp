@@ -101,7 +101,7 @@ TEST_F(SingleValueRow, GoesWithItsValue)
 
     of(own).set("Name", Text());
 
-    EXPECT_EQ(own->getData(), nullptr);
+    EXPECT_FALSE(of(own).isPresent());
     ASSERT_EQ(set->HasProperties.getProperties().size(), 1U);
     EXPECT_EQ(set->HasProperties.getProperties()[0], other);
 }
@@ -110,7 +110,7 @@ TEST_F(SingleValueRow, TakesItsSetAlongWhenItWasTheLast)
 {
     of(property(length(1))).set("Name", std::optional<double>());
 
-    EXPECT_EQ(set->getData(), nullptr);
+    EXPECT_FALSE(of(set).isPresent());
     EXPECT_TRUE(wall->getPropertySetDefinitions<fc::core::kernel::FcPropertySet>().empty());
 }
 
@@ -120,7 +120,7 @@ TEST_F(SingleValueRow, StaysWhenItsOwnValueIsWrittenBack)
                               valueOf("DescriptiveMeasure", "about")}) {
         auto const own = property(value);
         of(own).set("Name", of(own).value("Name"));
-        EXPECT_NE(own->getData(), nullptr);
+        EXPECT_TRUE(of(own).isPresent());
         EXPECT_EQ(own->NominalValue.get(), value);
     }
 }
