@@ -26,6 +26,11 @@ public:
     {
     }
 
+    /// Tells if the entity is still in the model.
+    [[nodiscard]] bool isPresent() const
+    {
+        return m_entity.getData() == &m_data && !m_data.isDeleted(m_entity.getIndex());
+    }
     [[nodiscard]] PropertyNodes nodes() const { return fc::ui::propertyinterface::getProperties(m_entity); }
     [[nodiscard]] std::string tree() const { return treeText(nodes()); }
     [[nodiscard]] object::PropertyValue value(std::string const& id,

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <set>
+#include <stdexcept>
 
 namespace {
 
@@ -49,6 +50,16 @@ std::vector<PropertyId> localIdsOf(PropertyNodes const& nodes)
             ids.push_back(std::move(id));
     }
     return ids;
+}
+
+/// Asks for a label. Elements of a list alone are known by their number, and raise for other ids.
+void askForName(fc::Data const& data, fc::FcBase const& entity, PropertyId const& id)
+{
+    try {
+        static_cast<void>(getPropertyName(data, entity, id, std::nullopt));
+    } catch (std::invalid_argument const&) {
+        EXPECT_STREQ(entity.getEntityName(), "IfcPropertyListValue") << id.text();
+    }
 }
 
 /// The classes whose rows stand without a heading of their own, and those that list nothing while they are
@@ -95,7 +106,7 @@ TEST(EveryClass, AnswersAllQuestions)
             ids.emplace_back(id);
         for (PropertyId const& id : ids) {
             auto const value = getValue(*data, *entity, id, std::nullopt);
-            static_cast<void>(getPropertyName(*data, *entity, id, std::nullopt));
+            askForName(*data, *entity, id);
             static_cast<void>(getPropertyDescription(*entity, id));
             if (createQuantityPresentation(*data, *entity, id, std::nullopt)) {
                 EXPECT_TRUE(hasQuantityPresentation(*entity, id)) << id.text();
