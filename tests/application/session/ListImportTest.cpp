@@ -103,6 +103,13 @@ TEST_F(ListImportTest, AListWithoutPropertiesStillTellsItsObjects)
               "GlobalId,Name\n0000000000000000000030,North\n0000000000000000000033,Entrance\n");
 }
 
+TEST_F(ListImportTest, ATableOfSeveralClassesChangesNothingWhenItComesBackAsItIs)
+{
+    auto const result = import(csv({north, door}, {"Pset_WallCommon.FireRating"}));
+    EXPECT_THAT(result.changes, IsEmpty());
+    EXPECT_THAT(result.refusals, IsEmpty());
+}
+
 TEST_F(ListImportTest, TablesHaveAllDigitsUnitsAndTruthValues)
 {
     EXPECT_EQ(csv({west}, {"Own.Offset", "Pset_WallCommon.IsExternal"}),

@@ -165,6 +165,8 @@ void PropertySetListControl::initSets()
 void PropertySetListControl::refreshDisplay()
 {
     m_formatterObjectIndex.reset();
+    // The same row may be that of another object now, and columns of the host's own would show the old one.
+    m_listFormatterObjectIndex.reset();
     rebuildColumns();
     if (!m_listControl)
         return;

@@ -518,6 +518,15 @@ TEST_F(PropertySetListControlTest, ALocalValueOfARowThatIsNotThereIsReported)
     expectControlReport("Index out of range.", "setObjectFromIndexOnListControlFormatter");
 }
 
+TEST_F(PropertySetListControlTest, TheListFormatterIsToldOfTheNewObjectInTheSameRow)
+{
+    showWalls(2);
+    (void)list().containsLocalValue(0, 0);
+    show({walls[1]});
+    (void)list().containsLocalValue(0, 0);
+    EXPECT_THAT(listFormatter->objects, ElementsAre(walls[0], walls[1]));
+}
+
 // --- Events of rows -----------------------------------------------------------------------------
 
 TEST_F(PropertySetListControlTest, TheHostHearsOfRowsThatAreOpenedAndAskedAbout)
