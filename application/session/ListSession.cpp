@@ -1,5 +1,6 @@
 #include "ListSession.h"
 
+#include "Core/Localization/Dictionaries.h"
 #include "Core/Unit/QuantityPresentation.h"
 #include "Core/Utilities/ScopeGuard.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
@@ -60,11 +61,10 @@ ListSession::ListSession(std::shared_ptr<fc::Data> data, std::vector<std::string
     auto const identity = std::make_shared<IdentityColumns>();
     auto const formatter = std::make_shared<fc::ui::ListControlPropertyFormatter>();
     formatter->addStrategy(identity);
-    std::vector<std::string> const contexts = {"IfcProperties", "Ifc", "FoundationClassesUi"};
     m_control = std::make_shared<PropertySetListControl>(
         ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_data, m_dialog, listId,
-        std::make_shared<ListColumnFilter>(std::move(columns)), Formatters{nullptr, formatter}, contexts,
-        nullptr);
+        std::make_shared<ListColumnFilter>(std::move(columns)), Formatters{nullptr, formatter},
+        localization::Dictionaries::getContexts("IFC"), nullptr);
     identity->setFirstColumn([control = m_control.get()] { return firstColumnOf(*control); });
 }
 
