@@ -1,5 +1,6 @@
 #include "Ui/Qt/ListControl/QtListControl.h"
 
+#include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListHeaderPanel.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
@@ -9,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QScrollBar>
 #include <QSizeGrip>
 #include <QToolButton>
@@ -26,17 +28,19 @@ constexpr std::size_t portionCells = 2000;
 constexpr std::size_t mostRefusalsInNotice = 5;
 constexpr std::size_t mostRefusalsInDetails = 50;
 
-QString translate(char const* text) { return QCoreApplication::translate("QtListControl", text); }
+QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
-char const* getReasonText(ListRefusalReason reason)
+QString getNumberText(std::size_t number) { return QLocale().toString(static_cast<qulonglong>(number)); }
+
+char const* getReasonKey(ListRefusalReason reason)
 {
     switch (reason) {
     case ListRefusalReason::NotEditable:
-        return "%1, row %L2: cannot be changed";
+        return "List_NotEditable";
     case ListRefusalReason::NotAnEntry:
-        return "%1, row %L2: “%3” is none of the values it can have";
+        return "List_NotAnEntry";
     case ListRefusalReason::NotTaken:
-        return "%1, row %L2: does not take “%3”";
+        return "List_NotTaken";
     }
     return "";
 }
@@ -66,9 +70,9 @@ QtListControl::QtListControl(unsigned int style, QWidget* parent)
     connectView();
     updateBehaviour();
     setFocusProxy(m_view);
+    setTexts();
     m_work.setInterval(0);
     connect(&m_work, &QTimer::timeout, this, &QtListControl::doWork);
-    updateCounts();
 }
 
 QtListControl::~QtListControl() = default;
@@ -229,13 +233,27 @@ void QtListControl::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void QtListControl::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+}
+
+void QtListControl::setTexts()
+{
+    m_filterBox->setPlaceholderText(getText("List_Filter"));
+    m_findBox->setPlaceholderText(getText("List_Find"));
+    m_nextButton->setToolTip(getText("List_FindNext"));
+    m_previousButton->setToolTip(getText("List_FindPrevious"));
+    updateCounts();
+}
+
 void QtListControl::createLayout()
 {
     m_filterBox->setObjectName(QStringLiteral("listFilter"));
-    m_filterBox->setPlaceholderText(translate("Filter all columns"));
     m_filterBox->setClearButtonEnabled(true);
     m_findBox->setObjectName(QStringLiteral("listFind"));
-    m_findBox->setPlaceholderText(translate("Find (F3 for the next)"));
     m_notice->setWordWrap(true);
     m_notice->setAutoFillBackground(true);
     m_notice->setForegroundRole(QPalette::ToolTipText);
@@ -252,7 +270,7 @@ void QtListControl::createLayout()
     for (bool const forwards : {false, true}) {
         auto* const button = new QToolButton;
         button->setArrowType(forwards ? Qt::DownArrow : Qt::UpArrow);
-        button->setToolTip(forwards ? translate("Next (F3)") : translate("Previous (Shift+F3)"));
+        (forwards ? m_nextButton : m_previousButton) = button;
         connect(button, &QToolButton::clicked, this, [this, forwards] { findNext(forwards); });
         findLayout->addWidget(button);
     }
@@ -431,7 +449,7 @@ bool QtListControl::advanceFinder()
         m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
         m_view->scrollTo(index);
     } else {
-        m_findState->setText(translate("Not found"));
+        m_findState->setText(getText("List_NotFound"));
     }
     m_finder.reset();
     return false;
@@ -440,16 +458,16 @@ bool QtListControl::advanceFinder()
 void QtListControl::updateCounts()
 {
     auto const& order = m_cells->getOrder();
+    auto const all = getNumberText(order.getRowCount());
     auto text = order.getShownCount() == order.getRowCount()
-                    ? translate("%L1 rows").arg(order.getRowCount())
-                    : translate("%L1 of %L2 rows shown").arg(order.getShownCount()).arg(order.getRowCount());
+                    ? getText("List_Rows").arg(all)
+                    : getText("List_RowsShown").arg(getNumberText(order.getShownCount()), all);
     if (auto const selected = m_view->countSelectedRows(); selected > 0)
-        text += translate(", %L1 selected").arg(selected);
+        text += ", " + getText("List_Selected").arg(getNumberText(selected));
     if (order.isPending() && order.getRowCount() > 0)
-        text += translate(" – looking through all rows: %1 %")
-                    .arg(100 * order.getProgress() / order.getRowCount());
+        text += " – " + getText("List_Working").arg(100 * order.getProgress() / order.getRowCount());
     else if (m_finder)
-        text += translate(" – searching …");
+        text += " – " + getText("List_Searching");
     m_counts->setText(text);
 }
 
@@ -471,10 +489,10 @@ void QtListControl::tell(ListEditResult const& result)
     QStringList lines;
     for (std::size_t i = 0; i < std::min(count, mostRefusalsInDetails); ++i)
         lines.push_back(describe(result.refusals[i]));
-    auto text = translate("%L1 changed, %L2 refused: ").arg(result.takenCells).arg(count);
+    auto text = getText("List_Refused").arg(getNumberText(result.takenCells), getNumberText(count)) + ' ';
     text += lines.mid(0, static_cast<qsizetype>(mostRefusalsInNotice)).join(QLatin1String("; "));
     if (count > mostRefusalsInNotice)
-        text += translate("; and %L1 more").arg(count - mostRefusalsInNotice);
+        text += "; " + getText("List_MoreRefused").arg(getNumberText(count - mostRefusalsInNotice));
     showNotice(text, lines.join(QLatin1Char('\n')));
 }
 
@@ -490,10 +508,9 @@ QString QtListControl::describe(ListRefusal const& refusal) const
     auto const positions = m_cells->getOrder().getPositions({refusal.item.item.value_or(0)});
     // People count rows from one, as they see them.
     auto const place = positions.empty() ? refusal.item.item.value_or(0) : positions.front();
-    auto text = translate(getReasonText(refusal.reason))
-                    .arg(getTitle(static_cast<int>(refusal.item.column.value_or(0))))
-                    .arg(place + 1);
-    return refusal.reason == ListRefusalReason::NotEditable ? text : text.arg(toQString(refusal.text));
+    auto const title = fromQString(getTitle(static_cast<int>(refusal.item.column.value_or(0))));
+    return toQString(localize(getReasonKey(refusal.reason), "Ui",
+                              {title, fromQString(getNumberText(place + 1)), refusal.text}));
 }
 
 } // namespace qev::ui

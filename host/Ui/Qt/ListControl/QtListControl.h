@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
+#include <QToolButton>
 #include <QWidget>
 #include <string>
 #include <vector>
@@ -68,6 +69,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     /// What is selected and current, by rows that stay the same when their order does not.
@@ -82,6 +84,8 @@ private:
     };
 
     void createLayout();
+    /// In the current language.
+    void setTexts();
     void connectView();
     void keepPlace();
     void restorePlace();
@@ -107,6 +111,8 @@ private:
     QWidget* m_findBar;
     QLineEdit* m_findBox;
     QLabel* m_findState;
+    QToolButton* m_previousButton = nullptr;
+    QToolButton* m_nextButton = nullptr;
     QLabel* m_counts;
     QLabel* m_notice;
     QTimer m_work;

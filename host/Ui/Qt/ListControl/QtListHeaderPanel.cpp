@@ -1,9 +1,9 @@
 #include "Ui/Qt/ListControl/QtListHeaderPanel.h"
 
+#include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListControl.h"
 #include "Ui/Qt/QtText.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -14,7 +14,7 @@ namespace qev::ui {
 
 namespace {
 
-QString translate(char const* text) { return QCoreApplication::translate("QtListHeaderPanel", text); }
+QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
 } // namespace
 
@@ -45,8 +45,8 @@ QtListHeaderPanel::~QtListHeaderPanel() = default;
 void QtListHeaderPanel::addSortButtons(QVBoxLayout& layout)
 {
     auto* const row = new QHBoxLayout;
-    auto const addButton = [&](char const* text, auto action) {
-        auto* const button = new QPushButton(translate(text));
+    auto const addButton = [&](char const* key, auto action) {
+        auto* const button = new QPushButton(getText(key));
         connect(button, &QPushButton::clicked, this, [this, action] {
             action();
             close();
@@ -54,17 +54,17 @@ void QtListHeaderPanel::addSortButtons(QVBoxLayout& layout)
         row->addWidget(button);
     };
     auto const column = static_cast<std::size_t>(m_column);
-    addButton("Sort up", [this, column] { m_list.setSorting({{column, false}}); });
-    addButton("Sort down", [this, column] { m_list.setSorting({{column, true}}); });
-    addButton("Do not sort", [this] { m_list.setSorting({}); });
-    addButton("Fit width", [this] { m_list.getView().fitColumn(m_column); });
+    addButton("List_SortUp", [this, column] { m_list.setSorting({{column, false}}); });
+    addButton("List_SortDown", [this, column] { m_list.setSorting({{column, true}}); });
+    addButton("List_DoNotSort", [this] { m_list.setSorting({}); });
+    addButton("List_FitWidth", [this] { m_list.getView().fitColumn(m_column); });
     layout.addLayout(row);
 }
 
 void QtListHeaderPanel::addFilter(QVBoxLayout& layout)
 {
     m_filter->setObjectName(QStringLiteral("columnFilter"));
-    m_filter->setPlaceholderText(translate("Show rows with … (also =F30, !=, >2.5, <=10)"));
+    m_filter->setPlaceholderText(getText("List_ColumnFilter"));
     m_filter->setClearButtonEnabled(true);
     m_filter->setText(m_list.getColumnFilter(static_cast<std::size_t>(m_column)));
     connect(m_filter, &QLineEdit::textChanged, this, [this](QString const& text) {
@@ -76,7 +76,7 @@ void QtListHeaderPanel::addFilter(QVBoxLayout& layout)
 
 void QtListHeaderPanel::addColumns(QVBoxLayout& layout)
 {
-    m_search->setPlaceholderText(translate("Search columns"));
+    m_search->setPlaceholderText(getText("List_SearchColumns"));
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this, [this](QString const& text) { searchColumns(text); });
     layout.addWidget(m_search);
@@ -86,7 +86,7 @@ void QtListHeaderPanel::addColumns(QVBoxLayout& layout)
                                    item->checkState() != Qt::Checked);
     });
     layout.addWidget(m_columnList);
-    auto* const resetButton = new QPushButton(translate("Columns as at first"));
+    auto* const resetButton = new QPushButton(getText("List_ResetColumns"));
     connect(resetButton, &QPushButton::clicked, this, [this] {
         m_list.resetArrangement();
         fillColumnList();

@@ -1,5 +1,6 @@
 #include "Ui/Qt/ListControl/QtListView.h"
 
+#include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListCellPainter.h"
 #include "Ui/Qt/ListControl/QtListDelegate.h"
 #include "Ui/Qt/QtText.h"
@@ -11,6 +12,7 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QToolTip>
@@ -38,12 +40,9 @@ private:
     std::function<void()> m_action;
 };
 
-QString translate(char const* text) { return QCoreApplication::translate("QtListControl", text); }
+QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
-std::string getMenuText(char const* text, char const* keys)
-{
-    return fromQString(translate(text)) + '\t' + keys;
-}
+std::string getMenuText(std::string_view key, char const* keys) { return localize(key, "Ui") + '\t' + keys; }
 
 } // namespace
 
@@ -149,7 +148,7 @@ void QtListView::paste()
                         })->size();
     tell(editing->paste(rows, columns, block));
     if (rows.size() < block.size() || columns.size() < widest)
-        fireEvents(onMessage, translate("Some of what was pasted had no place in the list."));
+        fireEvents(onMessage, getText("List_NoPlace"));
 }
 
 void QtListView::clearCells()
@@ -322,13 +321,14 @@ void QtListView::contextMenuEvent(QContextMenuEvent* event)
     };
     if (index.isValid() && !m_behaviour.isMenuOfRows) {
         bool const canWrite = !m_behaviour.isReadOnly;
-        add(getMenuText("Copy", "Ctrl+C"), true, true, [this] { copySelection(false); });
-        add(getMenuText("Copy with headers", "Ctrl+Shift+C"), true, false, [this] { copySelection(true); });
-        add(getMenuText("Paste", "Ctrl+V"), canWrite, false, [this] { paste(); });
-        add(getMenuText("Fill down", "Ctrl+D"), canWrite, false, [this] { fillDown(); });
-        add(getMenuText("Clear", "Del"), canWrite, false, [this] { clearCells(); });
+        add(getMenuText("List_Copy", "Ctrl+C"), true, true, [this] { copySelection(false); });
+        add(getMenuText("List_CopyWithHeaders", "Ctrl+Shift+C"), true, false,
+            [this] { copySelection(true); });
+        add(getMenuText("List_Paste", "Ctrl+V"), canWrite, false, [this] { paste(); });
+        add(getMenuText("List_FillDown", "Ctrl+D"), canWrite, false, [this] { fillDown(); });
+        add(getMenuText("List_Clear", "Del"), canWrite, false, [this] { clearCells(); });
         if (fireEvent(control->onDoesItemContainLocalValue, item))
-            add(fromQString(translate("Reset to global value")), canWrite, true,
+            add(localize("List_Reset", "Ui"), canWrite, true,
                 [this, place = QPersistentModelIndex(index)] { resetToGlobalValues(place); });
     }
     QPointer<QtListView> const self(this);
@@ -439,9 +439,8 @@ bool QtListView::mayTouchSelection()
     auto const count = countSelectedCells();
     if (count <= mostCells)
         return true;
-    fireEvents(
-        onMessage,
-        translate("Too many cells are selected for this: %L1, of %L2 at most.").arg(count).arg(mostCells));
+    fireEvents(onMessage,
+               getText("List_TooManyCells").arg(QLocale().toString(count), QLocale().toString(mostCells)));
     return false;
 }
 
@@ -482,7 +481,7 @@ bool QtListView::handleKey(QKeyEvent const& event)
         return beginEdit(currentIndex());
     if (event.key() == Qt::Key_F2 && modifiers == Qt::NoModifier) {
         if (!beginEdit(currentIndex()) && currentIndex().isValid())
-            fireEvents(onMessage, translate("This cannot be changed here."));
+            fireEvents(onMessage, getText("List_CannotBeChanged"));
         return true;
     }
     if (event.key() == Qt::Key_Delete && modifiers == Qt::NoModifier) {
