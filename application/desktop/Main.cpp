@@ -57,6 +57,7 @@ void showReport(qev::assert::AssertInfo const& info)
 struct Options
 {
     QCommandLineOption object{"object", "Select the object with this GlobalId.", "GUID"};
+    QCommandLineOption list{"list", "Show the list of objects."};
     QCommandLineOption screenshot{"screenshot", "Write a picture of the window to FILE.png and quit.",
                                   "FILE.png"};
     QCommandLineOption language{"language", "Use this language (en, de, fr) for this once.", "CODE"};
@@ -97,13 +98,17 @@ ProgramSettings getSettingsForPicture()
     return settings;
 }
 
-int takePicture(MainWindow& window, QString const& file, QString const& object, QString const& picture)
+int takePicture(MainWindow& window, QCommandLineParser const& parser, Options const& options)
 {
+    auto const file = parser.positionalArguments().value(0);
+    auto const object = parser.value(options.object);
+    auto const picture = parser.value(options.screenshot);
     window.setQuestions(makeSilentQuestions());
     if (!file.isEmpty() && !window.getFileActions().open(file))
         return notOpened;
     if (!object.isEmpty() && !window.selectObject(object))
         return fail(noSuchObject, "there is no object with the GlobalId " + object);
+    window.showList(parser.isSet(options.list));
     window.show();
     QCoreApplication::processEvents();
     if (!window.grab().save(picture))
@@ -126,8 +131,8 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     parser.addPositionalArgument("FILE", "an IFC file to open", "[FILE]");
     Options const options;
-    parser.addOptions({options.object, options.screenshot, options.language, options.units, options.theme,
-                       options.reports});
+    parser.addOptions({options.object, options.list, options.screenshot, options.language, options.units,
+                       options.theme, options.reports});
     parser.process(application);
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
     // only.
@@ -142,9 +147,11 @@ int main(int argc, char** argv)
         return fail(badUsage, "an option has a value that is not known; see --help");
     window.getSettingsActions().apply(settings);
     if (isPicture)
-        return takePicture(window, file, parser.value(options.object), parser.value(options.screenshot));
+        return takePicture(window, parser, options);
 
     window.restoreWindow();
+    if (parser.isSet(options.list))
+        window.showList(true);
     window.show();
     if (!file.isEmpty() && window.getFileActions().open(file) && parser.isSet(options.object) &&
         !window.selectObject(parser.value(options.object)))

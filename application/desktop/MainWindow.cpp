@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "FilePath.h"
+#include "ListPane.h"
 #include "MessagesPanel.h"
 #include "PropertyPane.h"
 #include "SearchPanel.h"
@@ -42,6 +43,8 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     , m_structure(new QTreeView)
     , m_search(new SearchPanel(*m_structure))
     , m_properties(new PropertyPane(m_backend, m_session))
+    , m_list(new ListPane(m_backend, m_session))
+    , m_views(new QTabWidget)
     , m_messages(new MessagesPanel)
     , m_structureDock(new QDockWidget(this))
     , m_messagesDock(new QDockWidget(this))
@@ -53,7 +56,7 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     , m_settingsActions(*this)
 {
     setAcceptDrops(true);
-    createProperties();
+    createViews();
     createStructure();
     createMessages();
     createMenus();
@@ -95,6 +98,7 @@ void MainWindow::restoreWindow()
     restoreGeometry(settings.value("window/geometry").toByteArray());
     restoreState(settings.value("window/state").toByteArray());
     m_properties->setGridLayout(settings.value("window/grid").toByteArray());
+    showList(settings.value("window/list").toBool());
     m_viewActions.restore();
 }
 
@@ -104,6 +108,7 @@ void MainWindow::storeWindow() const
     settings.setValue("window/geometry", saveGeometry());
     settings.setValue("window/state", saveState());
     settings.setValue("window/grid", m_properties->getGridLayout());
+    settings.setValue("window/list", m_views->currentWidget() == m_list);
     m_viewActions.store();
 }
 
@@ -139,16 +144,29 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
 }
 
-void MainWindow::createProperties()
+void MainWindow::showList(bool shown)
 {
-    setCentralWidget(m_properties);
+    m_views->setCurrentWidget(shown ? static_cast<QWidget*>(m_list) : m_properties);
+}
+
+void MainWindow::createViews()
+{
+    m_views->setDocumentMode(true);
+    m_views->addTab(m_properties, QString());
+    m_views->addTab(m_list, QString());
+    setCentralWidget(m_views);
     m_properties->onCurrentRowChanged.iHandlerAdd([this] { updateNote(); });
+    m_list->onActivated.iHandlerAdd([this](fc::EntityIndex object) {
+        select(object);
+        showList(false);
+    });
 }
 
 void MainWindow::createStructure()
 {
     m_structure->setModel(m_structureModel);
     m_structure->setUniformRowHeights(true);
+    m_structure->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_structure->header()->setStretchLastSection(false);
     m_structure->header()->setSectionResizeMode(StructureModel::nameColumn, QHeaderView::Stretch);
     m_structure->header()->setSectionResizeMode(StructureModel::classColumn, QHeaderView::ResizeToContents);
@@ -157,6 +175,9 @@ void MainWindow::createStructure()
                 if (current.isValid())
                     select(StructureModel::getObject(current));
             });
+    connect(m_structure->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { listSelection(); });
+    m_search->onFinished.iHandlerAdd([this] { m_list->setSearchHits(m_search->getObjects()); });
     m_search->onChosen.iHandlerAdd([this](fc::EntityIndex object) { select(object); });
     m_structureDock->setObjectName("structure");
     m_structureDock->setWidget(m_search);
@@ -187,6 +208,8 @@ void MainWindow::createMenus()
 
 void MainWindow::keepTexts()
 {
+    m_texts.keep([this] { m_views->setTabText(m_views->indexOf(m_properties), getText("View_Properties")); });
+    m_texts.keep([this] { m_views->setTabText(m_views->indexOf(m_list), getText("View_List")); });
     m_texts.keep([this] { m_structureDock->setWindowTitle(getText("Panel_Structure")); });
     m_texts.keep([this] { m_messagesDock->setWindowTitle(getText("Panel_Messages")); });
     m_texts.keep([this] {
@@ -205,9 +228,15 @@ void MainWindow::connectSession()
         updateTitle();
         statusBar()->showMessage(text, savedMilliseconds);
     });
-    m_settingsActions.onChanging.iHandlerAdd([this] { m_properties->leaveFile(); });
+    m_settingsActions.onChanging.iHandlerAdd([this] {
+        m_properties->leaveFile();
+        m_list->leaveFile();
+    });
     m_settingsActions.onChanged.iHandlerAdd([this] {
         m_properties->showFile();
+        m_list->showFile();
+        listSelection();
+        m_list->setSearchHits(m_search->getObjects());
         updateActions();
         updateNote();
     });
@@ -222,6 +251,7 @@ void MainWindow::leaveFile()
     m_structureModel->setData(nullptr);
     m_search->setData(nullptr);
     m_properties->leaveFile();
+    m_list->leaveFile();
 }
 
 void MainWindow::showFile()
@@ -230,6 +260,7 @@ void MainWindow::showFile()
     m_structureModel->setData(model);
     m_search->setData(model);
     m_properties->showFile();
+    m_list->showFile();
     m_structure->expandToDepth(2);
     m_structure->setFocus();
     m_shownMessages = 0;
@@ -261,9 +292,18 @@ void MainWindow::select(fc::EntityIndex object)
     updateMessages();
 }
 
+void MainWindow::listSelection()
+{
+    std::vector<fc::EntityIndex> objects;
+    for (auto const& place : m_structure->selectionModel()->selectedRows())
+        objects.push_back(StructureModel::getObject(place));
+    m_list->setSelection(std::move(objects));
+}
+
 void MainWindow::onModelChanged(std::vector<fc::EntityIndex> const& touched)
 {
     m_structureModel->refresh(touched);
+    m_list->showValues();
     updateActions();
     updateTitle();
     updateNote();

@@ -11,6 +11,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QMainWindow>
+#include <QTabWidget>
 #include <QTreeView>
 #include <vector>
 
@@ -20,13 +21,14 @@ class QtBackend;
 
 namespace qev::application {
 
+class ListPane;
 class MessagesPanel;
 class PropertyPane;
 class SearchPanel;
 class StructureModel;
 
-/// The window of the program: the structure of the building, the properties of the selected object,
-/// and the messages of the file.
+/// The window of the program: the structure of the building, the properties of the selected object or many
+/// objects as a list, and the messages of the file.
 ///
 /// It brings the panels together; what the menus do stands in `FileActions`, `EditActions`, `ViewActions` and
 /// `SettingsActions`.
@@ -48,6 +50,9 @@ public:
     [[nodiscard]] SettingsActions& getSettingsActions() { return m_settingsActions; }
     [[nodiscard]] InspectorSession& getSession() { return m_session; }
     [[nodiscard]] PropertyPane& getProperties() const { return *m_properties; }
+    [[nodiscard]] ListPane& getList() const { return *m_list; }
+    /// Brings the list to the front, or the properties of one object.
+    void showList(bool shown);
     [[nodiscard]] SearchPanel& getSearch() const { return *m_search; }
     [[nodiscard]] QTreeView& getStructure() const { return *m_structure; }
     [[nodiscard]] MessagesPanel& getMessages() const { return *m_messages; }
@@ -62,7 +67,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void createProperties();
+    void createViews();
     void createStructure();
     void createMessages();
     void createMenus();
@@ -72,6 +77,7 @@ private:
     void leaveFile();
     void showFile();
     void select(fc::EntityIndex object);
+    void listSelection();
     void onModelChanged(std::vector<fc::EntityIndex> const& touched);
     void updateActions();
     void updateTitle();
@@ -86,6 +92,8 @@ private:
     QTreeView* m_structure;
     SearchPanel* m_search;
     PropertyPane* m_properties;
+    ListPane* m_list;
+    QTabWidget* m_views;
     MessagesPanel* m_messages;
     QDockWidget* m_structureDock;
     QDockWidget* m_messagesDock;

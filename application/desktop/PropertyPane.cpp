@@ -1,6 +1,7 @@
 #include "PropertyPane.h"
 
 #include "Core/Localization/Dictionaries.h"
+#include "FilledDialog.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "ObjectLabel.h"
 #include "ShowAllFilter.h"
@@ -27,17 +28,6 @@ namespace {
 using fc::ui::PropertySetGridControl;
 using GridFormatters =
     fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>;
-
-/// A dialog whose children take all of its area.
-class FilledDialog final : public ui::Dialog
-{
-public:
-    void onSizeChanged(ui::Size const& size) override
-    {
-        for (auto const& child : getChildWindowManager()->getWindows())
-            child->setPlacement({0, 0, static_cast<int>(size.first), static_cast<int>(size.second)});
-    }
-};
 
 } // namespace
 

@@ -81,6 +81,14 @@ void SearchPanel::chooseNext()
     choose(next);
 }
 
+std::vector<fc::EntityIndex> SearchPanel::getObjects() const
+{
+    std::vector<fc::EntityIndex> objects;
+    for (int i = 0; i < m_hits->topLevelItemCount(); ++i)
+        objects.push_back(m_hits->topLevelItem(i)->data(0, objectRole).value<quint32>());
+    return objects;
+}
+
 bool SearchPanel::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_box && event->type() == QEvent::KeyPress &&
@@ -113,8 +121,10 @@ void SearchPanel::start()
     m_hits->setVisible(isSearch);
     m_count->setVisible(isSearch);
     m_whenEmpty->setVisible(!isSearch);
-    if (!isSearch)
+    if (!isSearch) {
+        fireEvents(onFinished);
         return;
+    }
     m_search.emplace(m_data, fromQString(text));
     m_portions.start();
     advance();
@@ -132,6 +142,7 @@ void SearchPanel::advance()
     m_portions.stop();
     m_search.reset();
     m_hits->header()->resizeSections(QHeaderView::ResizeToContents);
+    fireEvents(onFinished);
 }
 
 void SearchPanel::addHit(ObjectSearch::Hit const& hit)

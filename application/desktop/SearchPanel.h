@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWidget>
+#include <vector>
 
 namespace qev::application {
 
@@ -32,6 +33,11 @@ public:
     [[nodiscard]] QString getCountText() const { return m_count->text(); }
     [[nodiscard]] bool isSearching() const { return m_search.has_value() || m_delay.isActive(); }
 
+    /// The objects that were found.
+    [[nodiscard]] std::vector<fc::EntityIndex> getObjects() const;
+
+    /// Fired when a search has come to its end, or there is none any more.
+    EventHandlerContainer<void, void> onFinished;
     /// Fired with the object that the user has chosen from the hits.
     EventHandlerContainer<void, void, fc::EntityIndex> onChosen;
 

@@ -2,6 +2,7 @@
 
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "InspectorWindow.h"
+#include "ListPane.h"
 #include "MessagesPanel.h"
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
 
@@ -234,6 +235,40 @@ TEST_F(MainWindowTest, AnotherFileTakesThePlaceOfThePresentOne)
     EXPECT_TRUE(window->selectObject(westWall));
     EXPECT_EQ(value(fireRating()), "F30");
     EXPECT_THAT(asked, IsEmpty());
+}
+
+TEST_F(MainWindowTest, TheListShowsWhatStandsInTheSelectedObjects)
+{
+    open();
+    window->selectObject("0000000000000000000012");
+    EXPECT_THAT(window->getList().getObjects(), IsEmpty()) << "Nobody looks at it yet.";
+    window->showList(true);
+    EXPECT_EQ(window->getList().getObjects().size(), 4u);
+    window->getList().setScope(ListPane::Scope::Selection);
+    window->getStructure().selectAll();
+    EXPECT_GT(window->getList().getObjects().size(), 4u);
+}
+
+TEST_F(MainWindowTest, TheListShowsWhatWasFound)
+{
+    open();
+    window->showList(true);
+    window->getList().setScope(ListPane::Scope::SearchHits);
+    window->getSearch().getBox().setText("wall");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->getSearch().isSearching(); }));
+    EXPECT_EQ(window->getList().getObjects().size(), 2u);
+}
+
+TEST_F(MainWindowTest, ARowThatIsOpenedShowsItsProperties)
+{
+    open();
+    window->selectObject("0000000000000000000012");
+    window->showList(true);
+    auto const object = window->getSession().findObject(eastWall)->getIndex();
+    fireEvents(window->getList().onActivated, object);
+    EXPECT_EQ(window->getSession().getSelection()->getIndex(), object);
+    EXPECT_TRUE(window->getProperties().isVisible());
+    EXPECT_FALSE(window->getList().isVisible());
 }
 
 } // namespace

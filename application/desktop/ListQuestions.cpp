@@ -1,0 +1,47 @@
+#include "ListQuestions.h"
+
+#include "ImportDialog.h"
+#include "ListColumnsDialog.h"
+#include "ListExport.h"
+#include "Texts.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace qev::application {
+
+namespace {
+
+QString getExportFilters()
+{
+    auto const csv = getText("List_Tables");
+    return ListExport::canWriteWorkbooks() ? getText("List_Workbooks") + ";;" + csv : csv;
+}
+
+} // namespace
+
+ListQuestions ListQuestions::asDialogs(QWidget& parent)
+{
+    ListQuestions questions;
+    questions.chooseColumns = [](ListColumnsDialog& dialog) { return dialog.exec() == QDialog::Accepted; };
+    questions.agreeToImport = [](ImportDialog& dialog) { return dialog.exec() == QDialog::Accepted; };
+    questions.pathToExport = [&parent] {
+        return QFileDialog::getSaveFileName(&parent, getText("List_ExportTitle"), {}, getExportFilters());
+    };
+    questions.pathToImport = [&parent] {
+        return QFileDialog::getOpenFileName(&parent, getText("List_ImportTitle"), {},
+                                            getText("List_Tables") + ";;" + getText("List_AllFiles"));
+    };
+    questions.nameOfLayout = [&parent] {
+        return QInputDialog::getText(&parent, getText("List_KeepLayout"), getText("List_LayoutName"))
+            .trimmed();
+    };
+    questions.tell = [&parent](QString const& text) {
+        QMessageBox::information(&parent, QCoreApplication::applicationName(), text);
+    };
+    return questions;
+}
+
+} // namespace qev::application
