@@ -96,7 +96,8 @@ FigureTable FileFigures::measure(unsigned int runs) const
     std::string const globalId = m_commandLine ? someGlobalId() : std::string();
     for (unsigned int run = 0; run < runs; ++run) {
         // In turn, so that a busy minute of the machine meets all of them.
-        for (Work const work : {Work::Floor, Work::Open, Work::Read, Work::Copy, Work::Save, Work::Look})
+        for (Work const work : {Work::Floor, Work::Open, Work::Read, Work::Copy, Work::Save, Work::Look,
+                                Work::First, Work::Next})
             addRun(work, all[work]);
         if (!globalId.empty())
             addGridRun(globalId, gridRuns);
@@ -143,10 +144,38 @@ FigureTable FileFigures::measure(unsigned int runs) const
         table.addFailure("more memory after 1,000 objects");
     else
         addMemory("more memory after 1,000 objects", median(all[Work::Look]), 50 * million);
+    if (all[Work::First].empty() || all[Work::Next].empty()) {
+        table.addFailure("selection");
+    } else {
+        table.add("first selection", times(median(all[Work::First])));
+        constexpr double bar = 0.05;
+        Measurement const slowest = median(all[Work::Next]);
+        table.add("slowest of 200 changes of selection", times(slowest), format("%7.1f ms", bar * 1e3),
+                  slowest.seconds / bar);
+    }
     if (!globalId.empty() && gridRuns.empty())
         table.addFailure("qev-ifc grid, one object");
     else if (!globalId.empty())
         addTime("qev-ifc grid, one object", median(gridRuns), open.seconds + 0.05);
+    return table;
+}
+
+FigureTable FileFigures::measureSelection(unsigned int runs) const
+{
+    std::map<Work, Runs> all;
+    for (unsigned int run = 0; run < runs; ++run) {
+        for (Work const work : {Work::Common, Work::Change})
+            addRun(work, all[work]);
+    }
+    FigureTable table(m_file.filename().string());
+    auto const add = [&](Work work, std::string const& name, double bar) {
+        if (all[work].empty())
+            return table.addFailure(name);
+        Measurement const measured = median(all[work]);
+        table.add(name, times(measured), format("%7.1f ms", bar * 1e3), measured.seconds / bar);
+    };
+    add(Work::Common, "sets in common of all selected objects", 0.3);
+    add(Work::Change, "one edit into all selected objects", 1.5);
     return table;
 }
 

@@ -19,6 +19,8 @@ public:
                 std::optional<std::filesystem::path> commandLine);
 
     [[nodiscard]] FigureTable measure(unsigned int runs) const;
+    /// The same for a file of very many objects: what selecting all of them costs.
+    [[nodiscard]] FigureTable measureSelection(unsigned int runs) const;
 
 private:
     /// The runs of one work; empty when it failed.

@@ -9,6 +9,7 @@
 
 #if defined(QEV_HAS_GRID)
 #include "ObjectViewing.h"
+#include "Selection.h"
 #endif
 
 #include <algorithm>
@@ -27,12 +28,16 @@ namespace qev::benchmarks {
 
 namespace {
 
-constexpr std::array<std::pair<Work, std::string_view>, 6> names = {{{Work::Floor, "floor"},
-                                                                     {Work::Copy, "copy"},
-                                                                     {Work::Open, "open"},
-                                                                     {Work::Read, "read"},
-                                                                     {Work::Save, "save"},
-                                                                     {Work::Look, "look"}}};
+constexpr std::array<std::pair<Work, std::string_view>, 10> names = {{{Work::Floor, "floor"},
+                                                                      {Work::Copy, "copy"},
+                                                                      {Work::Open, "open"},
+                                                                      {Work::Read, "read"},
+                                                                      {Work::Save, "save"},
+                                                                      {Work::Look, "look"},
+                                                                      {Work::First, "first"},
+                                                                      {Work::Next, "next"},
+                                                                      {Work::Common, "common"},
+                                                                      {Work::Change, "change"}}};
 
 std::optional<Measurement> failure(std::string const& reason)
 {
@@ -133,6 +138,25 @@ std::optional<Measurement> look([[maybe_unused]] std::filesystem::path const& pa
 #endif
 }
 
+/// Works with objects of a file that is open already.
+std::optional<Measurement> select([[maybe_unused]] Work work,
+                                  [[maybe_unused]] std::filesystem::path const& path)
+{
+#if defined(QEV_HAS_GRID)
+    constexpr std::size_t changes = 200;
+    auto const file = openFile(path);
+    if (!file)
+        return std::nullopt;
+    if (work == Work::First)
+        return firstSelection(file->data());
+    if (work == Work::Next)
+        return slowestChangeOfSelection(file->data(), changes);
+    return work == Work::Common ? commonSetsOfAll(file->data()) : changeAll(file->data());
+#else
+    return failure("this build has no property grid");
+#endif
+}
+
 } // namespace
 
 std::string_view nameOf(Work work)
@@ -168,6 +192,11 @@ std::optional<Measurement> doWork(Work work, std::filesystem::path const& file,
             file, [&scratchFile](ifc::IfcFile& opened) { return changeAndSave(opened, scratchFile); });
     case Work::Look:
         return look(file);
+    case Work::First:
+    case Work::Next:
+    case Work::Common:
+    case Work::Change:
+        return select(work, file);
     }
     return std::nullopt;
 }

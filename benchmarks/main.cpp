@@ -1,6 +1,7 @@
 #include "ChildProcess.h"
 #include "Core/Assert/Assert.h"
 #include "FileFigures.h"
+#include "ManyObjects.h"
 #include "ModelGenerator.h"
 
 #include <charconv>
@@ -95,6 +96,21 @@ bool measure(ChildProcess const& process, std::filesystem::path const& file,
     return !table.hasFailures();
 }
 
+bool measureManyObjects(ChildProcess const& process, Options const& options)
+{
+    constexpr std::size_t count = 100'000;
+    auto const file = options.folder / "100000-walls.ifc";
+    std::cerr << "Measuring a selection of " << count << " objects ...\n";
+    bool isComplete = writeManyObjects(file, count);
+    if (isComplete) {
+        FigureTable const table = FileFigures(process, file, std::nullopt).measureSelection(options.runs);
+        table.print(std::cout);
+        isComplete = !table.hasFailures();
+    }
+    std::filesystem::remove(file);
+    return isComplete;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -121,6 +137,7 @@ int main(int argc, char** argv)
             generate(file, size * million) && measure(process, file, program, options->runs) && isComplete;
         std::filesystem::remove(file);
     }
+    isComplete = measureManyObjects(process, *options) && isComplete;
     for (auto const& file : options->files)
         isComplete = measure(process, file, program, options->runs) && isComplete;
     return isComplete ? 0 : 1;
