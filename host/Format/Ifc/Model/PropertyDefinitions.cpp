@@ -8,8 +8,10 @@
 #include "FoundationClasses/Data.h"
 #include "FoundationClasses/Resource/Property/FcExtendedProperties.h"
 #include "FoundationClasses/Resource/Property/FcProperty.h"
+#include "FoundationClasses/Resource/Property/SetsOfProperty.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace qev::ifc {
 
@@ -29,14 +31,16 @@ SetDef const* definitionOfSet(std::string const& setName)
     return schema ? schema->pXmlSetFromName(setName) : nullptr;
 }
 
-void appendName(std::vector<std::string>& names, std::optional<std::string> const& name)
+using NameVisitor = std::function<bool(std::string const&)>;
+
+/// False when \p visit ended the work.
+bool visitName(std::optional<std::string> const& name, NameVisitor const& visit)
 {
-    if (name)
-        names.push_back(*name);
+    return !name || visit(*name);
 }
 
 /// The standard has no inverse attribute for the properties of materials and profiles.
-void appendExtendedProperties(std::vector<std::string>& names, FcProperty const& property)
+void visitNamesOfExtendedProperties(FcProperty const& property, NameVisitor const& visit)
 {
     static unsigned int const slot =
         fc::slotFromName(FcExtendedProperties::staticEntityClass(), "Properties");
@@ -45,21 +49,22 @@ void appendExtendedProperties(std::vector<std::string>& names, FcProperty const&
         return;
     for (auto const index : data->relating(property.getIndex(), FcExtendedProperties::idFirst,
                                            FcExtendedProperties::idLast, slot)) {
-        if (auto const holder = fc::entityCast<FcExtendedProperties>(data->entity(index)))
-            appendName(names, holder->Name.get());
+        auto const holder = fc::entityCast<FcExtendedProperties>(data->entity(index));
+        if (holder && !visitName(holder->Name.get(), visit))
+            return;
     }
 }
 
-/// The names of all sets that have the property.
-std::vector<std::string> setNamesOf(FcProperty const& property)
+/// Shows \p visit the names of all sets that have the property, until it answers false.
+void visitSetNames(FcProperty const& property, NameVisitor const& visit)
 {
-    std::vector<std::string> names;
-    for (auto const& reference : property.PartOfPset()) {
-        if (auto const set = reference.lock())
-            appendName(names, set->Name.get());
-    }
-    appendExtendedProperties(names, property);
-    return names;
+    bool goesOn = true;
+    fc::resource::property::visitSetsOf(property, [&](FcPropertySet const& set) {
+        goesOn = visitName(set.Name.get(), visit);
+        return goesOn;
+    });
+    if (goesOn)
+        visitNamesOfExtendedProperties(property, visit);
 }
 
 bool isOfKind(FcPropertySetDefinition const& set, SetDef const& definition)
@@ -74,20 +79,23 @@ bool isOfKind(FcPropertySetDefinition const& set, SetDef const& definition)
 
 Def const* findSchemaDefForProperty(FcProperty const& property)
 {
-    for (std::string const& setName : setNamesOf(property)) {
+    Def const* found = nullptr;
+    visitSetNames(property, [&](std::string const& setName) {
         SetDef const* const set = definitionOfSet(setName);
-        if (Def const* const entry = set ? set->findEntry(property.Name.get()) : nullptr)
-            return entry;
-    }
-    return nullptr;
+        found = set ? set->findEntry(property.Name.get()) : nullptr;
+        return !found;
+    });
+    return found;
 }
 
 std::optional<std::pair<std::string, std::string>> getPsetAndPropertyName(FcProperty const& property)
 {
-    auto const setNames = setNamesOf(property);
-    if (setNames.empty())
-        return std::nullopt;
-    return std::pair(setNames.front(), property.Name.get());
+    std::optional<std::pair<std::string, std::string>> names;
+    visitSetNames(property, [&](std::string const& setName) {
+        names.emplace(setName, property.Name.get());
+        return false;
+    });
+    return names;
 }
 
 bool hasAllProperties(FcPropertySetDefinition const& set)

@@ -1,6 +1,7 @@
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "FoundationClasses/Localize.h"
 #include "FoundationClasses/Resource/Property/FcProperty.h"
+#include "FoundationClasses/Resource/Property/SetsOfProperty.h"
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
@@ -18,11 +19,13 @@ namespace {
 /// The key of the texts of a property, by the first of its sets that has a name; nothing without such a set.
 std::optional<std::string> textKey(FcProperty const& property)
 {
-    for (auto const& set : liveOnes(property.PartOfPset())) {
-        if (auto const& setName = set->Name.get())
-            return *setName + '.' + property.Name.get();
-    }
-    return std::nullopt;
+    std::optional<std::string> key;
+    resource::property::visitSetsOf(property, [&](core::kernel::FcPropertySet const& set) {
+        if (auto const& setName = set.Name.get())
+            key = *setName + '.' + property.Name.get();
+        return !key;
+    });
+    return key;
 }
 
 } // namespace

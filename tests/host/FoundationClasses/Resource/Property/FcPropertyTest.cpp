@@ -11,6 +11,7 @@
 #include "FoundationClasses/Resource/Property/FcPropertyEnumeratedValue.h"
 #include "FoundationClasses/Resource/Property/FcPropertyListValue.h"
 #include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
+#include "FoundationClasses/Resource/Property/SetsOfProperty.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "kit/ModelBuilder.h"
 #include "Object/PropertyValue.h"
@@ -37,6 +38,35 @@ TEST(PropertyClasses, BeginEmpty)
     EXPECT_TRUE(bounded.UpperBoundValue->isEmpty());
     EXPECT_TRUE(bounded.SetPointValue->isEmpty());
     EXPECT_FALSE(bounded.Unit->isSet());
+}
+
+TEST(SetsOfProperty, AreVisitedInOrderUntilTheVisitorHasEnough)
+{
+    Model model;
+    auto const first = model.addSet(model.wall("W1"), "Pset_X", {{"A", label("1")}});
+    auto const second = model.addSet(model.wall("W2"), "Pset_Y", {});
+    auto const property = first->HasProperties.getProperties()[0];
+    second->HasProperties.edit([&property](auto& list) { list.push_back(property); });
+    std::vector<std::string> names;
+    auto const visitUpTo = [&](std::size_t count) {
+        names.clear();
+        visitSetsOf(*property, [&](FcPropertySet const& set) {
+            names.push_back(set.Name.get().value_or(""));
+            return names.size() < count;
+        });
+        return names;
+    };
+    EXPECT_EQ(visitUpTo(3), (std::vector<std::string>{"Pset_X", "Pset_Y"}));
+    EXPECT_EQ(visitUpTo(1), std::vector<std::string>{"Pset_X"});
+    first->HasProperties.edit([&property](auto& list) { list.erase(property); });
+    EXPECT_EQ(visitUpTo(3), std::vector<std::string>{"Pset_Y"});
+}
+
+TEST(SetsOfProperty, AreNoneOutsideAModel)
+{
+    bool isVisited = false;
+    visitSetsOf(FcPropertySingleValue(), [&isVisited](FcPropertySet const&) { return isVisited = true; });
+    EXPECT_FALSE(isVisited);
 }
 
 TEST(DeleteProperty, TakesItOutOfItsSetAndTheModel)
