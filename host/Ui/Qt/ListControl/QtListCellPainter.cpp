@@ -45,8 +45,8 @@ void QtListCellPainter::paint(QtListCell const& cell, Place const& place)
 {
     if (place.isSelected)
         m_painter.fillRect(place.area, m_option.palette.brush(m_colours, QPalette::Highlight));
-    else if (cell.backgroundColour.isValid() && cell.backgroundColour.alpha() != 0)
-        m_painter.fillRect(place.area, cell.backgroundColour);
+    else if (auto const background = getBackground(cell))
+        m_painter.fillRect(place.area, *background);
     m_painter.setPen(m_grid);
     m_painter.drawLine(place.area.bottomLeft(), place.area.bottomRight());
     m_painter.drawLine(place.area.topRight(), place.area.bottomRight());
@@ -146,9 +146,23 @@ QColor QtListCellPainter::getTextColour(QtListCell const& cell, Place const& pla
         return m_option.palette.color(m_colours, QPalette::HighlightedText);
     if (cell.textColour.isValid())
         return cell.textColour;
-    if (cell.backgroundColour.isValid() && cell.backgroundColour.alpha() != 0)
-        return QtPropertyGridDelegate::getReadableOn(cell.backgroundColour);
+    if (auto const background = getBackground(cell))
+        return QtPropertyGridDelegate::getReadableOn(*background);
     return m_option.palette.color(m_colours, QPalette::Text);
+}
+
+std::optional<QColor> QtListCellPainter::getBackground(QtListCell const& cell) const
+{
+    auto const& colour = cell.backgroundColour;
+    if (!colour.isValid() || colour.alpha() == 0)
+        return std::nullopt;
+    auto const base = m_option.palette.color(m_colours, QPalette::Base);
+    bool const isDark = base.lightnessF() < 0.5F;
+    // A grey says how far a cell stands back from a white sheet; on a dark one it would stand out.
+    if (isDark && colour.hslSaturation() == 0)
+        return QtPropertyGridDelegate::getMuted(m_option.palette.color(m_colours, QPalette::Text), base,
+                                                1 - colour.lightnessF());
+    return colour;
 }
 
 } // namespace qev::ui

@@ -3,6 +3,7 @@
 #include "HostUiQtExport.h"
 #include "Ui/Qt/ListControl/QtListCell.h"
 
+#include <optional>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QStyleOptionViewItem>
@@ -40,6 +41,8 @@ private:
     void paintLocalMark(QRect const& area, bool isSelected);
     void setFont(bool isBold);
     [[nodiscard]] QColor getTextColour(QtListCell const& cell, Place const& place) const;
+    /// What is behind a cell that is not selected, as it looks in the palette; nothing for the sheet itself.
+    [[nodiscard]] std::optional<QColor> getBackground(QtListCell const& cell) const;
 
     QPainter& m_painter;
     QStyleOptionViewItem const& m_option;

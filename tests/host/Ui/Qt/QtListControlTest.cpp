@@ -93,6 +93,24 @@ TEST_F(QtListControlTest, AskedColoursAndMarksArePainted)
     EXPECT_EQ(picture.pixelColor(plain.topLeft() + QPoint(1, 1)), view.palette().color(QPalette::Base));
 }
 
+TEST_F(QtListControlTest, GreyCellsAreNoLampsOnADarkSheet)
+{
+    colours[{1, width}] = attr::Colour{0xFF, 0xE6, 0xE6, 0xE6};
+    colours[{1, rating}] = attr::Colour{0xFF, 200, 100, 50};
+    QPalette palette = view.palette();
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::Text, QColor(Qt::white));
+    view.setPalette(palette);
+    auto const picture = view.viewport()->grab().toImage();
+    auto const backgroundAt = [&](std::size_t column) {
+        auto const area = view.visualRect(index(1, column));
+        return picture.pixelColor(area.right() - 4, area.top() + 2);
+    };
+    EXPECT_GT(backgroundAt(width).lightness(), 30) << "It is still told apart from the sheet.";
+    EXPECT_LT(backgroundAt(width).lightness(), 80);
+    EXPECT_EQ(backgroundAt(rating), QColor(200, 100, 50));
+}
+
 TEST_F(QtListControlTest, ColumnsHiddenByDefaultAreNotShownUntilTheUserShowsThem)
 {
     control->getHeader().setDefaultHiddenColumns({width});
