@@ -41,6 +41,7 @@ using Formatters = fc::ui::PropertySetControlFormatters<fc::ui::ListControlPrope
 
 constexpr int listId = 101;
 constexpr int classNameLength = 24;
+constexpr int identityLength = 28;
 constexpr std::size_t progressSteps = 1000;
 constexpr auto arrangementGroup = "list/arrangements/";
 
@@ -323,8 +324,8 @@ void ListPane::fillLayoutMenu()
     m_layoutMenu->addSeparator();
     m_layoutMenu->addAction(getText("List_KeepLayout"), this, [this] { askForLayoutName(); });
     m_layoutMenu->addAction(getText("List_FirstLayout"), this, [this] {
-        if (auto* const list = getList())
-            list->resetArrangement();
+        if (getList())
+            arrangeAsAtFirst();
     });
     if (names.isEmpty())
         return;
@@ -411,21 +412,37 @@ void ListPane::storeArrangement()
     if (!m_arrangedClass)
         return;
     auto const layout = getLayout();
-    if (layout != m_firstLayout)
+    m_isArrangedByUser = layout != m_firstLayout;
+    if (m_isArrangedByUser)
         QSettings().setValue(getArrangementKey(), layout.toJson());
 }
 
 void ListPane::restoreArrangement()
 {
     auto const className = getClass();
-    if (m_arrangedClass == className)
+    if (m_arrangedClass == className) {
+        // Other objects of the class may use other columns; that is nothing the user has chosen.
+        if (!m_isArrangedByUser)
+            m_firstLayout = getLayout();
         return;
+    }
     m_arrangedClass = className;
-    getList()->resetArrangement();
+    arrangeAsAtFirst();
     m_firstLayout = getLayout();
     QSettings const settings;
     if (settings.contains(getArrangementKey()))
         setLayout(ListLayout::fromJson(settings.value(getArrangementKey()).toByteArray()));
+}
+
+void ListPane::arrangeAsAtFirst()
+{
+    auto& list = *getList();
+    list.resetArrangement();
+    // The titles of these columns are far shorter than what stands in them.
+    for (auto const& column : listColumnsOf(*m_control))
+        if (column.isCustom)
+            list.getView().getHeader().resizeSection(static_cast<int>(column.index),
+                                                     identityLength * fontMetrics().averageCharWidth());
 }
 
 QString ListPane::getArrangementKey() const

@@ -103,6 +103,7 @@ private:
     [[nodiscard]] std::vector<fc::EntityIndex> findObjects() const;
     void storeArrangement();
     void restoreArrangement();
+    void arrangeAsAtFirst();
     [[nodiscard]] QString getArrangementKey() const;
     [[nodiscard]] std::vector<std::size_t> getShownRows() const;
 
@@ -125,6 +126,7 @@ private:
     /// How the list of the class was arranged before the user did anything to it.
     ListLayout m_firstLayout;
     std::optional<std::string> m_arrangedClass;
+    bool m_isArrangedByUser = false;
     bool m_isStale = true;
 };
 

@@ -198,6 +198,30 @@ TEST_F(ListPaneTest, TheArrangementOfAClassIsRememberedBetweenRuns)
     EXPECT_EQ(list().getView().getHeader().sectionSize(column("Name")), 222);
 }
 
+TEST_F(ListPaneTest, WhatOtherObjectsOfTheClassUseIsNoArrangementOfTheUser)
+{
+    std::string text(smallBuilding);
+    std::string const both = "(#30,#31),#51";
+    text.replace(text.find(both), both.size(), "(#30),#51");
+    pane->leaveFile();
+    ASSERT_TRUE(session.open(folder.write("other.ifc", text)));
+    pane->showFile();
+    pane->setScope(ListPane::Scope::Selection);
+    pane->setSelection({find(westWall)});
+    EXPECT_THAT(shownColumns(), ElementsAre("GlobalId", "Name"));
+    pane->setSelection({find(eastWall)});
+    EXPECT_THAT(shownColumns(), ElementsAre("GlobalId", "Name", "Pset_WallCommon.FireRating"));
+    pane->setSelection({find(entrance)});
+    pane->setSelection({find(westWall)});
+    EXPECT_THAT(shownColumns(), ElementsAre("GlobalId", "Name"));
+}
+
+TEST_F(ListPaneTest, NamesHaveRoom)
+{
+    EXPECT_GT(list().getView().getHeader().sectionSize(column("Name")),
+              pane->fontMetrics().horizontalAdvance("A name of usual length"));
+}
+
 TEST_F(ListPaneTest, LayoutsAreKeptByName)
 {
     pane->setClass("IfcWall");
