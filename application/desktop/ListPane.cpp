@@ -19,6 +19,7 @@
 #include "UsedColumns.h"
 
 #include <algorithm>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -27,6 +28,7 @@
 #include <QProgressDialog>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -40,8 +42,8 @@ using ui::toQString;
 using Formatters = fc::ui::PropertySetControlFormatters<fc::ui::ListControlPropertyFormatterInterface>;
 
 constexpr int listId = 101;
-constexpr int classNameLength = 24;
-constexpr int identityLength = 28;
+constexpr int classNameLength = 12;
+constexpr int identityLength = 32;
 constexpr std::size_t progressSteps = 1000;
 constexpr auto arrangementGroup = "list/arrangements/";
 
@@ -379,6 +381,9 @@ void ListPane::fillClasses(std::vector<fc::EntityIndex> const& objects)
         m_class->addItem(toQString(className) + " (" + QLocale().toString(static_cast<qulonglong>(count)) +
                              ')',
                          toQString(className));
+    // The box is narrow, for the tool bar; the list below it need not be.
+    m_class->view()->setMinimumWidth(m_class->view()->sizeHintForColumn(0) +
+                                     style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     auto const index = m_class->findData(present);
     m_class->setCurrentIndex(index >= 0 ? index : counts.size() == 1 ? 1 : 0);
 }
