@@ -1,7 +1,9 @@
 #include "SettingsActions.h"
 
 #include "InspectorWindow.h"
+#include "ListPane.h"
 #include "MessagesPanel.h"
+#include "Ui/Qt/ListControl/QtListControl.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -109,6 +111,27 @@ TEST_F(SettingsActionsTest, InputHasTheUnitsAndTheSignOfTheSettings)
     EXPECT_EQ(value(width()), "2501,9 mm");
     window->getFileActions().save();
     EXPECT_THAT(readFile(path), HasSubstr("IFCLENGTHMEASURE(2.5019)"));
+}
+
+TEST_F(SettingsActionsTest, TheListShowsTheSameObjectsInTheNewUnitsAndLanguage)
+{
+    open();
+    window->selectObject(eastWall);
+    window->showList(true);
+    auto& pane = window->getList();
+    pane.setScope(ListPane::Scope::Selection);
+    auto const shows = [&pane](QString const& text) {
+        auto const& cells = pane.getList()->getCells();
+        for (int column = 0; column < cells.columnCount(); ++column)
+            if (cells.index(0, column).data().toString() == text)
+                return true;
+        return false;
+    };
+    ASSERT_EQ(pane.getObjects().size(), 1u);
+    EXPECT_TRUE(shows("2.5 m"));
+    change([](ProgramSettings& settings) { settings.display.language = "de"; });
+    ASSERT_EQ(pane.getObjects().size(), 1u);
+    EXPECT_TRUE(shows("2,5 m"));
 }
 
 TEST_F(SettingsActionsTest, RefusedInputIsExplainedBesideTheRow)
