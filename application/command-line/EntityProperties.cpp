@@ -88,14 +88,14 @@ EntityProperties::EntityProperties(std::shared_ptr<fc::Data> data, std::shared_p
 std::vector<EntityProperty> EntityProperties::tree()
 {
     m_wrapper->clearCache();
-    m_wrapper->getAllProperties();
+    auto const leaves = m_wrapper->getAllProperties();
     std::vector<EntityProperty> nodes;
     for (auto const& node : m_wrapper->getProperties())
-        nodes.push_back(describe(*node));
+        nodes.push_back(describe(*node, leaves));
     return nodes;
 }
 
-EntityProperty EntityProperties::describe(fc::Property const& node) const
+EntityProperty EntityProperties::describe(fc::Property const& node, std::set<PropertyId> const& leaves) const
 {
     PropertyId const& path = node.id;
     EntityProperty property;
@@ -103,10 +103,10 @@ EntityProperty EntityProperties::describe(fc::Property const& node) const
     property.localId = std::get<PropertyId>(m_wrapper->getMappedProperty(path)).text();
     property.label = m_wrapper->getPropertyName(path);
     property.description = m_wrapper->getPropertyDescription(path);
-    property.isGroup = node.isGroup || !node.children.empty();
+    property.isGroup = !leaves.contains(path);
     property.reference = m_wrapper->getReference(path);
     for (auto const& child : node.children)
-        property.children.push_back(describe(*child));
+        property.children.push_back(describe(*child, leaves));
     if (property.isGroup)
         return property;
     property.value = m_wrapper->getValue(path);

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -48,7 +49,8 @@ public:
     [[nodiscard]] bool hasPath(std::string const& path) const;
 
 private:
-    [[nodiscard]] EntityProperty describe(fc::Property const& node) const;
+    [[nodiscard]] EntityProperty describe(fc::Property const& node,
+                                          std::set<object::PropertyId> const& leaves) const;
     [[nodiscard]] std::optional<object::PropertyValue> valueFromText(object::PropertyId const& path,
                                                                      std::string const& text) const;
 
