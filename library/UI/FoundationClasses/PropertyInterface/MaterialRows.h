@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
+
 #include <optional>
 #include <string>
 
@@ -15,6 +17,15 @@ namespace qev::fc::ui::propertyinterface {
     if (!text.empty())
         text += " - ";
     return text + *description;
+}
+
+/// Marks the row of the name as no row of its own: the heading of a layer or constituent shows it already.
+inline void leaveNameToHeading(Property& group)
+{
+    for (auto const& row : group.children) {
+        if (row->id.text() == "Name")
+            row->standalone = false;
+    }
 }
 
 } // namespace qev::fc::ui::propertyinterface

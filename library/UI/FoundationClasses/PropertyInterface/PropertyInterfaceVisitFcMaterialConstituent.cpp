@@ -4,6 +4,7 @@
 #include "UI/FoundationClasses/PropertyInterface/GetProperties.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyDescription.h"
 #include "UI/FoundationClasses/PropertyInterface/GetPropertyName.h"
+#include "UI/FoundationClasses/PropertyInterface/MaterialRows.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 
 namespace qev::fc::ui::propertyinterface {
@@ -16,11 +17,7 @@ bool GetProperties::visit(FcMaterialConstituent const& constituent)
     auto const group = groupOf(*this);
     if (!group)
         return false;
-    // The heading shows the name already.
-    for (auto const& row : group->children) {
-        if (row->id.text() == "Name")
-            row->standalone = false;
-    }
+    leaveNameToHeading(*group);
     appendPropertiesOf(constituent.Material->get(), *group);
     return false;
 }
