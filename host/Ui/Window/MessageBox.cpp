@@ -7,11 +7,12 @@
 
 namespace qev::ui {
 
-void MessageBox::vShowOk(std::string const& text, std::string const& title, Icon icon,
+void MessageBox::vShowOk(std::string_view text, std::string_view title, Icon icon,
                          DefaultButton defaultButton, std::function<void()> onClosed)
 {
     if (auto const backend = details::WindowInterfaceFactory::getBackend())
-        backend->showMessage({text, title, icon, defaultButton, std::move(onClosed)});
+        backend->showMessage(
+            {std::string(text), std::string(title), icon, defaultButton, std::move(onClosed)});
     else if (onClosed)
         onClosed();
 }

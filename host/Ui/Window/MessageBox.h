@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace qev::ui {
 
@@ -13,17 +14,17 @@ class HOSTUI_EXPORT MessageBox
 public:
     enum class Icon : int
     {
-        None,
-        Information,
-        Warning,
-        Error,
+        None = 0,
+        Error = 1,
+        Warning = 2,
+        Information = 3,
     };
 
     enum class DefaultButton : int
     {
-        First,
-        Second,
-        Third,
+        First = 0,
+        Second = 1,
+        Third = 2,
     };
 
     struct Message
@@ -37,8 +38,8 @@ public:
     };
 
     /// Shows a message with one button. Without a back end nobody can see it: \p onClosed is called at once.
-    static void vShowOk(std::string const& text, std::string const& title, Icon icon,
-                        DefaultButton defaultButton, std::function<void()> onClosed);
+    static void vShowOk(std::string_view text, std::string_view title, Icon icon, DefaultButton defaultButton,
+                        std::function<void()> onClosed);
 };
 
 } // namespace qev::ui

@@ -60,6 +60,12 @@ TEST_F(MenusAndMessages, AMessageIsShownAndItsEndTold)
     EXPECT_EQ(backend->getMessages().size(), 2u);
 }
 
+TEST_F(MenusAndMessages, AMessageIsToldByNumbersThatOtherProgramsKnow)
+{
+    EXPECT_EQ(static_cast<int>(MessageBox::Icon::Information), 3);
+    EXPECT_EQ(static_cast<int>(MessageBox::DefaultButton::First), 0);
+}
+
 TEST_F(MenusAndMessages, AMessageNobodyCanSeeIsOverAtOnce)
 {
     ui::details::WindowInterfaceFactory::setBackend(nullptr);

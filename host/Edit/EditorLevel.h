@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace qev::ui::edit {
+
+/// One of the levels on which the generic object editor arranges rows, such as those of an occurrence and
+/// those of its type.
+struct EditorLevel
+{
+    /// Begins the ids of dynamic rows on this level: "Instance".
+    std::string name;
+
+    friend bool operator==(EditorLevel const&, EditorLevel const&) = default;
+};
+
+} // namespace qev::ui::edit
