@@ -1,21 +1,19 @@
 #pragma once
 
 #include "HostUiQtExport.h"
-#include "Ui/PropertyGrid/PropertyGridRow.h"
+#include "Ui/List/ListBlock.h"
 
-#include <memory>
-#include <QMimeData>
-#include <vector>
+#include <QString>
 
 namespace qev::ui {
 
-/// Rows of a property grid as they go to the clipboard.
-class HOSTUIQT_EXPORT QtPropertyGridClipboard
+/// What Ctrl+C takes, of a list and of a property grid alike.
+class HOSTUIQT_EXPORT QtClipboard
 {
 public:
-    /// One row gives its value alone. Several give a line each, name and value parted by a tab, and the same
-    /// as a table in HTML.
-    [[nodiscard]] static std::unique_ptr<QMimeData> make(std::vector<PropertyGridRow const*> const& rows);
+    static void copy(QString const& text);
+    /// As text with tabs and as a table of HTML. With \p hasHeaders the first row holds the headers.
+    static void copy(ListBlock const& block, bool hasHeaders = false);
 };
 
 } // namespace qev::ui

@@ -1,20 +1,12 @@
 #include "Ui/Qt/ListControl/QtListCellPainter.h"
 
-#include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
+#include "Ui/Qt/QtCellDrawing.h"
 
 #include <algorithm>
-#include <QApplication>
-#include <QStyle>
-#include <QWidget>
 
 namespace qev::ui {
 
 namespace {
-
-QStyle& getStyle(QStyleOptionViewItem const& option)
-{
-    return option.widget ? *option.widget->style() : *QApplication::style();
-}
 
 QFont makeBold(QFont font)
 {
@@ -31,12 +23,12 @@ QtListCellPainter::QtListCellPainter(QPainter& painter, QStyleOptionViewItem con
     , m_boldFont(makeBold(option.font))
     , m_plainMetrics(m_plainFont)
     , m_boldMetrics(m_boldFont)
-    , m_margin(getMargin(option))
+    , m_margin(QtCellDrawing::getTextMargin(option))
     , m_colours(!option.state.testFlag(QStyle::State_Enabled) ? QPalette::Disabled
                 : option.state.testFlag(QStyle::State_Active) ? QPalette::Active
                                                               : QPalette::Inactive)
-    , m_grid(QtPropertyGridDelegate::getMuted(option.palette.color(m_colours, QPalette::Text),
-                                              option.palette.color(m_colours, QPalette::Base), 0.14F))
+    , m_grid(QtCellDrawing::getMuted(option.palette.color(m_colours, QPalette::Text),
+                                     option.palette.color(m_colours, QPalette::Base), 0.14F))
 {
     m_painter.setFont(m_plainFont);
 }
@@ -54,7 +46,8 @@ void QtListCellPainter::paint(QtListCell const& cell, Place const& place)
     auto area = place.area.adjusted(m_margin, 0, -m_margin - 1, -1);
     if (cell.checkState) {
         auto const box = getCheckBox(m_option, place.area, cell.isBoxAlone);
-        paintCheckBox(*cell.checkState, box, !cell.isBoxGrey && m_colours != QPalette::Disabled);
+        QtCellDrawing::paintCheckBox(m_painter, m_option, *cell.checkState, box,
+                                     !cell.isBoxGrey && m_colours != QPalette::Disabled);
         area.setLeft(box.right() + 1 + m_margin);
     }
     if (!cell.text.isEmpty() && area.width() > 0)
@@ -69,55 +62,24 @@ void QtListCellPainter::paint(QtListCell const& cell, Place const& place)
 
 QRect QtListCellPainter::getCheckBox(QStyleOptionViewItem const& option, QRect const& area, bool isBoxAlone)
 {
-    auto const& style = getStyle(option);
-    QSize const size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
-                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
-    auto const left =
-        isBoxAlone ? area.left() + (area.width() - size.width()) / 2 : area.left() + getMargin(option);
+    QSize const size(QtCellDrawing::getMetric(option, QStyle::PM_IndicatorWidth),
+                     QtCellDrawing::getMetric(option, QStyle::PM_IndicatorHeight));
+    auto const left = isBoxAlone ? area.left() + (area.width() - size.width()) / 2
+                                 : area.left() + QtCellDrawing::getTextMargin(option);
     return {QPoint(left, area.top() + (area.height() - size.height()) / 2), size};
-}
-
-int QtListCellPainter::getMargin(QStyleOptionViewItem const& option)
-{
-    return getStyle(option).pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 2;
-}
-
-QString QtListCellPainter::getOneLine(QString text)
-{
-    if (!text.contains(QLatin1Char('\n')))
-        return text;
-    return text.replace(QLatin1String("\r\n"), QLatin1String(" "))
-        .replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 void QtListCellPainter::paintText(QtListCell const& cell, Place const& place, QRect const& area)
 {
     setFont(cell.isEmphasised);
     auto const& metrics = m_isBold ? m_boldMetrics : m_plainMetrics;
-    auto text = getOneLine(cell.text);
+    auto text = QtCellDrawing::getOneLine(cell.text);
     // Measuring a text takes as long as drawing it; short ones fit in any case.
     if (text.size() * metrics.maxWidth() > area.width())
         text = metrics.elidedText(text, Qt::ElideRight, area.width());
     m_painter.setPen(getTextColour(cell, place));
     auto const baseline = area.top() + (area.height() - metrics.height()) / 2 + metrics.ascent();
     m_painter.drawText(QPoint(area.left(), baseline), text);
-}
-
-void QtListCellPainter::paintCheckBox(CheckState state, QRect const& area, bool isEnabled)
-{
-    QStyleOptionButton box;
-    box.rect = area;
-    box.palette = m_option.palette;
-    // Styles frame a box in a darker shade of the window, which cannot be seen where all is dark.
-    box.palette.setColor(QPalette::Window,
-                         QtPropertyGridDelegate::getMuted(m_option.palette.color(QPalette::Text),
-                                                          m_option.palette.color(QPalette::Base), 0.5F));
-    box.state = m_option.state & (QStyle::State_Active | QStyle::State_Enabled);
-    box.state.setFlag(QStyle::State_Enabled, isEnabled);
-    box.state |= state == CheckState::Checked     ? QStyle::State_On
-                 : state == CheckState::Unchecked ? QStyle::State_Off
-                                                  : QStyle::State_NoChange;
-    getStyle(m_option).drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &m_painter, m_option.widget);
 }
 
 void QtListCellPainter::paintLocalMark(QRect const& area, bool isSelected)
@@ -147,7 +109,7 @@ QColor QtListCellPainter::getTextColour(QtListCell const& cell, Place const& pla
     if (cell.textColour.isValid())
         return cell.textColour;
     if (auto const background = getBackground(cell))
-        return QtPropertyGridDelegate::getReadableOn(*background);
+        return QtCellDrawing::getReadableOn(*background);
     return m_option.palette.color(m_colours, QPalette::Text);
 }
 
@@ -160,8 +122,8 @@ std::optional<QColor> QtListCellPainter::getBackground(QtListCell const& cell) c
     bool const isDark = base.lightnessF() < 0.5F;
     // A grey says how far a cell stands back from a white sheet; on a dark one it would stand out.
     if (isDark && colour.hslSaturation() == 0)
-        return QtPropertyGridDelegate::getMuted(m_option.palette.color(m_colours, QPalette::Text), base,
-                                                1 - colour.lightnessF());
+        return QtCellDrawing::getMuted(m_option.palette.color(m_colours, QPalette::Text), base,
+                                       1 - colour.lightnessF());
     return colour;
 }
 

@@ -30,14 +30,9 @@ public:
     /// Where the box of a cell is in \p area.
     [[nodiscard]] static QRect getCheckBox(QStyleOptionViewItem const& option, QRect const& area,
                                            bool isBoxAlone);
-    /// What is left free on both sides of a text.
-    [[nodiscard]] static int getMargin(QStyleOptionViewItem const& option);
-    /// The text as it is drawn: in one line.
-    [[nodiscard]] static QString getOneLine(QString text);
 
 private:
     void paintText(QtListCell const& cell, Place const& place, QRect const& area);
-    void paintCheckBox(CheckState state, QRect const& area, bool isEnabled);
     void paintLocalMark(QRect const& area, bool isSelected);
     void setFont(bool isBold);
     [[nodiscard]] QColor getTextColour(QtListCell const& cell, Place const& place) const;

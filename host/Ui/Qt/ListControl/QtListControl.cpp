@@ -2,6 +2,7 @@
 
 #include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListHeaderPanel.h"
+#include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
 
@@ -499,7 +500,7 @@ void QtListControl::tell(ListEditResult const& result)
 void QtListControl::showNotice(QString const& text, QString const& details)
 {
     m_notice->setText(text);
-    m_notice->setToolTip(details.toHtmlEscaped().replace('\n', QLatin1String("<br>")));
+    m_notice->setToolTip(QtCellDrawing::getToolTip(details));
     m_notice->show();
 }
 

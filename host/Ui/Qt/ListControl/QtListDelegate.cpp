@@ -1,5 +1,6 @@
 #include "Ui/Qt/ListControl/QtListDelegate.h"
 
+#include "Ui/Qt/QtChoiceEditor.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -75,25 +76,16 @@ QWidget* QtListDelegate::createLine(QWidget* parent, ListEdit const& edit)
 
 QWidget* QtListDelegate::createChoice(QWidget* parent, ListEdit const& edit) const
 {
-    auto* const combo = new QComboBox(parent);
-    combo->setInsertPolicy(QComboBox::NoInsert);
+    auto* const combo = QtChoiceEditor::create(parent, const_cast<QtListDelegate&>(*this),
+                                               edit.editor.editType == ListControl::DropDown);
     for (auto const& entry : edit.editor.items)
         combo->addItem(toQString(entry));
-    combo->setEditable(edit.editor.editType == ListControl::DropDown);
     auto const text = toQString(edit.text);
     combo->setCurrentIndex(combo->findText(text, Qt::MatchExactly));
     if (combo->isEditable()) {
-        // What is typed stays as typed, also where it begins like an entry.
-        combo->setCompleter(nullptr);
-        combo->lineEdit()->setFrame(false);
         combo->setEditText(text);
         combo->lineEdit()->selectAll();
     }
-    auto* const self = const_cast<QtListDelegate*>(this);
-    connect(combo, &QComboBox::activated, self, [self, combo] {
-        emit self->commitData(combo);
-        emit self->closeEditor(combo);
-    });
     return combo;
 }
 

@@ -1,6 +1,7 @@
 #include "Ui/Qt/ListControl/QtListItemModel.h"
 
 #include "Ui/List/ListEditing.h"
+#include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace {
 
 QColor toQColor(std::optional<attr::Colour> const& colour)
 {
-    return colour ? QColor(colour->red, colour->green, colour->blue, colour->alpha) : QColor();
+    return colour ? QtCellDrawing::toQColor(*colour) : QColor();
 }
 
 Qt::CheckState toQtState(CheckState state)

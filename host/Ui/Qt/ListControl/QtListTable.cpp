@@ -2,6 +2,7 @@
 
 #include "Core/Utilities/ScopeGuard.h"
 #include "Ui/Qt/ListControl/QtListCellPainter.h"
+#include "Ui/Qt/QtCellDrawing.h"
 
 #include <algorithm>
 #include <limits>
@@ -76,7 +77,7 @@ void QtListTable::arrangeColumns()
 void QtListTable::fitColumn(int column)
 {
     auto const option = getCellOption({});
-    auto const margins = 2 * QtListCellPainter::getMargin(option) + 2;
+    auto const margins = 2 * QtCellDrawing::getTextMargin(option) + 2;
     auto const control = m_cells.getControl();
     auto width = m_header->fontMetrics().horizontalAdvance(
                      m_cells.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()) +
@@ -86,7 +87,7 @@ void QtListTable::fitColumn(int column)
             *control, m_cells.getItem(getFirstPosition() + i, static_cast<std::size_t>(column)));
         auto font = option.font;
         font.setBold(cell.isEmphasised);
-        auto needed = QFontMetrics(font).horizontalAdvance(QtListCellPainter::getOneLine(cell.text));
+        auto needed = QFontMetrics(font).horizontalAdvance(QtCellDrawing::getOneLine(cell.text));
         if (cell.checkState)
             needed += QtListCellPainter::getCheckBox(option, {}, false).width() + margins;
         width = std::max(width, needed);

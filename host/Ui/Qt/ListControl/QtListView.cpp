@@ -3,6 +3,8 @@
 #include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListCellPainter.h"
 #include "Ui/Qt/ListControl/QtListDelegate.h"
+#include "Ui/Qt/QtCellDrawing.h"
+#include "Ui/Qt/QtClipboard.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/PopupMenu.h"
 
@@ -13,7 +15,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLocale>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QToolTip>
 #include <set>
@@ -109,11 +110,7 @@ void QtListView::copySelection(bool withHeaders)
     auto const [rows, columns] = getSelectedBlock();
     if (rows.empty() || columns.empty())
         return;
-    auto const block = editing->copy(rows, columns, withHeaders);
-    auto* const clip = new QMimeData;
-    clip->setText(toQString(blockAsTabSeparatedText(block)));
-    clip->setHtml(toQString(blockAsHtml(block, withHeaders)));
-    QApplication::clipboard()->setMimeData(clip);
+    QtClipboard::copy(editing->copy(rows, columns, withHeaders), withHeaders);
 }
 
 void QtListView::paste()
@@ -298,7 +295,7 @@ void QtListView::mouseDoubleClickEvent(QMouseEvent* event)
     // On a check box a double click is two clicks.
     if (getCheckBoxArea(index).contains(event->pos()))
         m_pressedBox = index;
-    else if (m_behaviour.isMenuOfRows || !beginEdit(index))
+    else if (isRowOpened() || !beginEdit(index))
         activate(index);
 }
 
@@ -513,6 +510,12 @@ void QtListView::tell(ListEditResult const& result)
     fireEvents(onInputDone, result);
 }
 
+bool QtListView::isRowOpened() const
+{
+    auto const control = getCells().getControl();
+    return m_behaviour.isMenuOfRows && control && control->onItemActivated.handlerCount() > 0;
+}
+
 void QtListView::activate(QModelIndex const& index)
 {
     auto const control = getCells().getControl();
@@ -571,14 +574,13 @@ void QtListView::showFullText(QPoint const& position, QPoint const& globalPositi
     if (index.isValid() && control) {
         auto const option = getCellOption(index);
         auto const cell = getCells().getCell(*control, getCells().getItem(index));
-        auto room = option.rect.width() - 2 * QtListCellPainter::getMargin(option);
+        auto room = option.rect.width() - 2 * QtCellDrawing::getTextMargin(option);
         if (cell.checkState)
             room -= QtListCellPainter::getCheckBox(option, option.rect, false).width() + 2;
         if (option.fontMetrics.horizontalAdvance(cell.text) > room || cell.text.contains(QLatin1Char('\n')))
             text = cell.text;
     }
-    QToolTip::showText(globalPosition, text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")),
-                       this);
+    QToolTip::showText(globalPosition, QtCellDrawing::getToolTip(text), this);
 }
 
 } // namespace qev::ui

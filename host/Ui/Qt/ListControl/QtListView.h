@@ -101,6 +101,8 @@ private:
     [[nodiscard]] std::function<void()> findShortcut(QKeyEvent const& event);
     void commit(QString const& text, std::optional<std::size_t> entry);
     void tell(ListEditResult const& result);
+    /// Tells if a double click opens a row, rather than an editor.
+    [[nodiscard]] bool isRowOpened() const;
     void activate(QModelIndex const& index);
     void makeCurrent(QModelIndex const& index);
     void moveDown(bool up);

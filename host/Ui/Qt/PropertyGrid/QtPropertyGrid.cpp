@@ -1,6 +1,7 @@
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
 
 #include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
+#include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtText.h"
 
 #include <QDataStream>
@@ -49,7 +50,7 @@ Folded fromLists(QList<QStringList> const& lists)
 QString getDescriptionHtml(PropertyGridRow const& row)
 {
     auto const& state = row.getState();
-    auto const description = toQString(state.description).toHtmlEscaped().replace('\n', "<br>");
+    auto const description = QtCellDrawing::getToolTip(toQString(state.description));
     return "<b>" + toQString(state.name).toHtmlEscaped() + "</b><br>" + description;
 }
 

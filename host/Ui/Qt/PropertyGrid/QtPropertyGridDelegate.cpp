@@ -4,12 +4,12 @@
 #include "Ui/PropertyGrid/PropertyGridNumber.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/QtCellDrawing.h"
+#include "Ui/Qt/QtChoiceEditor.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
-#include <cmath>
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHelpEvent>
@@ -29,17 +29,10 @@ using Kind = PropertyGridRowState::Kind;
 /// The editor remembers here what it opened with, to tell an untouched one.
 constexpr auto openedWithProperty = "openedWith";
 
-QStyle* getStyle(QStyleOptionViewItem const& option)
-{
-    return option.widget ? option.widget->style() : QApplication::style();
-}
-
 QPalette::ColorGroup getColourGroup(QStyleOptionViewItem const& option)
 {
     return option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
 }
-
-QColor toQColor(attr::Colour const& colour) { return {colour.red, colour.green, colour.blue, colour.alpha}; }
 
 /// What lies behind the texts of a row.
 QColor getBackground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
@@ -48,7 +41,7 @@ QColor getBackground(QStyleOptionViewItem const& option, PropertyGridRow const& 
     if (option.state.testFlag(QStyle::State_Selected))
         return option.palette.color(group, QPalette::Highlight);
     if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0)
-        return toQColor(*colour);
+        return QtCellDrawing::toQColor(*colour);
     return option.palette.color(group, QPalette::Base);
 }
 
@@ -62,9 +55,9 @@ QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& 
     if (option.state.testFlag(QStyle::State_Selected))
         return option.palette.color(group, QPalette::HighlightedText);
     if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0)
-        foreground = QtPropertyGridDelegate::getReadableOn(toQColor(*colour));
+        foreground = QtCellDrawing::getReadableOn(QtCellDrawing::toQColor(*colour));
     if (!row.getState().enabled)
-        return QtPropertyGridDelegate::getMuted(foreground, getBackground(option, row), shareWhenDisabled);
+        return QtCellDrawing::getMuted(foreground, getBackground(option, row), shareWhenDisabled);
     return foreground;
 }
 
@@ -75,7 +68,7 @@ QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& 
     auto const foreground = getForeground(option, row);
     if (option.state.testFlag(QStyle::State_Selected))
         return foreground;
-    return QtPropertyGridDelegate::getMuted(foreground, getBackground(option, row), share);
+    return QtCellDrawing::getMuted(foreground, getBackground(option, row), share);
 }
 
 /// The colour of units and marks.
@@ -101,50 +94,14 @@ void applyFont(QStyleOptionViewItem& option, PropertyGridRow const& row)
     option.fontMetrics = QFontMetrics(option.font);
 }
 
-QString getOneLine(QString text)
-{
-    return text.replace(QLatin1String("\r\n"), QLatin1String(" "))
-        .replace(QLatin1Char('\n'), QLatin1Char(' '));
-}
-
 /// The shown text of a value, split into what comes before the unit and the unit.
 std::pair<QString, QString> splitUnit(PropertyGridRow const& row)
 {
-    auto const text = getOneLine(toQString(PropertyGridEditing::getDisplayedText(row)));
+    auto const text = QtCellDrawing::getOneLine(toQString(PropertyGridEditing::getDisplayedText(row)));
     auto const unit = toQString(PropertyGridNumber::getUnit(row.getQuantityPresentation()));
     if (unit.isEmpty() || !text.endsWith(unit))
         return {text, {}};
     return {text.chopped(unit.size()), unit};
-}
-
-void paintCheckBox(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row,
-                   QRect const& area)
-{
-    QStyleOptionButton box;
-    box.rect = area;
-    box.palette = option.palette;
-    // Styles frame a box in a darker shade of the window, which cannot be seen where all is dark.
-    auto const& palette = option.palette;
-    box.palette.setColor(
-        QPalette::Window,
-        QtPropertyGridDelegate::getMuted(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.5F));
-    if (PropertyGridEditing::canClickCheckBox(row))
-        box.state = option.state & ~QStyle::State_HasFocus & ~QStyle::State_Selected;
-    box.state.setFlag(QStyle::State_Enabled, PropertyGridEditing::canClickCheckBox(row));
-    if (!PropertyGridEditing::canClickCheckBox(row))
-        box.palette.setCurrentColorGroup(QPalette::Disabled);
-    switch (row.getState().checkState) {
-    case CheckState::Checked:
-        box.state |= QStyle::State_On;
-        break;
-    case CheckState::Unchecked:
-        box.state |= QStyle::State_Off;
-        break;
-    case CheckState::Indeterminate:
-        box.state |= QStyle::State_NoChange;
-        break;
-    }
-    getStyle(option)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
 }
 
 void paintArrow(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row,
@@ -174,7 +131,7 @@ void paintButton(QPainter& painter, QStyleOptionViewItem const& option, Property
     button.text = QStringLiteral("…");
     button.state = QStyle::State_Raised;
     button.state.setFlag(QStyle::State_Enabled, PropertyGridEditing::canPressButton(row));
-    getStyle(option)->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
+    QtCellDrawing::getStyle(option).drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
 }
 
 /// A line to type in, its text where the shown one was, with the unit of numbers at its end.
@@ -184,7 +141,7 @@ QWidget* createLineEditor(QWidget* parent, QStyleOptionViewItem const& option, P
     constexpr int ownMargin = 2;
     auto* const editor = new QLineEdit(parent);
     editor->setFrame(false);
-    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto const margin = QtCellDrawing::getTextMargin(option);
     editor->setPlaceholderText(toQString(PropertyGridEditing::getHint(row)));
     auto const unit = toQString(PropertyGridNumber::getUnit(row.getQuantityPresentation()));
     auto const unitWidth = unit.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(unit) + margin;
@@ -209,7 +166,8 @@ void paintHint(QPainter& painter, QStyleOptionViewItem const& option, PropertyGr
     painter.setFont(font);
     painter.setPen(getMutedForeground(option, row));
     auto const isRight = row.getState().alignment == PropertyGridAlignment::Right;
-    auto const elided = QFontMetrics(font).elidedText(getOneLine(hint), Qt::ElideRight, area.width());
+    auto const elided =
+        QFontMetrics(font).elidedText(QtCellDrawing::getOneLine(hint), Qt::ElideRight, area.width());
     painter.drawText(area, Qt::AlignVCenter | (isRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::TextSingleLine,
                      elided);
 }
@@ -227,26 +185,6 @@ QtPropertyGridDelegate::QtPropertyGridDelegate(QObject* parent)
 }
 
 QtPropertyGridDelegate::~QtPropertyGridDelegate() = default;
-
-QColor QtPropertyGridDelegate::getMuted(QColor const& foreground, QColor const& background, float share)
-{
-    auto const mix = [share](float front, float back) { return share * front + (1 - share) * back; };
-    return QColor::fromRgbF(mix(foreground.redF(), background.redF()),
-                            mix(foreground.greenF(), background.greenF()),
-                            mix(foreground.blueF(), background.blueF()));
-}
-
-QColor QtPropertyGridDelegate::getReadableOn(QColor const& background)
-{
-    auto const linear = [](float part) {
-        return part <= 0.04045F ? part / 12.92F : std::pow((part + 0.055F) / 1.055F, 2.4F);
-    };
-    auto const luminance = 0.2126F * linear(background.redF()) + 0.7152F * linear(background.greenF()) +
-                           0.0722F * linear(background.blueF());
-    // Here the contrast to black equals that to white.
-    constexpr float turningPoint = 0.179F;
-    return luminance > turningPoint ? QColor(Qt::black) : QColor(Qt::white);
-}
 
 void QtPropertyGridDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option,
                                    QModelIndex const& index) const
@@ -284,7 +222,7 @@ QSize QtPropertyGridDelegate::sizeHint(QStyleOptionViewItem const& option, QMode
     auto const* const row = QtPropertyGridItemModel::getRow(index);
     if (row && row->getState().kind == Kind::EmptyLine)
         return {0, lineHeight / 2};
-    auto const boxHeight = getStyle(option)->pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget);
+    auto const boxHeight = QtCellDrawing::getMetric(option, QStyle::PM_IndicatorHeight);
     return {0, std::max(lineHeight, boxHeight) + lineHeight / 2};
 }
 
@@ -360,12 +298,11 @@ bool QtPropertyGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* vie
     applyFont(cell, *row);
     QString text;
     auto const room = QtPropertyGridLayout::of(*row, option).value.width();
-    if (cell.fontMetrics.horizontalAdvance(shown) + 2 * QtPropertyGridLayout::getTextMargin(option) > room)
+    if (cell.fontMetrics.horizontalAdvance(shown) + 2 * QtCellDrawing::getTextMargin(option) > room)
         text = shown;
     if (index.column() == QtPropertyGridItemModel::nameColumn && !row->getState().description.empty())
         text = toQString(row->getState().name + "\n" + row->getState().description);
-    QToolTip::showText(event->globalPos(), text.isEmpty() ? text : text.toHtmlEscaped().replace('\n', "<br>"),
-                       view);
+    QToolTip::showText(event->globalPos(), QtCellDrawing::getToolTip(text), view);
     return true;
 }
 
@@ -384,11 +321,11 @@ bool QtPropertyGridDelegate::editorEvent(QEvent* /*event*/, QAbstractItemModel* 
 void QtPropertyGridDelegate::paintName(QPainter& painter, QStyleOptionViewItem const& option,
                                        PropertyGridRow const& row) const
 {
-    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto const margin = QtCellDrawing::getTextMargin(option);
     auto const indentation =
         static_cast<int>(row.getState().nameIndentationInCharacters) * option.fontMetrics.averageCharWidth();
     auto const area = option.rect.adjusted(margin + indentation, 0, -margin, 0);
-    auto const text = option.fontMetrics.elidedText(getOneLine(toQString(row.getState().name)),
+    auto const text = option.fontMetrics.elidedText(QtCellDrawing::getOneLine(toQString(row.getState().name)),
                                                     Qt::ElideRight, area.width());
     painter.setPen(getForeground(option, row));
     painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
@@ -399,13 +336,14 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
 {
     auto const layout = QtPropertyGridLayout::of(row, option);
     if (!layout.checkBox.isEmpty())
-        paintCheckBox(painter, option, row, layout.checkBox);
+        QtCellDrawing::paintCheckBox(painter, option, row.getState().checkState, layout.checkBox,
+                                     PropertyGridEditing::canClickCheckBox(row));
     if (!layout.button.isEmpty())
         paintButton(painter, option, row, layout.button);
     if (!layout.arrow.isEmpty())
         paintArrow(painter, option, row, layout.arrow);
 
-    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto const margin = QtCellDrawing::getTextMargin(option);
     auto area = layout.value.adjusted(margin, 0, -margin, 0);
     if (!layout.arrow.isEmpty())
         area.setRight(layout.arrow.left() - 1);
@@ -433,27 +371,17 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
 
 QWidget* QtPropertyGridDelegate::createChoiceEditor(QWidget* parent, PropertyGridRow const& row) const
 {
-    auto* const combo = new QComboBox(parent);
+    auto& self = const_cast<QtPropertyGridDelegate&>(*this);
+    auto* const combo = QtChoiceEditor::create(parent, self, PropertyGridEditing::canTypeFreely(row));
     combo->setFrame(false);
-    combo->setEditable(PropertyGridEditing::canTypeFreely(row));
-    combo->setInsertPolicy(QComboBox::NoInsert);
-    if (combo->isEditable()) {
-        // What is typed stays as typed, also where it begins like an entry.
-        combo->setCompleter(nullptr);
-        combo->lineEdit()->setFrame(false);
+    if (combo->isEditable())
         combo->lineEdit()->setPlaceholderText(toQString(PropertyGridEditing::getHint(row)));
-    }
     for (auto const& option : row.getState().options) {
         combo->addItem(toQString(option.text));
         auto* const items = qobject_cast<QStandardItemModel*>(combo->model());
         if (items && !option.enabled)
             items->item(items->rowCount() - 1)->setEnabled(false);
     }
-    auto* const self = const_cast<QtPropertyGridDelegate*>(this);
-    connect(combo, &QComboBox::activated, self, [self, combo] {
-        emit self->commitData(combo);
-        emit self->closeEditor(combo);
-    });
     return combo;
 }
 

@@ -16,12 +16,6 @@ public:
     explicit QtPropertyGridDelegate(QObject* parent = nullptr);
     ~QtPropertyGridDelegate() override;
 
-    /// \p foreground made to stand back before \p background: \p share of it, the rest of the other.
-    [[nodiscard]] static QColor getMuted(QColor const& foreground, QColor const& background,
-                                         float share = 0.65F);
-    /// Black or white, whichever is easier to read on \p background.
-    [[nodiscard]] static QColor getReadableOn(QColor const& background);
-
     void paint(QPainter* painter, QStyleOptionViewItem const& option,
                QModelIndex const& index) const override;
     [[nodiscard]] QSize sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const override;

@@ -1,25 +1,13 @@
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
 
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
+#include "Ui/Qt/QtCellDrawing.h"
 
 #include <algorithm>
-#include <QApplication>
-#include <QStyle>
-#include <QWidget>
 
 namespace qev::ui {
 
 namespace {
-
-QStyle* getStyle(QStyleOptionViewItem const& option)
-{
-    return option.widget ? option.widget->style() : QApplication::style();
-}
-
-int getMetric(QStyleOptionViewItem const& option, QStyle::PixelMetric metric)
-{
-    return getStyle(option)->pixelMetric(metric, &option, option.widget);
-}
 
 /// Cuts \p width off the left of \p cell. \returns what was cut off.
 QRect takeLeft(QRect& cell, int width)
@@ -39,9 +27,9 @@ QRect takeRight(QRect& cell, int width)
 
 QRect takeCheckBox(QRect& cell, QStyleOptionViewItem const& option)
 {
-    auto const width = getMetric(option, QStyle::PM_IndicatorWidth);
-    auto const height = getMetric(option, QStyle::PM_IndicatorHeight);
-    auto const margin = QtPropertyGridLayout::getTextMargin(option);
+    auto const width = QtCellDrawing::getMetric(option, QStyle::PM_IndicatorWidth);
+    auto const height = QtCellDrawing::getMetric(option, QStyle::PM_IndicatorHeight);
+    auto const margin = QtCellDrawing::getTextMargin(option);
     auto const part = takeLeft(cell, margin + width);
     return {part.left() + margin, part.center().y() - height / 2, width, height};
 }
@@ -55,16 +43,12 @@ QtPropertyGridLayout QtPropertyGridLayout::of(PropertyGridRow const& row, QStyle
     if (PropertyGridEditing::hasCheckBox(row))
         layout.checkBox = takeCheckBox(cell, option);
     if (PropertyGridEditing::hasVisibleButton(row))
-        layout.button = takeRight(cell, option.fontMetrics.height() + 2 * getTextMargin(option));
+        layout.button =
+            takeRight(cell, option.fontMetrics.height() + 2 * QtCellDrawing::getTextMargin(option));
     layout.value = cell;
     if (PropertyGridEditing::getValueEditor(row) == PropertyGridEditor::Choice)
         layout.arrow = takeRight(cell, option.fontMetrics.height());
     return layout;
-}
-
-int QtPropertyGridLayout::getTextMargin(QStyleOptionViewItem const& option)
-{
-    return getMetric(option, QStyle::PM_FocusFrameHMargin) + 2;
 }
 
 } // namespace qev::ui

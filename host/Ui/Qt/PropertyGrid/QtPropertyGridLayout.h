@@ -21,8 +21,6 @@ struct HOSTUIQT_EXPORT QtPropertyGridLayout
     /// The parts of \p row in the cell of \p option, from the measures of the widget's style.
     [[nodiscard]] static QtPropertyGridLayout of(PropertyGridRow const& row,
                                                  QStyleOptionViewItem const& option);
-    /// The room to the left and right of a text in a cell.
-    [[nodiscard]] static int getTextMargin(QStyleOptionViewItem const& option);
 };
 
 } // namespace qev::ui

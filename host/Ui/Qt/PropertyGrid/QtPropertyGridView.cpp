@@ -2,9 +2,10 @@
 
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
 #include "Ui/PropertyGrid/PropertyGridRowRecord.h"
-#include "Ui/Qt/PropertyGrid/QtPropertyGridClipboard.h"
+#include "Ui/PropertyGrid/PropertyGridText.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/QtClipboard.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -145,11 +146,20 @@ QModelIndexList QtPropertyGridView::getSelectedRows() const
 
 void QtPropertyGridView::copySelection()
 {
-    std::vector<PropertyGridRow const*> rows;
-    for (auto const& index : getSelectedRows())
-        rows.push_back(QtPropertyGridItemModel::getRow(index));
-    if (!rows.empty())
-        QApplication::clipboard()->setMimeData(QtPropertyGridClipboard::make(rows).release());
+    auto const rows = getSelectedRows();
+    if (rows.isEmpty())
+        return;
+    if (rows.size() == 1) {
+        auto const* const row = QtPropertyGridItemModel::getRow(rows.front());
+        QtClipboard::copy(toQString(PropertyGridText::getCopiedText(*row)));
+        return;
+    }
+    ListBlock block;
+    for (auto const& index : rows) {
+        auto const* const row = QtPropertyGridItemModel::getRow(index);
+        block.push_back({row->getName(), PropertyGridText::getValueText(*row)});
+    }
+    QtClipboard::copy(block);
 }
 
 bool QtPropertyGridView::openEditor(QModelIndex const& index, bool withChoices)

@@ -281,10 +281,10 @@ TEST_F(QtPropertyGridTest, EmptyLinesCannotBecomeCurrent)
 
 TEST_F(QtPropertyGridTest, TextsAreReadableOnAnyBackground)
 {
-    EXPECT_EQ(QtPropertyGridDelegate::getReadableOn(QColor(255, 255, 200)), QColor(Qt::black));
-    EXPECT_EQ(QtPropertyGridDelegate::getReadableOn(QColor(60, 0, 90)), QColor(Qt::white));
-    EXPECT_EQ(QtPropertyGridDelegate::getReadableOn(QColor(0, 0, 255)), QColor(Qt::white));
-    EXPECT_EQ(QtPropertyGridDelegate::getReadableOn(QColor(0, 255, 0)), QColor(Qt::black));
+    EXPECT_EQ(QtCellDrawing::getReadableOn(QColor(255, 255, 200)), QColor(Qt::black));
+    EXPECT_EQ(QtCellDrawing::getReadableOn(QColor(60, 0, 90)), QColor(Qt::white));
+    EXPECT_EQ(QtCellDrawing::getReadableOn(QColor(0, 0, 255)), QColor(Qt::white));
+    EXPECT_EQ(QtCellDrawing::getReadableOn(QColor(0, 255, 0)), QColor(Qt::black));
 }
 
 TEST_F(QtPropertyGridTest, EditorLeavesRoomForCheckBoxAndButton)

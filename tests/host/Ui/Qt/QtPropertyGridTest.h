@@ -2,6 +2,7 @@
 
 #include "QtUiTest.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtText.h"
 
 #include <functional>
