@@ -36,7 +36,7 @@ public:
                                 std::shared_ptr<Image const> /*checkedImage*/,
                                 std::shared_ptr<Image const> /*uncheckedImage*/) override
     {
-        m_list->setColumnCheckBoxes(column, enable, mode);
+        m_list->getColumns().setCheckBoxes(column, enable ? std::optional(mode) : std::nullopt);
     }
     [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const override
     {
@@ -44,7 +44,11 @@ public:
     }
     void activateComboBoxEditingForColumn(std::size_t column) override
     {
-        m_list->activateComboBoxEditingForColumn(column);
+        m_list->getColumns().activateComboBox(column);
+    }
+    [[nodiscard]] bool isComboBoxColumn(std::size_t column) const override
+    {
+        return m_list->isComboBoxColumn(column);
     }
     [[nodiscard]] bool isUsingReportStyle() const override { return m_list->isUsingReportStyle(); }
     void startLabelEdit(std::size_t row, std::size_t column) override { m_list->startLabelEdit(row, column); }
@@ -56,7 +60,7 @@ public:
 private:
     void setDefaultHiddenColumns(std::set<std::size_t> const& columns) override
     {
-        m_list->setDefaultHiddenColumns(columns);
+        m_list->getColumns().setDefaultHidden(columns);
     }
 
     std::shared_ptr<HeadlessListControl> m_list;
@@ -83,8 +87,7 @@ std::unique_ptr<WindowInterface> HeadlessListControl::createInterface()
 
 std::string HeadlessListControl::getHeaderText(std::size_t column) const
 {
-    auto const control = getListControl();
-    return control ? fireEvent(control->onGetColumnHeaderText, column) : std::string();
+    return column < getColumnCount() ? m_columns.getTitles()[column] : std::string();
 }
 
 std::string HeadlessListControl::getText(std::size_t row, std::size_t column) const
@@ -127,11 +130,6 @@ bool HeadlessListControl::containsLocalValue(std::size_t row, std::size_t column
 {
     auto const control = getListControl();
     return control && fireEvent(control->onDoesItemContainLocalValue, cell(row, column));
-}
-
-bool HeadlessListControl::isColumnHidden(std::size_t column) const
-{
-    return m_settings.hiddenColumns.contains(column);
 }
 
 bool HeadlessListControl::select(std::set<std::size_t> rows)
@@ -179,12 +177,10 @@ bool HeadlessListControl::clickCheckBoxes(std::size_t column)
 bool HeadlessListControl::hideColumn(std::size_t column, bool hidden)
 {
     auto const control = getListControl();
-    if (!control || !isReachable() || column >= m_columnCount || !fireEvent(control->onQueryColumn, column))
+    if (!control || !isReachable() || column >= getColumnCount() ||
+        !fireEvent(control->onQueryColumn, column))
         return false;
-    if (hidden)
-        m_settings.hiddenColumns.insert(column);
-    else
-        m_settings.hiddenColumns.erase(column);
+    m_columns.setHidden(column, hidden);
     return true;
 }
 
@@ -255,9 +251,9 @@ ListEditResult HeadlessListControl::paste(std::size_t row, std::size_t column, L
         for (auto index = row; index < (isOneCell ? row + 1 : m_rowCount); ++index)
             rows.push_back(index);
     std::vector<std::size_t> columns{column};
-    for (auto index = column + 1; !isOneCell && index < m_columnCount; ++index) {
-        if (!isColumnHidden(index))
-            columns.push_back(index);
+    if (!isOneCell) {
+        columns = getVisibleColumns();
+        columns.erase(columns.begin(), std::find(columns.begin(), columns.end(), column));
     }
     return ListEditing(control).paste(rows, columns, block);
 }
@@ -298,7 +294,7 @@ bool HeadlessListControl::openContextMenu(std::size_t row, std::size_t column)
 bool HeadlessListControl::resetToGlobalValues(std::size_t column)
 {
     auto const control = getListControl();
-    if (!control || !isReachable() || m_selection.empty() || column >= m_columnCount)
+    if (!control || !isReachable() || m_selection.empty() || column >= getColumnCount())
         return false;
     std::vector<std::size_t> const rows(m_selection.begin(), m_selection.end());
     fireEvent(control->onResetItemsToGlobalValues, rows, column);
@@ -307,11 +303,10 @@ bool HeadlessListControl::resetToGlobalValues(std::size_t column)
 
 std::string HeadlessListControl::dump() const
 {
+    auto const columns = getVisibleColumns();
     std::string text = "  ";
     std::string separator;
-    for (std::size_t column = 0; column < m_columnCount; ++column) {
-        if (isColumnHidden(column))
-            continue;
+    for (auto const column : columns) {
         text += separator + getHeaderText(column);
         separator = " | ";
     }
@@ -319,9 +314,7 @@ std::string HeadlessListControl::dump() const
     for (std::size_t row = 0; row < m_rowCount; ++row) {
         text += m_selection.contains(row) ? "> " : "  ";
         separator.clear();
-        for (std::size_t column = 0; column < m_columnCount; ++column) {
-            if (isColumnHidden(column))
-                continue;
+        for (auto const column : columns) {
             text += separator + getCellText(row, column);
             separator = " | ";
         }
@@ -332,29 +325,13 @@ std::string HeadlessListControl::dump() const
 
 void HeadlessListControl::setItemAndColumnCounts(std::size_t rows, std::size_t columns)
 {
+    auto const control = getListControl();
+    std::vector<std::string> titles;
+    for (std::size_t column = 0; control && column < columns; ++column)
+        titles.push_back(fireEvent(control->onGetColumnHeaderText, column));
     m_rowCount = rows;
-    m_columnCount = columns;
+    m_columns.setTitles(std::move(titles));
     m_selection.erase(m_selection.lower_bound(rows), m_selection.end());
-    if (columns > 0)
-        return;
-    m_checkBoxColumns.clear();
-    m_comboBoxColumns.clear();
-    m_settings = {};
-    m_defaultHiddenColumns.clear();
-}
-
-void HeadlessListControl::setColumnCheckBoxes(std::size_t column, bool enabled, int mode)
-{
-    if (enabled)
-        m_checkBoxColumns[column] = mode;
-    else
-        m_checkBoxColumns.erase(column);
-}
-
-std::optional<int> HeadlessListControl::getCheckBoxMode(std::size_t column) const
-{
-    auto const found = m_checkBoxColumns.find(column);
-    return found == m_checkBoxColumns.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool HeadlessListControl::isUsingReportStyle() const
@@ -364,17 +341,22 @@ bool HeadlessListControl::isUsingReportStyle() const
 
 void HeadlessListControl::startLabelEdit(std::size_t row, std::size_t column)
 {
-    if (isDestroyed() || row > m_rowCount || column >= m_columnCount)
+    if (isDestroyed() || row > m_rowCount || column >= getColumnCount())
         return;
     openEditor({cell(row, column)});
 }
 
-void HeadlessListControl::setDefaultHiddenColumns(std::set<std::size_t> const& columns)
+ListControlSettings HeadlessListControl::getSettings() const
 {
-    if (m_defaultHiddenColumns == columns)
-        return;
-    m_defaultHiddenColumns = columns;
-    m_settings.hiddenColumns = columns;
+    auto settings = m_columns.getSettings();
+    settings.sorting = m_sorting;
+    return settings;
+}
+
+void HeadlessListControl::loadSettings(ListControlSettings const& settings)
+{
+    m_columns.loadSettings(settings);
+    m_sorting = settings.sorting;
 }
 
 std::shared_ptr<ListControl> HeadlessListControl::getListControl() const
@@ -389,7 +371,7 @@ bool HeadlessListControl::isReachableCell(std::size_t row, std::size_t column) c
 
 bool HeadlessListControl::isReachableColumn(std::size_t column) const
 {
-    return isReachable() && column < m_columnCount && !isColumnHidden(column);
+    return isReachable() && column < getColumnCount() && !isColumnHidden(column);
 }
 
 std::vector<ListControl::ItemInfo> HeadlessListControl::getSelectedCells(std::size_t column) const
@@ -398,6 +380,13 @@ std::vector<ListControl::ItemInfo> HeadlessListControl::getSelectedCells(std::si
     for (auto const row : m_selection)
         cells.push_back(cell(row, column));
     return cells;
+}
+
+std::vector<std::size_t> HeadlessListControl::getVisibleColumns() const
+{
+    auto columns = m_columns.getOrder();
+    std::erase_if(columns, [this](std::size_t column) { return isColumnHidden(column); });
+    return columns;
 }
 
 bool HeadlessListControl::click(std::vector<ListControl::ItemInfo> const& items)

@@ -2,11 +2,11 @@
 
 #include "HostUiExport.h"
 #include "Ui/Headless/HeadlessWindow.h"
+#include "Ui/List/ListColumns.h"
 #include "Ui/List/ListEditing.h"
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 
 #include <cstddef>
-#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] std::unique_ptr<WindowInterface> createInterface() override;
 
     [[nodiscard]] std::size_t getRowCount() const { return m_rowCount; }
-    [[nodiscard]] std::size_t getColumnCount() const { return m_columnCount; }
+    [[nodiscard]] std::size_t getColumnCount() const { return m_columns.getCount(); }
     [[nodiscard]] std::string getHeaderText(std::size_t column) const;
     [[nodiscard]] std::string getText(std::size_t row, std::size_t column) const;
     [[nodiscard]] ListControl::ItemStyle getStyle(std::size_t row, std::size_t column) const;
@@ -38,11 +38,8 @@ public:
     /// A cell as `dump` has it: its check box, as "[x]" or "[ ]", and its text.
     [[nodiscard]] std::string getCellText(std::size_t row, std::size_t column) const;
     [[nodiscard]] bool containsLocalValue(std::size_t row, std::size_t column) const;
-    [[nodiscard]] bool isColumnHidden(std::size_t column) const;
-    [[nodiscard]] bool isComboBoxColumn(std::size_t column) const
-    {
-        return m_comboBoxColumns.contains(column);
-    }
+    [[nodiscard]] bool isColumnHidden(std::size_t column) const { return m_columns.isHidden(column); }
+    [[nodiscard]] bool isComboBoxColumn(std::size_t column) const { return m_columns.isComboBox(column); }
 
     /// Selects these rows and no others. False when one does not exist.
     bool select(std::set<std::size_t> rows);
@@ -88,25 +85,28 @@ public:
     /// Takes the local values of the selected rows away.
     bool resetToGlobalValues(std::size_t column);
 
-    /// The visible columns as a table: a line of headers, then one line per row, cells parted by " | ",
-    /// selected rows marked with ">".
+    /// The visible columns as a table, in the user's order: a line of headers, then one line per row, cells
+    /// parted by " | ", selected rows marked with ">".
     [[nodiscard]] std::string dump() const;
     /// Rows in the order they were repainted one by one.
     [[nodiscard]] std::vector<std::size_t> const& getRedrawnRows() const { return m_redrawnRows; }
 
     void setItemAndColumnCounts(std::size_t rows, std::size_t columns);
     void redrawItem(std::size_t row) { m_redrawnRows.push_back(row); }
-    void setColumnCheckBoxes(std::size_t column, bool enabled, int mode);
+    /// What the owner says of the columns, and how they are arranged.
+    [[nodiscard]] ListColumns const& getColumns() const { return m_columns; }
+    [[nodiscard]] ListColumns& getColumns() { return m_columns; }
     /// The mode of a column's check boxes; nothing for a column without any.
-    [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const;
-    void activateComboBoxEditingForColumn(std::size_t column) { m_comboBoxColumns.insert(column); }
+    [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const
+    {
+        return m_columns.getCheckBoxMode(column);
+    }
     [[nodiscard]] bool isUsingReportStyle() const;
     void startLabelEdit(std::size_t row, std::size_t column);
     void addStyleFlags(unsigned int flags) { m_styleFlags |= flags; }
     [[nodiscard]] unsigned int getStyleFlags() const { return m_styleFlags; }
-    void setDefaultHiddenColumns(std::set<std::size_t> const& columns);
-    [[nodiscard]] ListControlSettings const& getSettings() const { return m_settings; }
-    void loadSettings(ListControlSettings const& settings) { m_settings = settings; }
+    [[nodiscard]] ListControlSettings getSettings() const;
+    void loadSettings(ListControlSettings const& settings);
 
 protected:
     [[nodiscard]] std::string dumpContent() const override { return dump(); }
@@ -116,6 +116,8 @@ private:
     [[nodiscard]] bool isReachableCell(std::size_t row, std::size_t column) const;
     [[nodiscard]] bool isReachableColumn(std::size_t column) const;
     [[nodiscard]] std::vector<ListControl::ItemInfo> getSelectedCells(std::size_t column) const;
+    /// From left to right.
+    [[nodiscard]] std::vector<std::size_t> getVisibleColumns() const;
     bool click(std::vector<ListControl::ItemInfo> const& items);
     bool openEditor(std::vector<ListControl::ItemInfo> items);
     /// Closes the editor, and hands what was edited to \p operation.
@@ -125,13 +127,10 @@ private:
     unsigned int m_style;
     unsigned int m_styleFlags = 0;
     std::size_t m_rowCount = 0;
-    std::size_t m_columnCount = 0;
     std::set<std::size_t> m_selection;
-    /// The mode of each column that has check boxes.
-    std::map<std::size_t, int> m_checkBoxColumns;
-    std::set<std::size_t> m_comboBoxColumns;
-    ListControlSettings m_settings;
-    std::set<std::size_t> m_defaultHiddenColumns;
+    ListColumns m_columns;
+    /// Kept for the settings alone: the rows stand in the owner's order.
+    std::vector<ListSortColumn> m_sorting;
     std::vector<std::size_t> m_redrawnRows;
     std::optional<ListEdit> m_edit;
     ListEditResult m_editResult;

@@ -63,7 +63,7 @@ void sortRefusals(ListEditResult& result)
 
 std::optional<ListEdit> ListEditing::begin(Items items) const
 {
-    auto editor = fireEvent(m_list->onLabelEditBegin, ListControl::LabelEditBeginParams{items});
+    auto editor = askEditor(items);
     if (editor.editType == ListControl::NoEdit)
         return std::nullopt;
     auto text = getCommonEditText(items);
@@ -217,6 +217,15 @@ std::optional<CheckState> ListEditing::getCheckState(ItemInfo const& item) const
     return fireEvent(m_list->onGetCheckState, item);
 }
 
+ListControl::LabelEditBeginResultParams ListEditing::askEditor(Items const& items) const
+{
+    auto editor = fireEvent(m_list->onLabelEditBegin, ListControl::LabelEditBeginParams{items});
+    bool const isComboBox = !items.empty() && m_list->isComboBoxColumn(columnOf(items.front()));
+    if (isComboBox && editor.editType == ListControl::EditBox)
+        editor.editType = ListControl::DropDown;
+    return editor;
+}
+
 void ListEditing::setTextInColumn(Items const& items, std::string const& text, ListEditResult& result) const
 {
     auto const column = columnOf(items.front());
@@ -232,7 +241,7 @@ void ListEditing::setTextInColumn(Items const& items, std::string const& text, L
     for (auto const& item : items) {
         if (says(item, text))
             continue;
-        auto editor = fireEvent(m_list->onLabelEditBegin, ListControl::LabelEditBeginParams{{item}});
+        auto editor = askEditor({item});
         if (editor.editType == ListControl::NoEdit) {
             refuseAll({item}, ListRefusalReason::NotEditable, text, result);
             continue;

@@ -111,6 +111,8 @@ public:
     [[nodiscard]] std::optional<CheckState> getCheckState(ListControl::ItemInfo const& item) const;
 
 private:
+    /// What the owner answers, as the column has it edited.
+    [[nodiscard]] ListControl::LabelEditBeginResultParams askEditor(Items const& items) const;
     /// Puts \p text into cells of one column.
     void setTextInColumn(Items const& items, std::string const& text, ListEditResult& result) const;
     void setCheckStates(Items const& items, CheckState state, ListEditResult& result) const;

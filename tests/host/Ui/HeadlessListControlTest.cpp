@@ -304,6 +304,38 @@ TEST_F(HeadlessListControlTest, StylesAndColoursComeFromTheOwner)
     EXPECT_EQ(list->getStyle(0, 0).flags, 1u);
 }
 
+TEST_F(HeadlessListControlTest, WhatTheUserDidToAColumnCountsForLaterColumnsOfItsTitle)
+{
+    control->getHeader().setDefaultHiddenColumns({2});
+    list->hideColumn(0, true);
+    control->setItemAndColumnCounts(0, 0);
+    control->setItemAndColumnCounts(texts.size(), 3);
+    EXPECT_TRUE(list->isColumnHidden(0)) << "The user has hidden it.";
+    EXPECT_FALSE(list->isColumnHidden(2)) << "The owner said nothing of the new columns.";
+    EXPECT_EQ(list->getCheckBoxMode(1), std::nullopt);
+
+    control->onGetColumnHeaderText.iHandlerAdd(
+        [](auto&, std::size_t column) { return "Column " + std::to_string(column + 1); });
+    control->setItemAndColumnCounts(texts.size(), 2);
+    EXPECT_FALSE(list->isColumnHidden(0));
+    EXPECT_EQ(list->getHeaderText(0), "Column 1");
+    EXPECT_EQ(list->getHeaderText(2), "");
+}
+
+TEST_F(HeadlessListControlTest, ColumnsStandAsTheUserHasArrangedThem)
+{
+    answerEditsWith(ListControl::EditBox);
+    control->loadSettings({{}, {1}, {2, 1, 0}, {{2, true}}});
+    EXPECT_EQ(list->dump(), R"(  Column 2 | Column 0
+  F30 | W1
+  F60 | W2
+   | W10
+)");
+    EXPECT_EQ(list->paste(1, 2, {{"A", "B"}}).takenCells, 2u);
+    EXPECT_EQ(ends.back().items.front(), (ListControl::ItemInfo{1, 0}));
+    EXPECT_THAT(control->getSettings().sorting, ElementsAre(ListSortColumn{2, true}));
+}
+
 TEST_F(HeadlessListControlTest, SettingsAreKeptAndLoaded)
 {
     ListControlSettings const settings{{100, 50}, {2}};

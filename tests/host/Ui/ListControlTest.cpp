@@ -32,6 +32,7 @@ TEST_F(ListControlTest, EachOperationReportsAMissingPlatformSide)
         {"enableColumnCheckBoxes", [](auto& list) { list.enableColumnCheckBoxes(0, 0, nullptr, nullptr); }},
         {"getCheckBoxMode", [](auto& list) { EXPECT_EQ(list.getCheckBoxMode(0), std::nullopt); }},
         {"activateComboBoxEditingForColumn", [](auto& list) { list.activateComboBoxEditingForColumn(0); }},
+        {"isComboBoxColumn", [](auto& list) { EXPECT_FALSE(list.isComboBoxColumn(0)); }},
         {"isUsingReportStyle", [](auto& list) { EXPECT_FALSE(list.isUsingReportStyle()); }},
         {"enableLabelEdit", [](auto& list) { list.enableLabelEdit(); }},
         {"startLabelEdit", [](auto& list) { list.startLabelEdit(0); }},
@@ -165,11 +166,12 @@ TEST_F(ListControlTest, ColumnsKeepTheirCheckBoxesUntilThereAreNoColumns)
     EXPECT_EQ(list->getColumnCount(), 3u);
     EXPECT_EQ(list->getCheckBoxMode(0), std::nullopt);
     EXPECT_EQ(list->getCheckBoxMode(1), ListControl::BoxWithValue);
+    EXPECT_TRUE(list->isComboBoxColumn(2));
 
     list->setItemAndColumnCounts(0, 0);
     list->setItemAndColumnCounts(5, 3);
     EXPECT_EQ(list->getCheckBoxMode(1), std::nullopt);
-    EXPECT_FALSE(backend->getListControl(*list)->isComboBoxColumn(2));
+    EXPECT_FALSE(list->isComboBoxColumn(2));
     EXPECT_EQ(list->getSettings(), ListControlSettings());
 }
 

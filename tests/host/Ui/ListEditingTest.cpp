@@ -159,6 +159,26 @@ TEST_F(ListEditingTest, AnEmptyTextTakesTheValueOfADropListAway)
     EXPECT_EQ(texts[0][statusColumn], "");
 }
 
+TEST_F(ListEditingTest, AnEditBoxInAColumnOfComboBoxesIsADropDown)
+{
+    auto const edit = editing.begin({{0, nameColumn}});
+    ASSERT_TRUE(edit);
+    EXPECT_EQ(edit->editor.editType, ListControl::EditBox);
+
+    control->activateComboBoxEditingForColumn(nameColumn);
+    control->activateComboBoxEditingForColumn(statusColumn);
+    auto const combo = editing.begin({{0, nameColumn}});
+    ASSERT_TRUE(combo);
+    EXPECT_EQ(combo->editor.editType, ListControl::DropDown);
+    EXPECT_EQ(editing.commitText(*combo, "W3").takenCells, 1u);
+    EXPECT_EQ(texts[0][nameColumn], "W3");
+    EXPECT_FALSE(ends.back().hasSelection);
+    auto const dropList = editing.begin({{0, statusColumn}});
+    ASSERT_TRUE(dropList);
+    EXPECT_EQ(dropList->editor.editType, ListControl::DropList);
+    EXPECT_FALSE(editing.begin({{lockedRow = 1, nameColumn}}));
+}
+
 TEST_F(ListEditingTest, CancellingTellsTheOwner)
 {
     editing.cancel(*editing.begin({{0, nameColumn}}));

@@ -72,6 +72,12 @@ void QtListControlInterface::activateComboBoxEditingForColumn(std::size_t column
         list->getCells().getColumns().activateComboBox(column);
 }
 
+bool QtListControlInterface::isComboBoxColumn(std::size_t column) const
+{
+    auto const* const list = getList();
+    return list && list->getCells().getColumns().isComboBox(column);
+}
+
 bool QtListControlInterface::isUsingReportStyle() const
 {
     auto const* const list = getList();

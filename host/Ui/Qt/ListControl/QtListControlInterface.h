@@ -27,6 +27,7 @@ public:
                                 std::shared_ptr<Image const> checkedImage,
                                 std::shared_ptr<Image const> uncheckedImage) override;
     void activateComboBoxEditingForColumn(std::size_t column) override;
+    [[nodiscard]] bool isComboBoxColumn(std::size_t column) const override;
     [[nodiscard]] bool isUsingReportStyle() const override;
     void startLabelEdit(std::size_t row, std::size_t column) override;
     void addStyleFlags(unsigned int flags) override;

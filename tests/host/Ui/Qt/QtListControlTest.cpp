@@ -376,5 +376,22 @@ TEST_F(QtListControlTest, APopupStandsByItselfAndOpensRows)
     EXPECT_THAT(popup->getSelectedItems(), ElementsAre(1u));
 }
 
+TEST_F(QtListControlTest, InAPopupWithoutAnythingToOpenADoubleClickEdits)
+{
+    auto const popup = createList(ListControl::PopupStyle | ListControl::PopupReportStyle);
+    auto& popupView = backend->getListControl(*popup)->getView();
+    attachEditing(*popup);
+    popup->setItemAndColumnCounts(texts.size(), 5);
+    popup->show();
+    auto const doubleClick = [&](std::size_t column) {
+        auto const area = popupView.visualRect(popupView.model()->index(0, static_cast<int>(column)));
+        QTest::mouseDClick(popupView.viewport(), Qt::LeftButton, Qt::NoModifier, area.center());
+    };
+    doubleClick(locked);
+    EXPECT_FALSE(popupView.isEditing());
+    doubleClick(name);
+    EXPECT_TRUE(popupView.isEditing());
+}
+
 } // namespace
 } // namespace qev::test

@@ -236,6 +236,20 @@ TEST_F(QtListViewTest, ADropListOffersItsEntriesInTheCell)
     EXPECT_THAT(edits, ElementsAre("set 0: F90"));
 }
 
+TEST_F(QtListViewTest, AnEditBoxInAColumnOfComboBoxesIsADropDown)
+{
+    control->activateComboBoxEditingForColumn(name);
+    select(0, name);
+    key(Qt::Key_F2);
+    auto* const combo = editor<QComboBox>(0, name);
+    ASSERT_NE(combo, nullptr);
+    EXPECT_TRUE(combo->isEditable());
+    EXPECT_EQ(combo->currentText(), toQString(texts[0][name]));
+    type("New");
+    key(Qt::Key_Return);
+    EXPECT_EQ(texts[0][name], "New");
+}
+
 TEST_F(QtListViewTest, ADropDownTakesOtherTextsToo)
 {
     control->onLabelEditBegin.iHandlerAdd([](auto&, ListControl::LabelEditBeginParams const&) {

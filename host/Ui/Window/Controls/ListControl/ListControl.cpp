@@ -126,6 +126,12 @@ void ListControl::activateComboBoxEditingForColumn(std::size_t column)
     listInterface->activateComboBoxEditingForColumn(column);
 }
 
+bool ListControl::isComboBoxColumn(std::size_t column) const
+{
+    auto const* const listInterface = requireListInterface("isComboBoxColumn");
+    return listInterface && listInterface->isComboBoxColumn(column);
+}
+
 bool ListControl::isUsingReportStyle() const
 {
     auto const* const listInterface = requireListInterface("isUsingReportStyle");

@@ -35,14 +35,14 @@ public:
         BorderStyle = 0x20,
     };
 
-    /// Flags of `addStyleFlags`.
+    /// Flags of `addStyleFlags`. Which cells can be edited is for `onLabelEditBegin` alone to say.
     enum LabelEditFlag : unsigned int
     {
-        /// F2 and typing begin to edit the current cell.
+        /// Goes with `EditLabels`, and adds nothing: F2 and typing edit the current cell of any list.
         EditByKey = 1,
-        /// Cells can be edited at all.
+        /// A popup is a table whose cells are selected and edited one by one, and not a menu of its rows.
         EditLabels = 2,
-        /// Tab goes on to the next cell that can be edited.
+        /// Tab in an editor goes on to the next cell that can be edited, and edits it.
         EditNextByTab = 8,
     };
 
@@ -143,8 +143,9 @@ public:
 
     [[nodiscard]] static char const* getClassName() { return "ListControl"; }
 
-    /// Says how many rows and columns there are. With no columns at all, everything that was said of columns
-    /// is forgotten: check boxes, combo boxes, which are hidden, and how the user has arranged them.
+    /// Says how many rows and columns there are, and has the titles of the columns asked for. With no columns
+    /// at all, everything that was said of columns is forgotten: check boxes, combo boxes, and which are
+    /// hidden. How the user has arranged them stays for columns of the same titles.
     void setItemAndColumnCounts(std::size_t rows, std::size_t columns);
     [[nodiscard]] std::size_t getItemCount() const;
     [[nodiscard]] std::size_t getColumnCount() const;
@@ -157,11 +158,13 @@ public:
                                 std::shared_ptr<Image const> uncheckedImage);
     /// The `CheckBoxMode` of a column; nothing for a column without check boxes.
     [[nodiscard]] std::optional<int> getCheckBoxMode(std::size_t column) const;
-    /// Label edit of the column is a combo box. Reports "Only applies to report style controls." for others.
+    /// Label edit of the column is a combo box: where the owner answers with an edit box, one that takes any
+    /// text beside the entries. Reports "Only applies to report style controls." for others.
     void activateComboBoxEditingForColumn(std::size_t column);
+    [[nodiscard]] bool isComboBoxColumn(std::size_t column) const;
     [[nodiscard]] bool isUsingReportStyle() const;
-    /// Lets the user edit cells in place, beginning with F2 or a click, and going on with Tab. Reports
-    /// "Only applies to report style controls." for others, and does nothing then.
+    /// Adds all `LabelEditFlag`s. Reports "Only applies to report style controls." for others, and does
+    /// nothing then.
     void enableLabelEdit();
     /// Begins to edit a cell as if the user had asked for it. The row may be the one below the last,
     /// for an owner that adds an entry when the edit ends.
@@ -174,15 +177,15 @@ public:
     [[nodiscard]] ListControlSettings getSettings() const;
     void loadSettings(ListControlSettings const& settings);
 
-    /// A row is opened: a double click where nothing can be edited, or Ctrl+Return; in a popup any double click,
-    /// or Return.
+    /// A row is opened: a double click where nothing can be edited, or Ctrl+Return; in a popup that is a menu
+    /// of rows any double click, or Return.
     EventHandlerContainer<Window, void, ItemInfo const&> onItemActivated;
     /// A row is asked about by the other gesture: a click with the middle button.
     EventHandlerContainer<Window, void, ItemInfo const&> onItemSecondaryEvent;
     EventHandlerContainer<Window, std::string, std::size_t> onGetColumnHeaderText;
     EventHandlerContainer<Window, std::string, ItemInfo const&> onGetItemText;
-    /// The text that an editor of the cell opens with: numbers with all their digits, "TRUE" and "FALSE" for a
-    /// check box alone, and empty for a cell without a value. Without a handler it is the text of the cell.
+    /// The text that an editor of the cell opens with: numbers with all their digits, "TRUE" and "FALSE" for
+    /// a check box alone, and empty for a cell without a value. Without a handler it is the text of the cell.
     EventHandlerContainer<Window, std::string, ItemInfo const&> onGetItemEditText;
     /// The number that the text of the cell stands for, to sort by; nothing for a cell that shows none.
     EventHandlerContainer<Window, std::optional<double>, ItemInfo const&> onGetItemNumber;

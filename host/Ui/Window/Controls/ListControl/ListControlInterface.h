@@ -17,7 +17,8 @@ namespace qev::ui {
 class HOSTUI_EXPORT ListControlInterface : public DialogControlInterface
 {
 public:
-    /// With no columns, what was said of columns and how the user has arranged them is forgotten.
+    /// The titles of the columns are asked for here. With no columns, what was said of columns is forgotten;
+    /// how the user has arranged them stays for columns of the same titles.
     virtual void setItemAndColumnCounts(std::size_t rows, std::size_t columns) = 0;
     [[nodiscard]] virtual std::size_t getItemCount() const = 0;
     [[nodiscard]] virtual std::size_t getColumnCount() const = 0;
@@ -31,6 +32,7 @@ public:
     /// Nothing for a column without check boxes.
     [[nodiscard]] virtual std::optional<int> getCheckBoxMode(std::size_t column) const = 0;
     virtual void activateComboBoxEditingForColumn(std::size_t column) = 0;
+    [[nodiscard]] virtual bool isComboBoxColumn(std::size_t column) const = 0;
     [[nodiscard]] virtual bool isUsingReportStyle() const = 0;
     /// Begins to edit a cell as if the user had asked for it.
     virtual void startLabelEdit(std::size_t row, std::size_t column) = 0;
