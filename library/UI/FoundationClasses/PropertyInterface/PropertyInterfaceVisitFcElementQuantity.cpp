@@ -48,7 +48,11 @@ bool GetValue::visit(FcElementQuantity const& set)
     auto const member = memberOfName(set.Quantities->get(), id);
     if (!member)
         return true;
-    value = valueOfMember(member, "FcElementQuantity");
+    if (auto const simple = asSimpleQuantity(member))
+        value = std::optional(simple->getValue());
+    else
+        reportInVisit("GetValue not implemented for FcPhysicalComplexQuantity", "GetValue",
+                      "FcElementQuantity");
     return false;
 }
 

@@ -10,6 +10,7 @@
 #include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
 #include "UI/FoundationClasses/PropertyInterface/QuantityMembers.h"
 #include "UI/FoundationClasses/PropertyInterface/SetValue.h"
+#include "UI/FoundationClasses/PropertyInterface/VisitReports.h"
 #include "UI/FoundationClasses/PsetSorting.h"
 
 namespace qev::fc::ui::propertyinterface {
@@ -29,7 +30,11 @@ bool GetValue::visit(FcPhysicalComplexQuantity const& quantity)
     auto const member = memberOfName(quantity.HasQuantities->get(), id);
     if (!member)
         return true;
-    value = valueOfMember(member, "FcPhysicalComplexQuantity");
+    if (auto const simple = asSimpleQuantity(member))
+        value = std::optional(simple->getValue());
+    else
+        reportInVisit("GetValue not implemented for FcPhysicalComplexQuantity", "GetValue",
+                      "FcPhysicalComplexQuantity");
     return false;
 }
 

@@ -2,7 +2,6 @@
 
 #include "FoundationClasses/Resource/Quantity/FcPhysicalSimpleQuantity.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyRows.h"
-#include "UI/FoundationClasses/PropertyInterface/VisitReports.h"
 #include "UI/FoundationClasses/PsetSorting.h"
 
 #include <algorithm>
@@ -46,15 +45,6 @@ std::shared_ptr<FcPhysicalQuantity> memberOfName(QuantityMembers const& members,
 std::shared_ptr<FcPhysicalSimpleQuantity> asSimpleQuantity(std::shared_ptr<FcPhysicalQuantity> const& member)
 {
     return entityCast<FcPhysicalSimpleQuantity>(member);
-}
-
-object::PropertyValue valueOfMember(std::shared_ptr<FcPhysicalQuantity> const& member,
-                                    std::string_view ownerClass)
-{
-    if (auto const quantity = asSimpleQuantity(member))
-        return std::optional(quantity->getValue());
-    reportInVisit("GetValue not implemented for FcPhysicalComplexQuantity", "GetValue", ownerClass);
-    return {};
 }
 
 } // namespace qev::fc::ui::propertyinterface

@@ -2,10 +2,8 @@
 
 #include "FoundationClasses/ForwardDeclarations.h"
 #include "Object/PropertyId.h"
-#include "Object/PropertyValue.h"
 
 #include <memory>
-#include <string_view>
 #include <vector>
 
 namespace qev::fc {
@@ -33,10 +31,5 @@ memberOfName(QuantityMembers const& members, object::PropertyId const& name);
 /// The member as one that has a value; null for other kinds, and for null.
 [[nodiscard]] std::shared_ptr<resource::quantity::FcPhysicalSimpleQuantity>
 asSimpleQuantity(std::shared_ptr<resource::quantity::FcPhysicalQuantity> const& member);
-
-/// The number of a member, in SI units. A member that has none is reported for \p ownerClass.
-[[nodiscard]] object::PropertyValue
-valueOfMember(std::shared_ptr<resource::quantity::FcPhysicalQuantity> const& member,
-              std::string_view ownerClass);
 
 } // namespace qev::fc::ui::propertyinterface

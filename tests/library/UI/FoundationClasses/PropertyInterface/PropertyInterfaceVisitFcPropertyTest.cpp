@@ -93,6 +93,19 @@ TEST_F(PropertyRows, ReportAnIdThatNoKindOfPropertyKnows)
                  std::string(folder) + "PropertyInterfaceVisitFcProperty");
 }
 
+TEST_F(PropertyRows, ReportEachVisitFromItsOwnLine)
+{
+    auto const member = complex->HasProperties->get()[0];
+    static_cast<void>(of(complex).value("UsageName"));
+    of(member).set("Specification", std::optional<std::string>("agreed"));
+    auto const reports = takeReports();
+    ASSERT_EQ(reports.size(), 2u);
+    EXPECT_EQ(reports[0].path, reports[1].path);
+    EXPECT_NE(reports[0].line, reports[1].line);
+    EXPECT_EQ(reports[0].kind, 0u);
+    EXPECT_EQ(reports[1].kind, 1u);
+}
+
 TEST_F(PropertyRows, LabelAPropertyByItsSetAndName)
 {
     EXPECT_EQ(of(complex).name("Name"), "Paint");
