@@ -12,6 +12,9 @@
 namespace qev::fc {
 class Data;
 }
+namespace qev::ifc::def {
+class SchemaPset;
+}
 
 namespace qev::fc::ui::propertyinterface {
 
@@ -63,5 +66,14 @@ public:
     /// The result; nothing where no visit knows the id.
     object::PropertyValue value;
 };
+
+/// What an attribute of \p entity reads as that is not set: an unset optional of the kind that its type in
+/// \p schema has, so that an editor for that kind opens on it.
+///
+/// A schema that is null, or that has no such class or attribute, is reported; the optional is then one of
+/// texts.
+[[nodiscard]] QEVFOUNDATIONCLASSESUI_EXPORT object::PropertyValue
+getNulloptPropertyValueFor(FcBase const& entity, object::PropertyId const& id,
+                           ifc::def::SchemaPset const* schema);
 
 } // namespace qev::fc::ui::propertyinterface

@@ -38,6 +38,10 @@
 
 namespace qev::fc::ui::propertyinterface {
 
+using ifc::SchemaLoader;
+using ifc::def::SchemaPset;
+using ifc::def::schema::Attribute;
+using ifc::def::schema::Entity;
 using object::PropertyId;
 using object::PropertyValue;
 using resource::geometry::FcCartesianPoint;
@@ -196,18 +200,20 @@ PropertyValue asOptional(PropertyValue const& value) { return value.getWrappedOp
 
 // --- Unset attributes -------------------------------------------------------------------------------
 
-void reportSchemaFault(std::string_view text) { assert::report(text, "getNulloptPropertyValueFor", path); }
-
-ifc::def::schema::Attribute const* schemaAttribute(FcBase const& entity, std::string const& name)
+void reportSchemaFault(std::string_view text, unsigned int line = __builtin_LINE())
 {
-    auto const* const schema = ifc::SchemaLoader::curr().pSchemaFromName("IFC4X3_TC1");
+    constexpr unsigned int brokenRule = 0;
+    assert::report(text, "getNulloptPropertyValueFor", path, brokenRule, line);
+}
+
+Attribute const* schemaAttribute(FcBase const& entity, std::string const& name, SchemaPset const* schema)
+{
     if (!schema) {
         reportSchemaFault("Could not load schema");
         return nullptr;
     }
     auto const key = entity.getEntityNameUpperHashed();
-    auto const* const found =
-        dynamic_cast<ifc::def::schema::Entity const*>(schema->schema().find(key.text, key.hash));
+    auto const* const found = dynamic_cast<Entity const*>(schema->schema().find(key.text, key.hash));
     if (!found) {
         reportSchemaFault("Could not find entity in ifc schema...");
         return nullptr;
@@ -216,28 +222,6 @@ ifc::def::schema::Attribute const* schemaAttribute(FcBase const& entity, std::st
     if (!attribute)
         reportSchemaFault("Could not find property in schema");
     return attribute;
-}
-
-/// An unset value of the kind that the attribute would have, so that an editor for that kind opens on it.
-PropertyValue getNulloptPropertyValueFor(FcBase const& entity, PropertyId const& id)
-{
-    using ifc::def::schema::Type;
-    auto const* const attribute = schemaAttribute(entity, id.text());
-    auto const* const type =
-        attribute ? dynamic_cast<Type const*>(attribute->declaredTypes().front().dataType) : nullptr;
-    if (!type)
-        return std::optional<std::string>();
-    switch (type->baseKind()) {
-    case Type::BaseKind::Real:
-    case Type::BaseKind::Number:
-        return std::optional<double>();
-    case Type::BaseKind::Boolean:
-        return std::optional<bool>();
-    case Type::BaseKind::Integer:
-        return std::optional<int>();
-    default:
-        return std::optional<std::string>();
-    }
 }
 
 // --- Writing ----------------------------------------------------------------------------------------
@@ -272,6 +256,27 @@ private:
 
 } // namespace
 
+PropertyValue getNulloptPropertyValueFor(FcBase const& entity, PropertyId const& id, SchemaPset const* schema)
+{
+    using ifc::def::schema::Type;
+    auto const* const attribute = schemaAttribute(entity, id.text(), schema);
+    auto const* const type =
+        attribute ? dynamic_cast<Type const*>(attribute->declaredTypes().front().dataType) : nullptr;
+    if (!type)
+        return std::optional<std::string>();
+    switch (type->baseKind()) {
+    case Type::BaseKind::Real:
+    case Type::BaseKind::Number:
+        return std::optional<double>();
+    case Type::BaseKind::Boolean:
+        return std::optional<bool>();
+    case Type::BaseKind::Integer:
+        return std::optional<int>();
+    default:
+        return std::optional<std::string>();
+    }
+}
+
 void GetProperties::visit(FcBase const& entity)
 {
     if (auto const* const file = dynamic_cast<tree::FcFileInfo const*>(&entity)) {
@@ -285,8 +290,7 @@ void GetProperties::visit(FcBase const& entity)
         }
         return;
     }
-    constexpr std::size_t schemaPrefixLength = 3;
-    auto group = makeGroup(std::string_view(entity.getEntityName()).substr(schemaPrefixLength), entity);
+    auto group = makeGroup(classWithoutPrefix(entity), entity);
     group->mappedId = PropertyId(FcBaseGroupProperty);
     group->children = entity.getLocalProperties();
     properties.push_back(std::move(group));
@@ -296,10 +300,12 @@ void GetValue::visit(FcBase const& entity)
 {
     auto const localValue = entity.getLocalValue(id);
     if (std::holds_alternative<LocalValue::Unset>(localValue.value)) {
-        value = getNulloptPropertyValueFor(entity, id);
+        auto const* const schema = SchemaLoader::curr().pSchemaFromName(SchemaLoader::modelVersion);
+        value = getNulloptPropertyValueFor(entity, id, schema);
         return;
     }
     auto read = std::visit(PropertyValueOf(), localValue.value);
+    // A class that has answered already may still have sent the question on.
     if (read.kind() == PropertyValue::Kind::Nothing)
         return;
     value = entity.isOptional(id) ? asOptional(read) : std::move(read);

@@ -14,18 +14,12 @@ namespace {
 constexpr std::string_view nameSuffix = ".Name";
 constexpr std::string_view identificationSuffix = ".Identification";
 
-/// The id of the row of a reference: its class without "Ifc".
-std::string_view baseOf(FcClassificationReference const& entity)
-{
-    return std::string_view(entity.getEntityName()).substr(3);
-}
-
-/// What stands behind the base in the id of one of the three rows; nothing for every other id.
+/// What stands behind the class in the id of one of the three rows; nothing for every other id.
 std::optional<std::string_view> suffixOf(FcClassificationReference const& entity,
                                          object::PropertyId const& id)
 {
     std::string_view const text = id.text();
-    auto const base = baseOf(entity);
+    auto const base = classWithoutPrefix(entity);
     if (!text.starts_with(base))
         return std::nullopt;
     auto const suffix = text.substr(base.size());
@@ -42,7 +36,7 @@ std::string classificationNameWith(FcClassificationReference const& entity, std:
 
 bool GetProperties::visit(FcClassificationReference const& entity)
 {
-    std::string const base(baseOf(entity));
+    std::string const base(classWithoutPrefix(entity));
     properties.push_back(makeRow(base, entity));
     for (auto const suffix : {nameSuffix, identificationSuffix}) {
         auto row = makeRow(base + std::string(suffix), entity);

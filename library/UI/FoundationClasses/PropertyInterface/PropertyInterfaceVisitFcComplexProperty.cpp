@@ -20,13 +20,8 @@ constexpr char membersId[] = "HasProperties";
 bool GetProperties::visit(FcComplexProperty const& property)
 {
     property.FcProperty::accept(*this);
-    auto const row = groupOf(*this);
-    if (!row)
-        return false;
-    auto list = makeList(membersId, property);
-    for (auto const& member : property.HasProperties->get())
-        appendPropertiesOf(member, *list);
-    row->children.push_back(std::move(list));
+    if (auto const row = groupOf(*this))
+        row->children.push_back(makeList(membersId, property, property.HasProperties->get()));
     return false;
 }
 

@@ -19,11 +19,8 @@ bool GetProperties::visit(FcCoordinateOperation const& operation)
 {
     operation.FcBase::accept(*this);
     auto const target = operation.TargetCRS->get();
-    if (auto const group = target ? groupOf(*this) : nullptr) {
-        auto row = makeGroup(targetId, operation);
-        appendPropertiesOf(target, *row);
-        group->children.push_back(std::move(row));
-    }
+    if (auto const group = target ? groupOf(*this) : nullptr)
+        group->children.push_back(makeGroup(targetId, operation, target));
     return false;
 }
 

@@ -19,12 +19,8 @@ constexpr char elementsId[] = "Elements";
 bool GetProperties::visit(FcDerivedUnit const& unit)
 {
     unit.FcBase::accept(*this);
-    if (auto const group = groupOf(*this)) {
-        auto list = makeList(elementsId, unit);
-        for (auto const& element : unit.Elements->get())
-            appendPropertiesOf(element, *list);
-        group->children.push_back(std::move(list));
-    }
+    if (auto const group = groupOf(*this))
+        group->children.push_back(makeList(elementsId, unit, unit.Elements->get()));
     return false;
 }
 

@@ -19,11 +19,8 @@ constexpr char unitId[] = "Unit";
 bool GetProperties::visit(FcDerivedUnitElement const& element)
 {
     element.FcBase::accept(*this);
-    if (auto const group = groupOf(*this)) {
-        auto row = makeGroup(unitId, element);
-        appendPropertiesOf(element.Unit->get(), *row);
-        group->children.push_back(std::move(row));
-    }
+    if (auto const group = groupOf(*this))
+        group->children.push_back(makeGroup(unitId, element, element.Unit->get()));
     return false;
 }
 

@@ -19,11 +19,8 @@ bool GetProperties::visit(FcDocumentReference const& entity)
 {
     entity.FcExternalReference::accept(*this);
     auto const document = entity.ReferencedDocument->get();
-    if (auto const group = document ? groupOf(*this) : nullptr) {
-        auto row = makeGroup(referencedDocument, entity);
-        appendPropertiesOf(document, *row);
-        group->children.push_back(std::move(row));
-    }
+    if (auto const group = document ? groupOf(*this) : nullptr)
+        group->children.push_back(makeGroup(referencedDocument, entity, document));
     return false;
 }
 

@@ -21,13 +21,8 @@ constexpr char membersId[] = "Properties";
 bool GetProperties::visit(FcExtendedProperties const& extended)
 {
     extended.FcPropertyAbstraction::accept(*this);
-    auto const group = groupOf(*this);
-    if (!group)
-        return false;
-    auto list = makeList(membersId, extended);
-    for (auto const& member : extended.Properties->get())
-        appendPropertiesOf(member, *list);
-    group->children.push_back(std::move(list));
+    if (auto const group = groupOf(*this))
+        group->children.push_back(makeList(membersId, extended, extended.Properties->get()));
     return false;
 }
 

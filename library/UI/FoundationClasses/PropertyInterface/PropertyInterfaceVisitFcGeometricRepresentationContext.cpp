@@ -61,11 +61,8 @@ bool GetProperties::visit(FcGeometricRepresentationContext const& context)
     addRowIfMissing("Precision", context, *group);
     group->children.push_back(makeRow(worldCoordinateSystem, context));
     group->children.push_back(makeRow(trueNorth, context));
-    if (auto const operation = coordinateOperation(context)) {
-        auto row = makeGroup(hasCoordinateOperation, context);
-        appendPropertiesOf(operation, *row);
-        group->children.push_back(std::move(row));
-    }
+    if (auto const operation = coordinateOperation(context))
+        group->children.push_back(makeGroup(hasCoordinateOperation, context, operation));
     return false;
 }
 

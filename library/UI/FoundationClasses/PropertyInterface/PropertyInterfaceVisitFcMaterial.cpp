@@ -19,13 +19,8 @@ constexpr char propertiesId[] = "Properties";
 bool GetProperties::visit(FcMaterial const& material)
 {
     material.FcMaterialDefinition::accept(*this);
-    auto const group = groupOf(*this);
-    if (!group)
-        return false;
-    auto list = makeList(propertiesId, material);
-    for (auto const& set : liveOnes(material.HasProperties()))
-        appendPropertiesOf(set, *list);
-    group->children.push_back(std::move(list));
+    if (auto const group = groupOf(*this))
+        group->children.push_back(makeList(propertiesId, material, liveOnes(material.HasProperties())));
     return false;
 }
 

@@ -26,12 +26,9 @@ bool GetProperties::visit(FcMaterialConstituentSet const& set)
     auto const group = groupOf(*this);
     if (!group)
         return false;
-    auto list = makeList(constituentsId, set);
-    if (auto const& constituents = set.MaterialConstituents.get()) {
-        for (auto const& constituent : constituents->get())
-            appendPropertiesOf(constituent, *list);
-    }
-    group->children.push_back(std::move(list));
+    auto const& constituents = set.MaterialConstituents.get();
+    group->children.push_back(constituents ? makeList(constituentsId, set, constituents->get())
+                                           : makeList(constituentsId, set));
     return false;
 }
 

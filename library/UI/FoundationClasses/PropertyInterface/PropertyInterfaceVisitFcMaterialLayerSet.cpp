@@ -23,13 +23,8 @@ constexpr char layersId[] = "MaterialLayers";
 bool GetProperties::visit(FcMaterialLayerSet const& set)
 {
     set.FcMaterialDefinition::accept(*this);
-    auto const group = groupOf(*this);
-    if (!group)
-        return false;
-    auto list = makeList(layersId, set);
-    for (auto const& layer : set.MaterialLayers->get())
-        appendPropertiesOf(layer, *list);
-    group->children.push_back(std::move(list));
+    if (auto const group = groupOf(*this))
+        group->children.push_back(makeList(layersId, set, set.MaterialLayers->get()));
     return false;
 }
 

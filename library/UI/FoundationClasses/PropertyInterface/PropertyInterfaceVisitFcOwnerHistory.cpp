@@ -37,11 +37,8 @@ std::optional<std::int64_t> timeStampFrom(std::string const& text)
 void addReferred(char const* id, std::shared_ptr<FcBase const> const& referred, FcOwnerHistory const& history,
                  Property& group)
 {
-    if (!referred)
-        return;
-    auto row = makeGroup(id, history);
-    appendPropertiesOf(referred, *row);
-    group.children.push_back(std::move(row));
+    if (referred)
+        group.children.push_back(makeGroup(id, history, referred));
 }
 
 } // namespace

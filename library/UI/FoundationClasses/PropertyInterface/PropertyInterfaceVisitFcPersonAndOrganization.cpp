@@ -47,12 +47,8 @@ bool GetProperties::visit(FcPersonAndOrganization const& entity)
         properties.push_back(std::move(row));
     for (auto& row : rowsOfMember(entity.TheOrganization->get(), theOrganization, entity))
         properties.push_back(std::move(row));
-    if (auto const& roles = entity.Roles.get()) {
-        auto list = makeList("Roles", entity);
-        for (auto const& role : roles->get())
-            appendPropertiesOf(role, *list);
-        properties.push_back(std::move(list));
-    }
+    if (auto const& roles = entity.Roles.get())
+        properties.push_back(makeList("Roles", entity, roles->get()));
     return false;
 }
 

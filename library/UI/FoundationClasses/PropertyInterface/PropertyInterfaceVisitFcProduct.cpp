@@ -46,26 +46,19 @@ Products placedByOuterPlacement(FcProduct const& product)
     return outer ? liveOnes(outer->PlacesObject()) : Products();
 }
 
-std::string withName(std::string text, FcProduct const& structure)
-{
-    if (auto const& name = structure.Name.get())
-        text += " \"" + *name + '"';
-    return text;
-}
-
 std::string locationName(FcProduct const& product)
 {
     auto const outer = placedByOuterPlacement(product);
     if (auto const storey = firstOf<FcBuildingStorey>(outer))
-        return withName(localizeWithFallback("Placement-relative-to-floor", "Placement relative to floor"),
-                        *storey);
+        return withQuotedName(
+            localizeWithFallback("Placement-relative-to-floor", "Placement relative to floor"), *storey);
     if (auto const building = firstOf<FcBuilding>(outer))
-        return withName(
+        return withQuotedName(
             localizeWithFallback("Placement-relative-to-building", "Placement relative to building"),
             *building);
     if (auto const site = firstOf<FcSite>(outer))
-        return withName(localizeWithFallback("Placement-relative-to-site", "Placement relative to site"),
-                        *site);
+        return withQuotedName(
+            localizeWithFallback("Placement-relative-to-site", "Placement relative to site"), *site);
     return localize("Placement");
 }
 

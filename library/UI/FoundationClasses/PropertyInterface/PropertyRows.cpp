@@ -41,6 +41,14 @@ void appendPropertiesOf(std::shared_ptr<FcBase const> const& entity, Property& p
                            std::make_move_iterator(rows.end()));
 }
 
+std::shared_ptr<Property> makeGroup(std::string_view id, FcBase const& object,
+                                    std::shared_ptr<FcBase const> const& nested)
+{
+    auto group = makeGroup(id, object);
+    appendPropertiesOf(nested, *group);
+    return group;
+}
+
 std::shared_ptr<Property> groupOf(GetProperties const& visitor)
 {
     return visitor.properties.empty() ? nullptr : visitor.properties.back();
@@ -54,12 +62,22 @@ std::optional<std::size_t> positionFromText(std::string_view text)
     return isRead ? std::optional(position) : std::nullopt;
 }
 
-std::string classAndName(core::kernel::FcRoot const& entity)
+std::string_view classWithoutPrefix(FcBase const& entity)
 {
-    std::string text = entity.getEntityName();
+    constexpr std::string_view schemaPrefix = "Ifc";
+    return std::string_view(entity.getEntityName()).substr(schemaPrefix.size());
+}
+
+std::string withQuotedName(std::string text, core::kernel::FcRoot const& entity)
+{
     if (auto const& name = entity.Name.get())
         text += " \"" + *name + '"';
     return text;
+}
+
+std::string classAndName(core::kernel::FcRoot const& entity)
+{
+    return withQuotedName(entity.getEntityName(), entity);
 }
 
 std::string referenceLabel(std::string label, FcBase const* referred)

@@ -39,6 +39,20 @@ inline constexpr char emptyPropertyId[] = "emptyProperty";
 /// Adds the rows of \p entity to the children of \p parent. Nothing is added for null.
 void appendPropertiesOf(std::shared_ptr<FcBase const> const& entity, Property& parent);
 
+/// A heading with the rows of \p nested below it; with none for null.
+[[nodiscard]] std::shared_ptr<Property> makeGroup(std::string_view id, FcBase const& object,
+                                                  std::shared_ptr<FcBase const> const& nested);
+/// A heading of a list with the rows of all \p elements, which are shared pointers to entities.
+template <class Elements>
+[[nodiscard]] std::shared_ptr<Property> makeList(std::string_view id, FcBase const& object,
+                                                 Elements const& elements)
+{
+    auto list = makeList(id, object);
+    for (auto const& element : elements)
+        appendPropertiesOf(element, *list);
+    return list;
+}
+
 /// The node that the visits of the base classes left for the entity's rows; null when there is none.
 [[nodiscard]] std::shared_ptr<Property> groupOf(GetProperties const& visitor);
 
@@ -49,7 +63,11 @@ void appendPropertiesOf(std::shared_ptr<FcBase const> const& entity, Property& p
 
 // --- Texts ------------------------------------------------------------------------------------------
 
-/// The class of \p entity and, if it has one, its `Name` in quotes: IfcWall "W1".
+/// The class of \p entity without "Ifc". Lives as long as the program.
+[[nodiscard]] std::string_view classWithoutPrefix(FcBase const& entity);
+/// \p text and, if \p entity has one, a blank and its `Name` in quotes.
+[[nodiscard]] std::string withQuotedName(std::string text, core::kernel::FcRoot const& entity);
+/// The class of \p entity with its name: IfcWall "W1".
 [[nodiscard]] std::string classAndName(core::kernel::FcRoot const& entity);
 /// The label of a row that leads to \p referred: \p label, then the localised class in brackets. The label
 /// alone without such an entity.

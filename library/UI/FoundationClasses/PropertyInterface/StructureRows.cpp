@@ -10,9 +10,7 @@ namespace qev::fc::ui::propertyinterface {
 
 std::shared_ptr<Property> makePlacementRow(std::string_view id, core::kernel::FcProduct const& product)
 {
-    auto row = makeGroup(id, product);
-    appendPropertiesOf(product.ObjectPlacement->get(), *row);
-    return row;
+    return makeGroup(id, product, product.ObjectPlacement->get());
 }
 
 void insertAddress(std::string_view id, std::shared_ptr<FcBase const> const& address, FcBase const& owner,
@@ -20,11 +18,8 @@ void insertAddress(std::string_view id, std::shared_ptr<FcBase const> const& add
 {
     auto const firstHeading = std::find_if(group.children.begin(), group.children.end(),
                                            [](auto const& child) { return child->isGroup; });
-    if (!address || firstHeading == group.children.end())
-        return;
-    auto row = makeGroup(id, owner);
-    appendPropertiesOf(address, *row);
-    group.children.insert(firstHeading, std::move(row));
+    if (address && firstHeading != group.children.end())
+        group.children.insert(firstHeading, makeGroup(id, owner, address));
 }
 
 } // namespace qev::fc::ui::propertyinterface
