@@ -24,12 +24,12 @@ namespace {
 constexpr std::string_view setsSegment = "PropertySets";
 constexpr std::string_view setsPrefix = "PropertySets.";
 
-std::vector<std::string> segmentsOf(std::string_view path)
+std::vector<std::string_view> segmentsOf(std::string_view path)
 {
-    std::vector<std::string> segments;
+    std::vector<std::string_view> segments;
     for (;;) {
         auto const end = path.find('.');
-        segments.emplace_back(path.substr(0, end));
+        segments.push_back(path.substr(0, end));
         if (end == std::string_view::npos)
             return segments;
         path.remove_prefix(end + 1);
@@ -41,7 +41,7 @@ std::optional<std::string> setNameOf(object::PropertyId const& id)
 {
     auto const segments = segmentsOf(id.text());
     bool const isBelowSet = segments.size() >= 3 && segments[0] == setsSegment;
-    return isBelowSet ? std::optional(segments[1]) : std::nullopt;
+    return isBelowSet ? std::optional<std::string>(segments[1]) : std::nullopt;
 }
 
 /// The label of a property by its names alone, for properties that are not there.
@@ -50,7 +50,7 @@ std::string labelWithoutProperty(object::PropertyId const& id)
     auto const begin = id.text().find(setsPrefix);
     if (begin == std::string::npos)
         return {};
-    auto const names = id.text().substr(begin + setsPrefix.size());
+    auto const names = std::string_view(id.text()).substr(begin + setsPrefix.size());
     return segmentsOf(names).size() == 2 ? localize(names) : std::string();
 }
 

@@ -1,9 +1,11 @@
 #include "UI/FoundationClasses/PropertyInterface/FcPropertyWrapper.h"
 
 #include "Core/Unit/QuantityPresentation.h"
-#include "FoundationClasses/Core/Kernel/FcRelNests.h"
+#include "FoundationClasses/Core/ProductExtension/FcRelSpaceBoundary.h"
 #include "FoundationClasses/Resource/Actor/FcActorRole.h"
 #include "FoundationClasses/Resource/ExternalReference/FcClassification.h"
+#include "FoundationClasses/Resource/ExternalReference/FcClassificationReference.h"
+#include "FoundationClasses/Resource/Property/FcPropertyBoundedValue.h"
 #include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
 #include "FoundationClasses/Resource/Property/FcPropertyTableValue.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcDoor.h"
@@ -11,6 +13,7 @@
 #include "FoundationClasses/Shared/SharedBldgElements/FcWallType.h"
 #include "FoundationClasses/Shared/SharedBldgServiceElements/FcDistributionPort.h"
 #include "kit/ModelBuilder.h"
+#include "library/kit/PresentationScope.h"
 #include "library/kit/PropertyTree.h"
 #include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyAccess.h"
@@ -161,6 +164,27 @@ TEST_F(PropertyWrapper, TellsElementsOfAListByTheirPosition)
                                                 "    List.2\n");
 }
 
+TEST_F(PropertyWrapper, TellsElementsOfAListByTheirPrefixWhereTheyHaveOne)
+{
+    using fc::resource::externalreference::FcClassificationReference;
+    auto const system = std::make_shared<fc::resource::externalreference::FcClassification>();
+    system->Name = "System";
+    auto const code = std::make_shared<FcClassificationReference>();
+    code->ReferencedSource = fc::resource::externalreference::FcClassificationReferenceSelect(system);
+    // The prefix belongs to the row's own id, whatever id it is asked by.
+    auto mapped = node("ClassificationReference", code);
+    mapped->mappedId = PropertyId("Sort");
+    auto list = node("List", wall, {node("A", wall), mapped, node("Sort", code)});
+    list->isList = true;
+    drawn->nodes = {node("Top", wall, {list})};
+
+    EXPECT_EQ(treeText(drawn->getProperties()), "Top\n"
+                                                "  List\n"
+                                                "    List.0\n"
+                                                "    List.System\n"
+                                                "    List.2\n");
+}
+
 TEST_F(PropertyWrapper, TellsElementsOfATopLevelListWithoutADotInFront)
 {
     auto top = node("Top", wall, {node("A", wall), node("B", wall, {node("C", wall)})});
@@ -294,22 +318,15 @@ TEST_F(PropertyWrapper, KnowsWhoAnswersForAPath)
 
 TEST_F(PropertyWrapper, HasNobodyToAnswerForAnObjectThatIsGone)
 {
-    drawn->nodes = {node("Top", wall, {node("B", other)})};
+    drawn->nodes = {node("Top", std::make_shared<OtherObject>())};
     drawn->getAllProperties();
     drawn->nodes.clear();
-    auto const forgetful = std::make_shared<DrawnWrapper>(model.data(), wall);
-    {
-        auto const shortLived = std::make_shared<OtherObject>();
-        forgetful->nodes = {node("Top", shortLived)};
-        forgetful->getAllProperties();
-        forgetful->nodes.clear();
-    }
+    PropertyId const top("Top");
 
-    EXPECT_EQ(forgetful->getMappedProperty(PropertyId("Top")),
-              std::tuple(nullptr, nullptr, PropertyId("Top")));
-    EXPECT_EQ(forgetful->getMappedData(PropertyId("Top")), std::nullopt);
-    EXPECT_FALSE(forgetful->hasMappedId(PropertyId("Top"), nullptr));
-    EXPECT_EQ(forgetful->getValue(PropertyId("Top")), PropertyValue());
+    EXPECT_EQ(drawn->getMappedProperty(top), std::tuple(nullptr, nullptr, top));
+    EXPECT_EQ(drawn->getMappedData(top), std::nullopt);
+    EXPECT_FALSE(drawn->hasMappedId(top, nullptr));
+    EXPECT_EQ(drawn->getValue(top), PropertyValue());
 }
 
 TEST_F(PropertyWrapper, FindsThePathOfALocalId)
@@ -341,6 +358,18 @@ TEST_F(PropertyWrapper, GivesWhatStandsBehindAPathOfItsTree)
     EXPECT_EQ(drawn->getMappedData(PropertyId("B")), std::nullopt);
 }
 
+TEST_F(PropertyWrapper, GivesNothingBehindAPathWithoutItsModel)
+{
+    auto data = fc::Data::create();
+    DrawnWrapper ofLostModel(data, wall);
+    ofLostModel.nodes = {node("Top", wall, {node("A", wall)})};
+    EXPECT_TRUE(ofLostModel.getMappedData(PropertyId("A")));
+    data.reset();
+
+    EXPECT_EQ(ofLostModel.getMappedData(PropertyId("A")), std::nullopt);
+    EXPECT_EQ(ofLostModel.getMappedProperty(PropertyId("A")), std::tuple(wall, nullptr, PropertyId("A")));
+}
+
 // --- Through references -----------------------------------------------------------------------------
 
 TEST_F(PropertyWrapper, RunsOnThroughAReference)
@@ -358,6 +387,32 @@ TEST_F(PropertyWrapper, RunsOnThroughAReference)
     EXPECT_EQ(wrapper->getMappedProperty(PropertyId("IsTypedBy.NoSuchId")),
               std::tuple(nullptr, nullptr, PropertyId()));
     EXPECT_EQ(wrapper->getMappedProperty(PropertyId("Name.Name")),
+              std::tuple(nullptr, nullptr, PropertyId()));
+}
+
+TEST_F(PropertyWrapper, RunsOnThroughReferenceAfterReference)
+{
+    auto const type = model.wallType("T1");
+    model.assignType(type, {wall});
+    auto const boundary = model.add<fc::core::productextension::FcRelSpaceBoundary>("B1");
+    boundary->RelatedBuildingElement = wall;
+    FcPropertyWrapper const ofBoundary(model.data(), boundary);
+
+    EXPECT_EQ(ofBoundary.getMappedProperty(PropertyId("RelatedBuildingElement.IsTypedBy.Name")),
+              std::tuple(type, nullptr, PropertyId("Name")));
+}
+
+TEST_F(PropertyWrapper, EndsAtAReferenceThatLeadsOutOfTheModel)
+{
+    auto const system = std::make_shared<fc::resource::externalreference::FcClassification>();
+    system->Specification = "https://example.org/codes";
+    model.data()->entityAdd(system, false);
+    FcPropertyWrapper const ofSystem(model.data(), system);
+
+    EXPECT_EQ(ofSystem.getReference(PropertyId("Specification")),
+              EntityReference("https://example.org/codes"));
+    EXPECT_TRUE(ofSystem.isReference(PropertyId("Specification")));
+    EXPECT_EQ(ofSystem.getMappedProperty(PropertyId("Specification.Name")),
               std::tuple(nullptr, nullptr, PropertyId()));
 }
 
@@ -438,6 +493,29 @@ TEST_F(PropertyWrapper, ForwardsToTheEntity)
     EXPECT_FALSE(wrapper->isReference(PropertyId("Name")));
 }
 
+TEST_F(PropertyWrapper, NamesTheSetThatAPathLeadsThrough)
+{
+    PresentationScope const bounds("Own.Bounds");
+    PresentationScope const steps("Own.Steps");
+    auto const set = model.addSet(wall, "Own");
+    set->HasProperties.addProperty(boundedValue("Bounds", real(1), real(3), {}));
+    set->HasProperties.addProperty(tableValue("Steps", {{real(4), real(5)}}));
+
+    EXPECT_EQ(wrapper->getValue(PropertyId("PropertySets.Own.Bounds")), PropertyValue("[1 m/s, 3 m/s]"));
+    EXPECT_EQ(wrapper->getPropertyName(PropertyId("PropertySets.Own.Steps.0")), "4 m/s");
+    EXPECT_NE(wrapper->createQuantityPresentation(PropertyId("PropertySets.Own.Steps.0")), nullptr);
+}
+
+TEST_F(PropertyWrapper, NamesNoSetWhereAPathDoesNotBeginWithTheSets)
+{
+    PresentationScope const bounds("Own.Bounds");
+    auto const type = model.wallType("T1");
+    model.assignType(type, {wall});
+    model.addSet(type, "Own")->HasProperties.addProperty(boundedValue("Bounds", real(1), real(3), {}));
+
+    EXPECT_EQ(wrapper->getValue(PropertyId("IsTypedBy.PropertySets.Own.Bounds")), PropertyValue("[1, 3]"));
+}
+
 TEST_F(PropertyWrapper, AllowsEmptyValuesForWhatIsBelowASet)
 {
     EXPECT_TRUE(wrapper->isEmptyValueAllowed(PropertyId("PropertySets.Own.A")));
@@ -502,6 +580,18 @@ TEST_F(PropertyWrapper, LetsNoPredefinedTypeOfOtherEntitiesBeChanged)
     EXPECT_TRUE(ofRole.isPropertyReadOnly(PropertyId("PredefinedType")));
 }
 
+TEST_F(PropertyWrapper, LetsNoPredefinedTypeOfAnEntityThatIsGoneBeChanged)
+{
+    auto port = std::make_shared<fc::shared::sharedbldgserviceelements::FcDistributionPort>();
+    FcPropertyWrapper ofPort(model.data(), port);
+    ofPort.setReadOnly(false);
+    EXPECT_FALSE(ofPort.isPropertyReadOnly(PropertyId("PredefinedType")));
+    ofPort.clearCache();
+    port.reset();
+
+    EXPECT_TRUE(ofPort.isPropertyReadOnly(PropertyId("PredefinedType")));
+}
+
 TEST_F(PropertyWrapper, LetsNoTableBeTypedInto)
 {
     auto const table = tableValue("T", {});
@@ -509,6 +599,7 @@ TEST_F(PropertyWrapper, LetsNoTableBeTypedInto)
     drawn->setReadOnly(false);
 
     EXPECT_TRUE(drawn->isPropertyReadOnly(PropertyId("Table")));
+    EXPECT_FALSE(drawn->isPropertyReadOnly(PropertyId("Value")));
 }
 
 // --- Life -------------------------------------------------------------------------------------------
@@ -545,6 +636,20 @@ TEST_F(PropertyWrapper, GivesNeutralAnswersWithoutItsModel)
     EXPECT_EQ(ofEntity.getMappedProperty(id), std::tuple(entity, nullptr, id));
 }
 
+TEST_F(PropertyWrapper, LabelsAPropertyByItsNamesWithoutItsModel)
+{
+    texts.add("Own.A", "Label");
+    auto data = fc::Data::create();
+    DrawnWrapper ofLostModel(data, wall);
+    auto property = node("A", singleValue("A", label("a")));
+    ofLostModel.nodes = {node("Top", wall, {node("PropertySets", wall, {node("Own", wall, {property})})})};
+    PropertyId const id("PropertySets.Own.A");
+    EXPECT_EQ(ofLostModel.getPropertyName(id), "A");
+    data.reset();
+
+    EXPECT_EQ(ofLostModel.getPropertyName(id), "Label");
+}
+
 TEST_F(PropertyWrapper, OwnedStronglyKeepsModelAndEntityAlive)
 {
     auto data = fc::Data::create();
@@ -556,12 +661,26 @@ TEST_F(PropertyWrapper, OwnedStronglyKeepsModelAndEntityAlive)
 
     EXPECT_EQ(owning->getValue(PropertyId("Description")),
               PropertyValue(std::optional<std::string>("about")));
-    EXPECT_EQ(owning->shared_from_this(), owning);
-    auto const innerOnly = owning->weak_from_this();
     owning.reset();
     EXPECT_TRUE(weakData.expired());
     EXPECT_TRUE(weakEntity.expired());
-    EXPECT_TRUE(innerOnly.expired());
+}
+
+TEST_F(PropertyWrapper, OwnedStronglyKnowsItselfWithoutModelAndEntity)
+{
+    auto data = fc::Data::create();
+    std::weak_ptr<fc::Data> const weakData = data;
+    auto owning = FcPropertyWrapper::createStrongOwningFcPropertyWrapper(
+        std::move(data), std::make_shared<fc::resource::actor::FcActorRole>());
+
+    auto itself = owning->shared_from_this();
+    EXPECT_EQ(itself, owning);
+    owning.reset();
+    EXPECT_TRUE(weakData.expired());
+    EXPECT_THAT(itself->getProperties(), IsEmpty());
+    std::weak_ptr<FcPropertyWrapper> const last = itself;
+    itself.reset();
+    EXPECT_TRUE(last.expired());
 }
 
 } // namespace

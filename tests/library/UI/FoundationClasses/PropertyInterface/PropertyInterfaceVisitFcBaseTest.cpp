@@ -15,6 +15,7 @@
 #include "library/kit/PropertyTree.h"
 #include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/PropertyInterface/GetListIndexPrefix.h"
+#include "UI/FoundationClasses/PropertyInterface/GetValue.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyAccess.h"
 
 #include <gmock/gmock.h>
@@ -256,6 +257,22 @@ TEST_F(BaseVisits, ReportAnEntityThatTheSchemaDoesNotHave)
     expectReport("Could not find entity in ifc schema...", "getNulloptPropertyValueFor", sourcePath);
 }
 
+TEST_F(BaseVisits, ReportAnUnsetAttributeWithoutASchema)
+{
+    EXPECT_EQ(getNulloptPropertyValueFor(*door, PropertyId("OverallWidth"), nullptr),
+              PropertyValue(std::optional<std::string>()));
+    expectReport("Could not load schema", "getNulloptPropertyValueFor", sourcePath);
+}
+
+TEST_F(BaseVisits, ReportEachFaultFromItsOwnLine)
+{
+    static_cast<void>(getNulloptPropertyValueFor(*door, PropertyId("OverallWidth"), nullptr));
+    value(ForeignEntity(), "Name");
+    auto const reports = takeReports();
+    ASSERT_EQ(reports.size(), 2u);
+    EXPECT_NE(reports[0].line, reports[1].line);
+}
+
 TEST_F(BaseVisits, ShowPointsAndDirectionsAsText)
 {
     auto const point = std::make_shared<FcCartesianPoint>();
@@ -275,6 +292,8 @@ TEST_F(BaseVisits, ShowPointsAndDirectionsAsText)
     direction->DirectionRatios = std::vector<double>{0, 0, 1e-12};
     EXPECT_EQ(shownEntity(direction), PropertyValue("(0.000000, 0.000000, 0.000000)"));
     EXPECT_EQ(shownEntity(nullptr), PropertyValue(""));
+    EXPECT_EQ(shown(listOf({std::shared_ptr<fc::FcBase>(direction), std::int64_t(1)})),
+              PropertyValue("((0.000000, 0.000000, 0.000000), 1)"));
 }
 
 TEST_F(BaseVisits, ReportOtherEntitiesAsValues)

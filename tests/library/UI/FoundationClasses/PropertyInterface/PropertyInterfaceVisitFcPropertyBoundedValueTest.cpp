@@ -4,6 +4,7 @@
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "kit/ModelBuilder.h"
 #include "library/kit/EntityProperties.h"
+#include "library/kit/PresentationScope.h"
 #include "library/kit/TranslationScope.h"
 
 #include <gtest/gtest.h>
@@ -39,10 +40,19 @@ TEST_F(BoundedValueRow, IsALeafOfItsOwnId)
 TEST_F(BoundedValueRow, ShowsAllValuesInOneLine)
 {
     EXPECT_EQ(row().value(id), PropertyValue("[1, 3] 2"));
-    EXPECT_EQ(row().value(id, "Own"), PropertyValue(property->getAsOneLineString("Own")));
     property->SetPointValue = FcValue();
     EXPECT_EQ(row().value(id), PropertyValue("[1, 3]"));
     EXPECT_EQ(row().value("Name"), PropertyValue("Width"));
+}
+
+TEST_F(BoundedValueRow, ShowsItsValuesAsItsSetPresentsThem)
+{
+    PresentationScope const speed("Own.Width");
+    EXPECT_EQ(row().value(id, "Own"), PropertyValue("[1 m/s, 3 m/s] 2 m/s"));
+    EXPECT_EQ(row().value(id, "Other"), PropertyValue("[1, 3] 2"));
+    EXPECT_EQ(row().value(id), PropertyValue("[1, 3] 2"));
+    EXPECT_EQ(row().quantity("Name", "Own"), 2.0);
+    EXPECT_EQ(row().quantity("Name"), std::nullopt);
 }
 
 TEST_F(BoundedValueRow, IsNotWritten)

@@ -112,6 +112,14 @@ TEST_F(EnumeratedValueRow, ReportsAValueThatIsNoText)
                  "Object/PropertyValue");
 }
 
+TEST_F(EnumeratedValueRow, ReportsWritingAnythingElse)
+{
+    row().set("Specification", Text("agreed"));
+    expectReport("Not implemented", "qev::fc::ui::propertyinterface::SetValue::visit",
+                 "UI/FoundationClasses/PropertyInterface/PropertyInterfaceVisitFcProperty");
+    EXPECT_EQ(property->EnumerationValues.get(), Values({label("NEW"), label("OLD")}));
+}
+
 TEST_F(EnumeratedValueRow, AllowsPossibleValuesAndNone)
 {
     EXPECT_TRUE(row().allows(id, "NEW"));

@@ -5,6 +5,7 @@
 #include "kit/ModelBuilder.h"
 #include "kit/ReportRecorder.h"
 #include "library/kit/EntityProperties.h"
+#include "library/kit/PresentationScope.h"
 #include "library/kit/TranslationScope.h"
 
 #include <gtest/gtest.h>
@@ -135,6 +136,16 @@ TEST_F(ListValueRows, HaveThePresentationOfTheirElement)
     EXPECT_EQ(row().quantity("2"), std::nullopt);
     EXPECT_EQ(row().quantity("ListValue"), std::nullopt);
     EXPECT_EQ(row().quantity("Name"), std::nullopt);
+}
+
+TEST_F(ListValueRows, HaveThePresentationThatIsSetForThePropertyOfTheSet)
+{
+    PresentationScope const speed("Own.Widths");
+    property->ListValues = std::vector{real(3)};
+
+    EXPECT_EQ(row().quantity("0", "Own"), 3.0);
+    EXPECT_EQ(row().quantity("0"), std::nullopt);
+    EXPECT_FALSE(row().hasQuantity("0"));
 }
 
 } // namespace

@@ -12,7 +12,11 @@
 #include "FoundationClasses/Resource/DateTime/FcTimeSeriesValue.h"
 #include "FoundationClasses/Resource/ExternalReference/FcDocumentReference.h"
 #include "FoundationClasses/Resource/Material/FcMaterial.h"
+#include "FoundationClasses/Resource/Material/FcMaterialConstituent.h"
+#include "FoundationClasses/Resource/Material/FcMaterialConstituentSet.h"
+#include "FoundationClasses/Resource/Material/FcMaterialLayer.h"
 #include "FoundationClasses/Resource/Material/FcMaterialLayerSet.h"
+#include "FoundationClasses/Resource/Material/FcMaterialProfile.h"
 #include "FoundationClasses/Resource/Utility/FcTable.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "kit/ModelBuilder.h"
@@ -89,6 +93,21 @@ TEST_F(ReferenceValueRow, ShowsTheNameOfAMaterial)
 {
     referTo<fc::resource::material::FcMaterial>()->Name = "Brick";
     EXPECT_EQ(row().value("Name"), PropertyValue(Text("Brick")));
+}
+
+TEST_F(ReferenceValueRow, ShowsTheNamesOfPartsAndSetsOfMaterials)
+{
+    using namespace fc::resource::material;
+    auto const frame = referTo<FcMaterialConstituent>();
+    EXPECT_EQ(row().value("Name"), PropertyValue(Text()));
+    frame->Name = "Frame";
+    EXPECT_EQ(row().value("Name"), PropertyValue(Text("Frame")));
+    referTo<FcMaterialConstituentSet>()->Name = "Window";
+    EXPECT_EQ(row().value("Name"), PropertyValue(Text("Window")));
+    referTo<FcMaterialLayer>()->Name = "Outer";
+    EXPECT_EQ(row().value("Name"), PropertyValue(Text("Outer")));
+    referTo<FcMaterialProfile>()->Name = "IPE 200";
+    EXPECT_EQ(row().value("Name"), PropertyValue(Text("IPE 200")));
 }
 
 TEST_F(ReferenceValueRow, ShowsTheNameOfALayerSet)

@@ -1,12 +1,11 @@
 #include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
 
-#include "Core/Unit/QuantityPresentationFactory.h"
-#include "Core/Utilities/ScopeGuard.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "FoundationClasses/Logical.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "kit/ModelBuilder.h"
 #include "library/kit/EntityProperties.h"
+#include "library/kit/PresentationScope.h"
 #include "library/kit/TranslationScope.h"
 
 #include <gtest/gtest.h>
@@ -172,13 +171,7 @@ TEST_F(SingleValueRow, HasThePresentationOfItsMeasure)
 
 TEST_F(SingleValueRow, HasThePresentationThatIsSetForThePropertyOfTheSet)
 {
-    auto& factory = unit::QuantityPresentationFactory::current();
-    factory.registerIfcProperty("Own.P", [](double value, std::string const&) {
-        auto presentation = unit::createPresentationForMeasure("LinearVelocityMeasure");
-        presentation->setValue(value);
-        return presentation;
-    });
-    ScopeGuard const guard([&factory] { factory.registerIfcProperty("Own.P", {}); });
+    PresentationScope const speed("Own.P");
     auto const own = property(real(3));
 
     EXPECT_EQ(of(own).quantity("Name", "Own"), 3.0);

@@ -5,6 +5,7 @@
 #include "kit/ModelBuilder.h"
 #include "kit/ReportRecorder.h"
 #include "library/kit/EntityProperties.h"
+#include "library/kit/PresentationScope.h"
 #include "library/kit/TranslationScope.h"
 
 #include <gtest/gtest.h>
@@ -110,6 +111,19 @@ TEST_F(TableValueRows, HaveThePresentationOfTheDefinedValue)
         EXPECT_FALSE(row().hasQuantity(id));
         EXPECT_EQ(row().quantity(id), std::nullopt);
     }
+}
+
+TEST_F(TableValueRows, AreLabelledAndPresentedAsTheirSetPresentsThem)
+{
+    PresentationScope const speed("Own.Prices");
+    property->DefiningValues = std::vector{real(4)};
+    property->DefinedValues = std::vector{real(5)};
+
+    EXPECT_EQ(row().name("0", "Own"), "4 m/s");
+    EXPECT_EQ(row().name("0"), "4");
+    EXPECT_EQ(row().quantity("0", "Own"), 5.0);
+    EXPECT_EQ(row().quantity("0"), std::nullopt);
+    EXPECT_FALSE(row().hasQuantity("0"));
 }
 
 } // namespace

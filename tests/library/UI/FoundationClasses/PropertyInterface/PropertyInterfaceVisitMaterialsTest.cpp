@@ -11,6 +11,7 @@
 #include "kit/ReportRecorder.h"
 #include "library/kit/EntityProperties.h"
 #include "library/kit/TranslationScope.h"
+#include "UI/FoundationClasses/PropertyInterface/GetValue.h"
 
 #include <gtest/gtest.h>
 
@@ -188,6 +189,17 @@ TEST_F(MaterialRows, ShowALayerSetByNameAndDescription)
     EXPECT_EQ(of(set).value("LayerSetName"), PropertyValue(std::optional<std::string>("Cavity wall")));
 }
 
+TEST_F(MaterialRows, SendTheQuestionForLayersAloneOnToTheBaseClass)
+{
+    fc::ui::propertyinterface::GetValue layers(*model.data(), object::PropertyId("MaterialLayers"), {});
+    EXPECT_TRUE(layers.visit(*add<FcMaterialLayerSet>()));
+    EXPECT_EQ(layers.value, PropertyValue(""));
+    fc::ui::propertyinterface::GetValue constituents(*model.data(),
+                                                     object::PropertyId("MaterialConstituents"), {});
+    EXPECT_FALSE(constituents.visit(*add<FcMaterialConstituentSet>()));
+    EXPECT_EQ(constituents.value, PropertyValue(""));
+}
+
 TEST_F(MaterialRows, LabelTheLayers)
 {
     expectTexts(add<FcMaterialLayerSet>(), "MaterialLayers", "IfcMaterialLayerSet.MaterialLayers",
@@ -315,6 +327,21 @@ TEST_F(MaterialRows, StillWriteTheAttributesThatWereReported)
     of(set).set("LayerSetName", std::optional<std::string>("Cavity wall"));
     expectNotImplemented("FcMaterialLayerSet");
     EXPECT_EQ(set->LayerSetName.get(), "Cavity wall");
+
+    auto const usage = add<FcMaterialLayerSetUsage>();
+    of(usage).set("ReferenceExtent", std::optional(2.5));
+    expectNotImplemented("FcMaterialLayerSetUsage");
+    EXPECT_EQ(usage->ReferenceExtent.get(), 2.5);
+
+    auto const constituents = add<FcMaterialConstituentSet>();
+    of(constituents).set("Name", std::optional<std::string>("Window"));
+    expectNotImplemented("FcMaterialConstituentSet");
+    EXPECT_EQ(constituents->Name.get(), "Window");
+
+    auto const profile = add<FcMaterialProfile>();
+    of(profile).set("Category", std::optional<std::string>("LoadBearing"));
+    expectNotImplemented("FcMaterialProfile");
+    EXPECT_EQ(profile->Category.get(), "LoadBearing");
 }
 
 TEST_F(MaterialRows, WriteTheAttributesOfALayer)
