@@ -11,10 +11,16 @@ using namespace qev;
 using namespace qev::ui;
 
 constexpr auto listPath = "Ui/Window/Controls/ListControl/ListControl";
+constexpr auto labelEditPath = "Ui/Window/Controls/ListControl/LabelEditParams";
 
 void expectListReport(std::string const& text, std::string const& operation)
 {
     test::expectReport(text, "qev::ui::ListControl::" + operation, listPath);
+}
+
+void expectLabelEditReport(std::string const& text, std::string const& operation)
+{
+    test::expectReport(text, "qev::ui::ListControl::" + operation, labelEditPath);
 }
 
 class ListControlTest : public test::UiTest
@@ -89,14 +95,15 @@ TEST_F(ListControlTest, TheBeginningOfAnEditKnowsItsOneItem)
     EXPECT_EQ(params.getItemToEdit(), (ListControl::ItemInfo{2, 3}));
     params.items.push_back({4, 3});
     EXPECT_EQ(params.getItemToEdit(), (ListControl::ItemInfo{2, 3}));
-    expectListReport("Should only be called when editing ONE item.", "LabelEditBeginParams::getItemToEdit");
+    expectLabelEditReport("Should only be called when editing ONE item.",
+                          "LabelEditBeginParams::getItemToEdit");
 }
 
 TEST_F(ListControlTest, TheEndOfAnEditKnowsItsColumn)
 {
     ListControl::LabelEditEndParams params;
     EXPECT_EQ(params.getColumnIndex(), 0u);
-    expectListReport("No items are being edited.", "LabelEditEndParams::getColumnIndex");
+    expectLabelEditReport("No items are being edited.", "LabelEditEndParams::getColumnIndex");
     params.items = {{2, 3}};
     EXPECT_EQ(params.getColumnIndex(), 3u);
     params.items = {{2, std::nullopt}};
@@ -113,8 +120,8 @@ TEST_F(ListControlTest, TheEndOfAnEditGivesItsTextExceptForADropList)
     EXPECT_EQ(params.getEditBoxText(), "F60");
     params.editType = ListControl::DropList;
     EXPECT_EQ(params.getEditBoxText(), "F60");
-    expectListReport("This is a drop list label edit control: Call iDropIndSelected() instead.",
-                     "LabelEditEndParams::getEditBoxText");
+    expectLabelEditReport("This is a drop list label edit control: Call iDropIndSelected() instead.",
+                          "LabelEditEndParams::getEditBoxText");
 }
 
 TEST_F(ListControlTest, TheEndOfAnEditGivesTheChosenEntryOfAList)
@@ -128,11 +135,12 @@ TEST_F(ListControlTest, TheEndOfAnEditGivesTheChosenEntryOfAList)
     EXPECT_EQ(params.getSelectedDropListIndex(), 2u);
     params.hasSelection = false;
     EXPECT_EQ(params.getSelectedDropListIndex(), 2u);
-    expectListReport("Nothing was selected in the drop down, i.e. a new text was written.",
-                     "LabelEditEndParams::getSelectedDropListIndex");
+    expectLabelEditReport("Nothing was selected in the drop down, i.e. a new text was written.",
+                          "LabelEditEndParams::getSelectedDropListIndex");
     params.editType = ListControl::EditBox;
     EXPECT_EQ(params.getSelectedDropListIndex(), 2u);
-    expectListReport("Not a drop down or drop list control.", "LabelEditEndParams::getSelectedDropListIndex");
+    expectLabelEditReport("Not a drop down or drop list control.",
+                          "LabelEditEndParams::getSelectedDropListIndex");
 }
 
 TEST_F(ListControlTest, TheEndOfAnEditKnowsItsOneItem)
@@ -142,8 +150,8 @@ TEST_F(ListControlTest, TheEndOfAnEditKnowsItsOneItem)
     EXPECT_EQ(params.getEditedItem(), (ListControl::ItemInfo{2, 3}));
     params.items.push_back({4, 3});
     EXPECT_EQ(params.getEditedItem(), (ListControl::ItemInfo{2, 3}));
-    expectListReport("Should only be called for column for which editing several items is not allowed.",
-                     "LabelEditEndParams::getEditedItem");
+    expectLabelEditReport("Should only be called for column for which editing several items is not allowed.",
+                          "LabelEditEndParams::getEditedItem");
 }
 
 TEST_F(ListControlTest, TheEndOfAnEditNotesTheItemsThatRefuse)

@@ -146,7 +146,7 @@ TEST_F(PropertySetListControlEditTest, AnEditOfNoItemsIsReported)
     showWalls(1);
     finish(end("Code", {}, "C9"));
     expectReport("No items are being edited.", "qev::ui::ListControl::LabelEditEndParams::getColumnIndex",
-                 "Ui/Window/Controls/ListControl/ListControl");
+                 "Ui/Window/Controls/ListControl/LabelEditParams");
     EXPECT_THAT(handled, IsEmpty());
 }
 
