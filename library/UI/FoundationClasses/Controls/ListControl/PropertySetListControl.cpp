@@ -97,6 +97,7 @@ void PropertySetListControl::reset()
         if (!column->isCustom())
             column->resetProperty();
     }
+    m_objectsBeingEdited.clear();
     PropertySetControl::reset();
 }
 
@@ -537,6 +538,7 @@ void PropertySetListControl::onLabelEditEnd(ListControl::LabelEditEndParams cons
         return;
     notifyPropertySetPropertyChanged(names.setName, names.propertyName, rows,
                                      PropertyChangedNotificationType::ValueChanged);
+    // What the formatter knows of these rows may hang on the values they had.
     m_formatterObjectIndex.reset();
 }
 
@@ -584,15 +586,22 @@ void PropertySetListControl::onResetItemsToGlobalValues(std::vector<std::size_t>
         return;
     auto const self = weak_from_this().lock();
     auto const names = m_columns.getColumnNames(column);
-    for (auto const row : rows) {
-        setObjectFromIndexOnListControlFormatter(row);
-        m_listFormatter->onResetItemToGlobalValue(names.setName, names.propertyName);
-    }
+    resetToGlobalValues(rows, names);
     notifyPropertySetPropertyChanged(names.setName, names.propertyName, {rows.begin(), rows.end()},
                                      PropertyChangedNotificationType::ResetToGlobalValue);
     m_listFormatterObjectIndex.reset();
     for (auto const row : rows)
         m_listControl->redrawItem(row);
+}
+
+void PropertySetListControl::resetToGlobalValues(std::vector<std::size_t> const& rows,
+                                                 ColumnPropertyNames const& names)
+{
+    auto const edits = onEditsBegin();
+    for (auto const row : rows) {
+        setObjectFromIndexOnListControlFormatter(row);
+        m_listFormatter->onResetItemToGlobalValue(names.setName, names.propertyName);
+    }
 }
 
 void PropertySetListControl::onItemEvent(ItemHandlers const& handlers, ItemInfo const& item) const
@@ -625,7 +634,7 @@ void PropertySetListControl::onContextMenuCommand(ItemInfo const& item, int comm
 }
 
 FcPropertyBooleanType* PropertySetListControl::requireBooleanProperty(std::size_t column,
-                                                                      char const* operation) const
+                                                                      std::string_view operation) const
 {
     auto* const property = dynamic_cast<FcPropertyBooleanType*>(m_columns.getProperty(column));
     if (!property)

@@ -16,6 +16,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -39,8 +40,8 @@ struct PropertyOrQuantityValue;
 /// Nothing is kept for a row. One displayed property serves a whole column: before each question it is
 /// pointed at the object of the row, so the work of showing grows with what is visible, not with the objects.
 ///
-/// The filter has to be there, as has the property formatter for editing; a list without them shows all
-/// sets and properties, and edits all that can be edited. Made by `std::make_shared`.
+/// Without a filter all sets and properties are shown; without a property formatter no cell is disabled or
+/// read-only. Made by `std::make_shared`.
 class QEVFOUNDATIONCLASSESUI_EXPORT PropertySetListControl
     : public PropertySetListControlInterface,
       public PropertySetControl,
@@ -150,12 +151,13 @@ private:
     [[nodiscard]] std::shared_ptr<void> onEditsBegin() const;
     [[nodiscard]] bool onDoesItemContainLocalValue(ItemInfo const& item);
     void onResetItemsToGlobalValues(std::vector<std::size_t> const& rows, std::size_t column);
+    void resetToGlobalValues(std::vector<std::size_t> const& rows, ColumnPropertyNames const& names);
     void onItemEvent(ItemHandlers const& handlers, ItemInfo const& item) const;
     void onContextMenu(ItemInfo const& item, qev::ui::PopupMenu& menu) const;
     void onContextMenuCommand(ItemInfo const& item, int command) const;
 
     [[nodiscard]] FcPropertyBooleanType* requireBooleanProperty(std::size_t column,
-                                                                char const* operation) const;
+                                                                std::string_view operation) const;
     /// The single value of a cell that shows one, as text or as a box; null for others.
     [[nodiscard]] FcPropertySingleValue const* getShownSingleValue(ItemInfo const& item);
     [[nodiscard]] bool isEnabled(ColumnPropertyNames const& names) const;

@@ -138,8 +138,7 @@ protected:
     std::shared_ptr<Control> make(int controlId = listId)
     {
         control = std::make_shared<Control>(schema.get(), model.data(), dialog, controlId, filter,
-                                            Formatters{formatter, listFormatter}, std::vector<std::string>(),
-                                            nullptr);
+                                            Formatters{formatter, listFormatter}, contexts, nullptr);
         control->propertyChangedHandlers.iHandlerAdd(
             [this](std::string const& set, std::string const& property, std::set<std::size_t> const& rows) {
                 handled.push_back(set + " " + property + " " + testing::PrintToString(rows));
@@ -230,6 +229,7 @@ protected:
     std::shared_ptr<ToyFilter> filter = std::make_shared<ToyFilter>();
     std::shared_ptr<RowFormatter> formatter = std::make_shared<RowFormatter>();
     std::shared_ptr<ToyListFormatter> listFormatter = std::make_shared<ToyListFormatter>();
+    std::vector<std::string> contexts;
     std::shared_ptr<Control> control;
     std::vector<std::string> handled;
     Model::Objects walls;

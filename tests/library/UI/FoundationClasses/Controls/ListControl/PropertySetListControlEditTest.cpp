@@ -1,5 +1,8 @@
 #include "ListControlFixture.h"
 
+#include "library/kit/TranslationScope.h"
+#include "UI/FoundationClasses/Property/FindProperty.h"
+
 #include <cmath>
 
 namespace {
@@ -114,13 +117,6 @@ TEST_F(PropertySetListControlEditTest, ATextIsStoredInAllRowsOfTheEdit)
 
 TEST_F(PropertySetListControlEditTest, AnEditOfManyRowsIsOneStep)
 {
-    showWalls(3);
-    while (model.data()->changes().canUndo())
-        model.data()->changes().undo();
-    walls.clear();
-    control.reset();
-    backend->addPlaceholder(dialog, listId + 1, placeholderPlacement);
-    make(listId + 1);
     showWalls(3);
     list().select({0, 1, 2});
     type(0, "Code", "C9");
@@ -240,6 +236,26 @@ TEST_F(PropertySetListControlEditTest, AHandlerMayEndTheControl)
     EXPECT_EQ(stored(walls[0], "Code"), label("C9"));
 }
 
+TEST_F(PropertySetListControlEditTest, AnEditOfAToggleWritesTheValueItSwitches)
+{
+    formatter->related = {{"IsExternal", "Code"}};
+    showWalls(1);
+    model.addSet(walls[0], "Pset_A", {{"IsExternal", boolean(true)}});
+    EXPECT_TRUE(type(0, "Code", "C9"));
+    EXPECT_EQ(stored(walls[0], "Code"), label("C9"));
+    EXPECT_EQ(stored(walls[0], "IsExternal").getAsString(false), "true");
+    EXPECT_THAT(handled, ElementsAre("Pset_A Code { 0 }"));
+}
+
+TEST_F(PropertySetListControlEditTest, AfterAnEditTheFormatterIsToldOfTheRowAgain)
+{
+    showWalls(1);
+    EXPECT_TRUE(type(0, "Code", "C9"));
+    formatter->objects.clear();
+    (void)text(0, "Code");
+    EXPECT_THAT(formatter->objects, ElementsAre(walls[0]));
+}
+
 // --- Enumerations -------------------------------------------------------------------------------
 
 TEST_F(PropertySetListControlEditTest, AChosenEntryIsStoredAsTheModelHasIt)
@@ -252,6 +268,22 @@ TEST_F(PropertySetListControlEditTest, AChosenEntryIsStoredAsTheModelHasIt)
     list().select({});
     EXPECT_FALSE(text(0, "Status").empty());
     EXPECT_EQ(text(0, "Status"), text(1, "Status"));
+}
+
+TEST_F(PropertySetListControlEditTest, EntriesAreShownInTheUsersLanguageAndStoredAsTheyAre)
+{
+    TranslationScope texts;
+    texts.addIn("Host", "Pset_A.Status.OLD", "Alt");
+    contexts = {"Host"};
+    showWalls(1);
+    ASSERT_TRUE(list().beginEdit(0, column("Status")));
+    EXPECT_THAT(list().getEdit()->editor.items, ElementsAre("NEW", "Alt"));
+    ASSERT_TRUE(list().commitChoice(1));
+    EXPECT_EQ(text(0, "Status"), "Alt");
+    auto const status =
+        findProperty<resource::property::FcPropertyEnumeratedValue>(*walls[0], "Pset_A", "Status");
+    ASSERT_TRUE(status && status->EnumerationValues.get());
+    EXPECT_THAT(*status->EnumerationValues.get(), ElementsAre(label("OLD")));
 }
 
 TEST_F(PropertySetListControlEditTest, AnEntryPastTheEndIsNotStored)

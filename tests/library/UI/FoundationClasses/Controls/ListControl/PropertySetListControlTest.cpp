@@ -23,251 +23,6 @@ class PropertySetListControlTest : public ListControlFixture
 {
 };
 
-// --- The window ---------------------------------------------------------------------------------
-
-TEST_F(PropertySetListControlTest, TheListReplacesThePlaceholderOfItsId)
-{
-    make();
-
-    auto const window = control->getListControl();
-    ASSERT_NE(window, nullptr);
-    EXPECT_EQ(window->getDialogControlId(), listId);
-    EXPECT_EQ(window->getPlacement(), placeholderPlacement);
-    EXPECT_EQ(dialog->getChildWindow(listId), window);
-    EXPECT_TRUE(window->isUsingReportStyle());
-    EXPECT_EQ(listFormatter->list, window);
-}
-
-TEST_F(PropertySetListControlTest, WithoutAPlaceholderThereIsNoWindow)
-{
-    make(listId + 1);
-    EXPECT_EQ(control->getListControl(), nullptr);
-    EXPECT_THAT(listFormatter->log, IsEmpty());
-
-    showWalls(2);
-    EXPECT_THAT(columnNames(), Contains("Code"));
-    control->show();
-    control->hide();
-    control->setReadOnlyState(true);
-    control->updateObjects({{0, walls[1]}});
-    EXPECT_THAT(control->getSelectedObjectsAndIndices(), IsEmpty());
-    expectControlReport("Assertion failed: Expect to have list control", "getSelectedObjectsAndIndices");
-}
-
-TEST_F(PropertySetListControlTest, WithoutADialogThereIsNoWindow)
-{
-    dialog.reset();
-    make();
-    EXPECT_EQ(control->getListControl(), nullptr);
-}
-
-TEST_F(PropertySetListControlTest, ReadOnlyDisablesTheList)
-{
-    showWalls(1);
-    control->setReadOnlyState(true);
-    EXPECT_FALSE(control->getListControl()->isEnabled());
-    control->setReadOnlyState(false);
-    EXPECT_TRUE(control->getListControl()->isEnabled());
-}
-
-TEST_F(PropertySetListControlTest, TheListCanBeHiddenAndShown)
-{
-    make();
-    control->hide();
-    EXPECT_FALSE(control->getListControl()->isVisible());
-    control->show();
-    EXPECT_TRUE(control->getListControl()->isVisible());
-}
-
-TEST_F(PropertySetListControlTest, TheWindowOutlivesTheControlWithoutHandlers)
-{
-    showWalls(1);
-    auto const window = control->getListControl();
-    control.reset();
-    EXPECT_EQ(window->onGetItemText.handlerCount(), 0u);
-    EXPECT_EQ(window->onLabelEditEnd.handlerCount(), 0u);
-}
-
-TEST_F(PropertySetListControlTest, EachEventOfTheListHasAHandler)
-{
-    make();
-    auto const& window = toolkitList();
-    EXPECT_EQ(window.onGetColumnHeaderText.handlerCount(), 1u);
-    EXPECT_EQ(window.onGetItemText.handlerCount(), 1u);
-    EXPECT_EQ(window.onItemActivated.handlerCount(), 1u);
-    EXPECT_EQ(window.onItemSecondaryEvent.handlerCount(), 1u);
-    EXPECT_EQ(window.onGetItemBackgroundColour.handlerCount(), 1u);
-    EXPECT_EQ(window.onCheckBoxClicked.handlerCount(), 1u);
-    EXPECT_EQ(window.onGetCheckState.handlerCount(), 1u);
-    EXPECT_EQ(window.onLabelEditBegin.handlerCount(), 1u);
-    EXPECT_EQ(window.onLabelEditEnd.handlerCount(), 1u);
-    EXPECT_EQ(window.onQueryColumn.handlerCount(), 1u);
-    EXPECT_EQ(window.onDoesItemContainLocalValue.handlerCount(), 1u);
-    EXPECT_EQ(window.onResetItemsToGlobalValues.handlerCount(), 1u);
-    EXPECT_EQ(window.onContextMenu.handlerCount(), 1u);
-    EXPECT_EQ(window.onContextMenuCommand.handlerCount(), 1u);
-    EXPECT_TRUE(qev::fireEvent(toolkitList().onQueryColumn, 7));
-}
-
-// --- Columns ------------------------------------------------------------------------------------
-
-TEST_F(PropertySetListControlTest, EachPropertyOfTheCommonSetsIsAColumn)
-{
-    showWalls(2);
-    EXPECT_THAT(columnNames(),
-                ElementsAre("Code", "Length", "IsExternal", "Checked", "Status", "Codes", "Count"));
-    EXPECT_EQ(list().getHeaderText(0), "Pset_A.Code");
-    EXPECT_EQ(list().getRowCount(), 2u);
-    EXPECT_EQ(list().getColumnCount(), 7u);
-    EXPECT_THAT(listFormatter->log, ElementsAre("setListControl", "counts 2 7"));
-}
-
-TEST_F(PropertySetListControlTest, WithoutObjectsThereAreNoRowsAndNoPropertyColumns)
-{
-    listFormatter->customColumns = {{"id", "Id", std::nullopt}};
-    showWalls(2);
-    show({});
-    EXPECT_EQ(list().getRowCount(), 0u);
-    EXPECT_THAT(columnNames(), ElementsAre("id"));
-}
-
-TEST_F(PropertySetListControlTest, TheFilterLeavesOutSetsAndProperties)
-{
-    filter->excludedSets = {"Pset_B"};
-    filter->excludedProperties = {"Length", "Checked", "Codes"};
-    showWalls(1);
-    EXPECT_THAT(columnNames(), ElementsAre("Code", "IsExternal", "Status"));
-}
-
-TEST_F(PropertySetListControlTest, CustomColumnsComeInTheirDeliberateOrder)
-{
-    filter->excludedProperties = {"Length", "Checked", "Codes", "Status", "Count"};
-    listFormatter->customColumns = {{"A", "A", std::nullopt},
-                                    {"B", "B", std::nullopt},
-                                    {"C", "C", ColumnPropertyNames{"Pset_A", "IsExternal"}},
-                                    {"D", "D", ColumnPropertyNames{"Pset_A", "IsExternal"}},
-                                    {"E", "E", ColumnPropertyNames{"Pset_A", "Length"}}};
-    showWalls(1);
-    EXPECT_THAT(columnNames(), ElementsAre("Code", "C", "D", "IsExternal", "E", "B", "A"));
-}
-
-TEST_F(PropertySetListControlTest, ColumnsAreHiddenByDefault)
-{
-    listFormatter->hiddenProperties = {"Length", "Count"};
-    showWalls(1);
-    EXPECT_TRUE(list().isColumnHidden(column("Length")));
-    EXPECT_TRUE(list().isColumnHidden(column("Count")));
-    EXPECT_FALSE(list().isColumnHidden(column("Code")));
-}
-
-TEST_F(PropertySetListControlTest, BooleansHaveBoxesAndEnumerationsDropLists)
-{
-    formatter->related = {{"IsExternal", "Code"}};
-    showWalls(1);
-    EXPECT_EQ(list().getCheckBoxMode(column("Code")), ListControl::BoxWithValue);
-    EXPECT_EQ(list().getCheckBoxMode(column("Length")), std::nullopt);
-    EXPECT_TRUE(list().isComboBoxColumn(column("Status")));
-    EXPECT_FALSE(list().isComboBoxColumn(column("Length")));
-
-    formatter->related = {};
-    show({walls.begin(), walls.end()});
-    EXPECT_EQ(list().getCheckBoxMode(column("IsExternal")), ListControl::BoxAlone);
-    EXPECT_EQ(list().getCheckBoxMode(column("Code")), std::nullopt);
-}
-
-TEST_F(PropertySetListControlTest, OtherColumnsTakeNothingOverFromThoseBefore)
-{
-    listFormatter->hiddenProperties = {"Code"};
-    showWalls(1);
-    filter->excludedSets = {"Pset_A"};
-    show({walls.begin(), walls.end()});
-    EXPECT_THAT(columnNames(), ElementsAre("Count"));
-    EXPECT_FALSE(list().isColumnHidden(0));
-}
-
-TEST_F(PropertySetListControlTest, TheSameColumnsStayAsTheUserArrangedThem)
-{
-    listFormatter->hiddenProperties = {"Code"};
-    showWalls(1);
-    list().hideColumn(column("Code"), false);
-    list().hideColumn(column("Count"), true);
-    show({walls.begin(), walls.end()});
-    EXPECT_FALSE(list().isColumnHidden(column("Code")));
-    EXPECT_TRUE(list().isColumnHidden(column("Count")));
-}
-
-TEST_F(PropertySetListControlTest, TheListIsFilledWhileItDoesNotPaint)
-{
-    make();
-    bool wasSuspended = false;
-    class Watcher : public ToyListFormatter
-    {
-    public:
-        std::function<void()> onCounts;
-        void onItemAndColumnCountUpdated() override { onCounts(); }
-    };
-    auto const watcher = std::make_shared<Watcher>();
-    listFormatter = watcher;
-    backend->addPlaceholder(dialog, listId + 1, placeholderPlacement);
-    make(listId + 1);
-    watcher->onCounts = [&] { wasSuspended = list().isRedrawSuspended(); };
-    showWalls(1);
-    EXPECT_TRUE(wasSuspended);
-    EXPECT_FALSE(list().isRedrawSuspended());
-}
-
-TEST_F(PropertySetListControlTest, WithoutAListFormatterThereAreNoCustomColumns)
-{
-    listFormatter = nullptr;
-    showWalls(1);
-    EXPECT_EQ(list().getColumnCount(), 7u);
-    EXPECT_FALSE(list().containsLocalValue(0, 0));
-    list().select({0});
-    list().resetToGlobalValues(0);
-    EXPECT_THAT(handled, IsEmpty());
-}
-
-TEST_F(PropertySetListControlTest, ResetTakesThePropertiesFromTheColumns)
-{
-    showWalls(1);
-    auto const count = control->getColumns().getColumnCount();
-    control->reset();
-    EXPECT_EQ(control->getColumns().getColumnCount(), count);
-    EXPECT_EQ(control->getColumns().getProperty(0), nullptr);
-    EXPECT_THAT(control->getDefinitions(), IsEmpty());
-}
-
-TEST_F(PropertySetListControlTest, AColumnThatLosesItsPropertyWhileTheListIsFilledIsReported)
-{
-    class Resetting : public ToyListFormatter
-    {
-    public:
-        std::function<void()> onAsked;
-        [[nodiscard]] bool isPropertyToBeHiddenByDefault(std::string const& /*setName*/,
-                                                         std::string const& /*name*/) const override
-        {
-            onAsked();
-            return false;
-        }
-    };
-    auto const resetting = std::make_shared<Resetting>();
-    resetting->onAsked = [this] { control->reset(); };
-    listFormatter = resetting;
-    filter->excludedSets = {"Pset_A"};
-    showWalls(1);
-    expectControlReport("Property is missing.",
-                        "initialiseColumnCheckAndComboBoxes::<lambda_1>::operator ()");
-}
-
-TEST_F(PropertySetListControlTest, BetweenResetAndRefreshCellsAreEmpty)
-{
-    showWalls(1);
-    control->reset();
-    // The rows are gone too, which the question tells.
-    EXPECT_EQ(text(0, "Code"), "");
-    EXPECT_THAT(takeReportTexts(), ElementsAre("Index out of range.", "Invalid item index."));
-}
-
 // --- Texts --------------------------------------------------------------------------------------
 
 TEST_F(PropertySetListControlTest, EachRowShowsTheValuesOfItsObject)
@@ -339,8 +94,45 @@ TEST_F(PropertySetListControlTest, ARowThatIsNotThereIsReportedAndBlank)
 
 TEST_F(PropertySetListControlTest, AnAbsentRowOrColumnIsTheFirst)
 {
-    showWalls(1);
-    EXPECT_EQ(qev::fireEvent(toolkitList().onGetItemText, {}), "C1");
+    showWalls(2);
+    formatter->colour = qev::attr::Colour{255, 1, 2, 3};
+    formatter->readOnlyObjects = {walls[1].get()};
+    listFormatter->localObjects = {walls[0].get()};
+    auto& window = toolkitList();
+    EXPECT_EQ(qev::fireEvent(window.onGetItemText, {}), "C1");
+    EXPECT_EQ(qev::fireEvent(window.onGetItemText, {1, std::nullopt}), "C2");
+    EXPECT_EQ(qev::fireEvent(window.onGetItemBackgroundColour, {}), formatter->colour);
+    EXPECT_TRUE(qev::fireEvent(window.onDoesItemContainLocalValue, {}));
+    EXPECT_EQ(qev::fireEvent(window.onLabelEditBegin, ListControl::LabelEditBeginParams{{{}}}).editType, 1u);
+    auto params = end("Code", {}, "C9");
+    params.items = {{}};
+    qev::fireEvent(window.onLabelEditEnd, params);
+    EXPECT_EQ(stored(walls[0], "Code"), label("C9"));
+
+    ListControl::ItemInfo const box{std::nullopt, column("IsExternal")};
+    EXPECT_EQ(qev::fireEvent(window.onGetCheckState, box), CheckState::Unchecked);
+    qev::fireEvent(window.onCheckBoxClicked, box, CheckState::Checked);
+    EXPECT_EQ(stored(walls[0], "IsExternal").getAsString(false), "true");
+
+    std::vector<FcBase const*> asked;
+    control->itemActivatedHandlers.iHandlerAdd([&](FcBase& object) { asked.push_back(&object); });
+    control->itemContextMenuCommandHandlers.iHandlerAdd(
+        [&](FcBase& object, ColumnPropertyNames const& names, int /*command*/) {
+            asked.push_back(&object);
+            EXPECT_EQ(names.propertyName, "Code");
+        });
+    qev::fireEvent(window.onItemActivated, {});
+    qev::fireEvent(window.onContextMenuCommand, {}, 0);
+    EXPECT_THAT(asked, ElementsAre(walls[0].get(), walls[0].get()));
+}
+
+TEST_F(PropertySetListControlTest, AfterNewObjectsTheFormatterIsToldOfTheSameRowAgain)
+{
+    showWalls(2);
+    formatter->disabledObjects = {walls[1].get()};
+    EXPECT_EQ(text(1, "Code"), "");
+    show({walls[1], walls[0]});
+    EXPECT_EQ(text(1, "Code"), "C1");
 }
 
 TEST_F(PropertySetListControlTest, CustomColumnsHaveTheTextOfTheListFormatter)
@@ -451,6 +243,17 @@ TEST_F(PropertySetListControlTest, AReadOnlyBoxCannotBeClicked)
     EXPECT_TRUE(stored(walls[0], "IsExternal").isEmpty());
 }
 
+TEST_F(PropertySetListControlTest, ABoxIsForTheObjectThatTheFormatterWasToldLast)
+{
+    showWalls(2);
+    ListControl::ItemInfo const item{1, column("IsExternal")};
+    (void)text(0, "Code");
+    formatter->log.clear();
+    formatter->disabledObjects = {walls[0].get()};
+    EXPECT_EQ(qev::fireEvent(toolkitList().onGetCheckState, item), std::nullopt);
+    EXPECT_THAT(formatter->log, IsEmpty());
+}
+
 TEST_F(PropertySetListControlTest, OnlyBooleansHaveBoxes)
 {
     showWalls(1);
@@ -500,6 +303,26 @@ TEST_F(PropertySetListControlTest, LocalValuesAreResetAndToldToTheHandlersAlone)
 
     (void)list().containsLocalValue(2, 0);
     EXPECT_THAT(listFormatter->objects, SizeIs(3));
+}
+
+TEST_F(PropertySetListControlTest, AResetOfSeveralRowsIsOneStep)
+{
+    class Renaming : public ToyListFormatter
+    {
+    public:
+        void onResetItemToGlobalValue(std::string const& /*setName*/, std::string const& /*name*/) override
+        {
+            std::static_pointer_cast<core::kernel::FcObjectDefinition>(objects.back())->Name = "global";
+        }
+    };
+    listFormatter = std::make_shared<Renaming>();
+    showWalls(2);
+    list().select({0, 1});
+    list().resetToGlobalValues(column("Code"));
+    EXPECT_EQ(walls[1]->getAttributeAsString("Name"), "global");
+    model.data()->changes().undo();
+    EXPECT_EQ(walls[0]->getAttributeAsString("Name"), "W1");
+    EXPECT_EQ(walls[1]->getAttributeAsString("Name"), "W2");
 }
 
 TEST_F(PropertySetListControlTest, AResetOfNoRowsDoesNothing)
@@ -564,6 +387,7 @@ TEST_F(PropertySetListControlTest, TheHostFillsTheContextMenuOfACell)
     backend->setMenuAnswer([](auto const&) { return std::optional<std::size_t>(1); });
     EXPECT_TRUE(list().openContextMenu(1, column("Status")));
     EXPECT_FALSE(list().openContextMenu(2, 0));
+    qev::fireEvent(toolkitList().onContextMenuCommand, ListControl::ItemInfo{2, 0}, 0);
     EXPECT_THAT(log, ElementsAre("menu W2 Status", "command W2 Status 1"));
 }
 
@@ -614,14 +438,18 @@ TEST_F(PropertySetListControlTest, ObjectsOfRowsAreReplaced)
     EXPECT_EQ(list().getColumnCount(), columnsBefore);
 }
 
-TEST_F(PropertySetListControlTest, AReplacedObjectIsNotToldToAFormatterThatIsAtItsRow)
+TEST_F(PropertySetListControlTest, AReplacedObjectIsNotToldToFormattersThatAreAtItsRow)
 {
     showWalls(1);
     (void)text(0, "Code");
+    (void)list().containsLocalValue(0, 0);
     formatter->log.clear();
+    listFormatter->log.clear();
     control->updateObjects({{0, model.wall("W9")}});
     (void)text(0, "Code");
+    (void)list().containsLocalValue(0, 0);
     EXPECT_THAT(formatter->log, IsEmpty());
+    EXPECT_THAT(listFormatter->log, IsEmpty());
 }
 
 TEST_F(PropertySetListControlTest, AnObjectWithoutSetsOfItsOwnShowsEmptyCells)
