@@ -1,6 +1,8 @@
 #include "StructureModel.h"
 
 #include "Texts.h"
+#include "UI/FoundationClasses/ObjectIcons.h"
+#include "Ui/Qt/QtIcons.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -114,6 +116,8 @@ QVariant StructureModel::data(QModelIndex const& index, int role) const
     auto const& label = getNode(index)->label;
     if (role == Qt::DisplayRole)
         return toQString(index.column() == nameColumn ? label.getTitle() : label.className);
+    if (role == Qt::DecorationRole && index.column() == nameColumn)
+        return ui::QtIcons::get(getNode(index)->icon);
     if (role == Qt::ToolTipRole)
         return toQString(label.getTitle() + "\n" + label.className + "\n" + label.globalId);
     return {};
@@ -144,6 +148,13 @@ std::vector<fc::EntityIndex> StructureModel::getObjectsBelow(Node const& node) c
     return objects;
 }
 
+void StructureModel::describe(Node& node) const
+{
+    auto const entity = m_data->entity(node.object);
+    node.label = entity ? ObjectLabel::of(*entity) : ObjectLabel();
+    node.icon = entity ? fc::ui::getIconForObject(*entity, fc::ui::IconSize::Small) : Guid();
+}
+
 void StructureModel::fill(Node& node, std::vector<fc::EntityIndex> const& objects) const
 {
     for (auto const object : objects) {
@@ -151,7 +162,7 @@ void StructureModel::fill(Node& node, std::vector<fc::EntityIndex> const& object
         child->object = object;
         child->parent = &node;
         child->position = static_cast<int>(node.children.size());
-        child->label = ObjectLabel::of(*m_data, object);
+        describe(*child);
         node.children.push_back(std::move(child));
     }
 }
@@ -159,7 +170,7 @@ void StructureModel::fill(Node& node, std::vector<fc::EntityIndex> const& object
 void StructureModel::refreshLabels(Node& node, std::vector<fc::EntityIndex> const& touched)
 {
     if (node.parent && std::binary_search(touched.begin(), touched.end(), node.object)) {
-        node.label = ObjectLabel::of(*m_data, node.object);
+        describe(node);
         emit dataChanged(getIndex(node), getIndex(node, classColumn));
     }
     for (auto const& child : node.children)

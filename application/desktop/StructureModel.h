@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BuildingStructure.h"
+#include "Core/Id/Guid.h"
 #include "InspectorSession.h"
 #include "ObjectLabel.h"
 
@@ -49,6 +50,7 @@ private:
         int position = 0;
         bool isFetched = false;
         ObjectLabel label;
+        Guid icon;
         std::vector<std::unique_ptr<Node>> children;
     };
 
@@ -58,6 +60,7 @@ private:
     [[nodiscard]] QModelIndex getIndex(Node const& node, int column = nameColumn) const;
     /// What is to stand below a node: what the structure says, without the objects above.
     [[nodiscard]] std::vector<fc::EntityIndex> getObjectsBelow(Node const& node) const;
+    void describe(Node& node) const;
     void fill(Node& node, std::vector<fc::EntityIndex> const& objects) const;
     /// \p touched is in ascending order.
     void refreshLabels(Node& node, std::vector<fc::EntityIndex> const& touched);

@@ -5,7 +5,7 @@ say() { printf '%s\n' "== $*"; }
 # The Debian packages the project builds with.
 packages="g++ cmake ninja-build ccache mold
 libgtest-dev libgmock-dev libpugixml-dev libcli11-dev nlohmann-json3-dev libicu-dev
-libxlsxwriter-dev zlib1g-dev qt6-base-dev fonts-dejavu-core"
+libxlsxwriter-dev zlib1g-dev qt6-base-dev qt6-svg-dev fonts-dejavu-core"
 
 missing_packages() {
     for package in $packages; do
