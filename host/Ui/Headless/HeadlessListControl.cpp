@@ -332,6 +332,9 @@ void HeadlessListControl::setItemAndColumnCounts(std::size_t rows, std::size_t c
     m_rowCount = rows;
     m_columns.setTitles(std::move(titles));
     m_selection.erase(m_selection.lower_bound(rows), m_selection.end());
+    // What was begun in the editor is not meant for other rows.
+    if (m_edit)
+        cancelEdit();
 }
 
 bool HeadlessListControl::isUsingReportStyle() const

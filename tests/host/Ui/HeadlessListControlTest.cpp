@@ -220,6 +220,17 @@ TEST_F(HeadlessListControlTest, AnOpenEditorHasTheFocusAndStandsBelowTheList)
     EXPECT_FALSE(ends[0].accepted);
 }
 
+TEST_F(HeadlessListControlTest, NewRowsEndAnEdit)
+{
+    answerEditsWith(ListControl::EditBox);
+    ASSERT_TRUE(list->beginEdit(0, 2));
+    control->setItemAndColumnCounts(texts.size(), 3);
+    EXPECT_FALSE(list->getEdit());
+    EXPECT_FALSE(list->commitText("F90"));
+    ASSERT_EQ(ends.size(), 1u);
+    EXPECT_FALSE(ends[0].accepted);
+}
+
 TEST_F(HeadlessListControlTest, TheOwnerMayBeginAnEditBelowTheLastRow)
 {
     answerEditsWith(ListControl::EditBox);

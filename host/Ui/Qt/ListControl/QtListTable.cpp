@@ -98,15 +98,17 @@ void QtListTable::fitColumn(int column)
 void QtListTable::updateRow(std::size_t row)
 {
     for (int i = 0; i < countVisiblePositions(); ++i)
-        if (m_cells.getOrder().getRow(static_cast<std::size_t>(getFirstPosition() + i)) == row)
+        if (m_cells.getItem(getFirstPosition() + i, 0).item == row)
             viewport()->update(0, i * m_rowHeight, viewport()->width(), m_rowHeight);
 }
 
 std::vector<std::size_t> QtListTable::getSelectedRows() const
 {
     std::vector<std::size_t> rows;
+    // A row that is still being entered below the last is none yet.
+    auto const shownCount = static_cast<int>(m_cells.getOrder().getShownCount());
     for (auto const& range : selectionModel()->selection())
-        for (int position = range.top(); position <= range.bottom(); ++position)
+        for (int position = range.top(); position < std::min(range.bottom() + 1, shownCount); ++position)
             rows.push_back(m_cells.getOrder().getRow(static_cast<std::size_t>(position)));
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());

@@ -324,6 +324,17 @@ TEST_F(QtListViewTest, AnEntryCanBeTypedBelowTheLastRow)
     EXPECT_EQ(list.getCells().rowCount(), 5);
 }
 
+TEST_F(QtListViewTest, AnEntryBelowTheLastRowIsNotSelectedBeforeItIsThere)
+{
+    list.setSorting({{name, true}});
+    settle();
+    control->startLabelEdit(4, name);
+    ASSERT_NE(editor<QLineEdit>(4, name), nullptr);
+    EXPECT_THAT(control->getSelectedItems(), IsEmpty());
+    control->redrawItem(4);
+    key(Qt::Key_Escape);
+}
+
 TEST_F(QtListViewTest, OneClickTogglesOneBoxAndLeavesTheSelection)
 {
     select(0, name, 2, name);
