@@ -70,6 +70,11 @@ public:
     bool isPropertyReadOnly(PropertyId const& id) const override;
     bool isReference(PropertyId const& id) const override;
 
+    /// The model; null once it is gone.
+    [[nodiscard]] std::shared_ptr<Data> getData() const { return m_data.lock(); }
+    /// The wrapped entity; null once it is gone.
+    [[nodiscard]] std::shared_ptr<FcBase> getObject() const { return m_object.lock(); }
+
     /// Read-only at the start. An editor that can write clears it.
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
 
