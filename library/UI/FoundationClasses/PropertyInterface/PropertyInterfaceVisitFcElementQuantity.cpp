@@ -67,10 +67,9 @@ bool SetValue::visit(FcElementQuantity& set)
                       "FcElementQuantity");
         return false;
     }
-    auto const number = value->get<std::optional<double>>();
-    if (number)
+    if (auto const number = value->get<std::optional<double>>())
         quantity->setValue(*number);
-    else if (value->isNullopt())
+    else
         removeMember(set, id.text(), data);
     return false;
 }

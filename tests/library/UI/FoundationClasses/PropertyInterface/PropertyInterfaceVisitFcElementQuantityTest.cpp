@@ -226,12 +226,13 @@ TEST_F(QuantityRows, TakeTheSetAlongWhenTheyAreTheLast)
     EXPECT_EQ(wall->getPropertySetDefinitionNonConst<FcElementQuantity>("Own"), set);
 }
 
-TEST_F(QuantityRows, ReportAValueOfTheWrongKind)
+TEST_F(QuantityRows, GoAfterAReportWithAValueOfAnotherKind)
 {
     of(set).set("Width", 5.0);
     expectReport("Property value doesn't hold the given type.", "qev::object::PropertyValue::get",
                  "Object/PropertyValue");
-    EXPECT_EQ(of(set).value("Width"), PropertyValue(std::optional(0.3)));
+    EXPECT_EQ(of(set).tree(), "Own = PropertySetDefinitionPsets [group]\n"
+                              "  Area\n");
 }
 
 TEST_F(QuantityRows, ReportWritingAComplexMember)
