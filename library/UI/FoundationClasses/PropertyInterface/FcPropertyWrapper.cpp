@@ -164,8 +164,7 @@ void FcPropertyWrapper::clearCache()
 
 // --- From paths to objects --------------------------------------------------------------------------
 
-std::tuple<std::shared_ptr<FcBase>, std::shared_ptr<object::PropertyInterface>, object::PropertyId>
-FcPropertyWrapper::getMappedProperty(PropertyId const& id) const
+FcPropertyWrapper::PropertyOwner FcPropertyWrapper::getMappedProperty(PropertyId const& id) const
 {
     buildIfNeeded();
     auto const found = m_mappedProperties.find(id);
@@ -178,8 +177,7 @@ FcPropertyWrapper::getMappedProperty(PropertyId const& id) const
     return {nullptr, std::dynamic_pointer_cast<PropertyInterface>(object), localId};
 }
 
-std::tuple<std::shared_ptr<FcBase>, std::shared_ptr<object::PropertyInterface>, object::PropertyId>
-FcPropertyWrapper::getPropertyBehindReference(PropertyId const& id) const
+FcPropertyWrapper::PropertyOwner FcPropertyWrapper::getPropertyBehindReference(PropertyId const& id) const
 {
     auto const entity = m_object.lock();
     auto const dot = id.text().find('.');

@@ -41,6 +41,9 @@ public:
     using PropertyId = object::PropertyId;
     using PropertyValue = object::PropertyValue;
     using EnumeratedValue = qev::ui::edit::ObjectPropertyEditControllerBase::EnumeratedValue;
+    /// Who answers for a property, an entity or some other object that has properties, and by which id.
+    using PropertyOwner =
+        std::tuple<std::shared_ptr<FcBase>, std::shared_ptr<object::PropertyInterface>, PropertyId>;
 
     FcPropertyWrapper(std::shared_ptr<Data> data, std::shared_ptr<FcBase> object);
     ~FcPropertyWrapper() override;
@@ -84,10 +87,8 @@ public:
     /// Forgets the tree; it is built again when next needed.
     void clearCache();
 
-    /// Who answers for a path, and by which id: an entity, or some other object that has properties. Both are
-    /// null where the path leads nowhere.
-    std::tuple<std::shared_ptr<FcBase>, std::shared_ptr<PropertyInterface>, PropertyId>
-    getMappedProperty(PropertyId const& id) const;
+    /// Who answers for a path. Both objects are null where the path leads nowhere.
+    PropertyOwner getMappedProperty(PropertyId const& id) const;
     /// The first path, in the order of paths, at which \p owner answers by \p localId.
     std::optional<PropertyId> getMappedId(PropertyId const& localId,
                                           std::shared_ptr<FcBase> const& owner) const;
@@ -115,8 +116,7 @@ private:
     void buildProperties() const;
     void buildIfNeeded() const;
     void map(Property const& source, Property& target, std::string const& path) const;
-    std::tuple<std::shared_ptr<FcBase>, std::shared_ptr<PropertyInterface>, PropertyId>
-    getPropertyBehindReference(PropertyId const& id) const;
+    PropertyOwner getPropertyBehindReference(PropertyId const& id) const;
     std::shared_ptr<FcBase> getEntity(PropertyId const& id) const;
     bool isPredefinedTypeReadOnly(PropertyId const& id) const;
 

@@ -63,7 +63,7 @@ bool GetPropertyDescription::visit(FcPropertyBoundedValue const&)
 
 bool HasQuantityPresentation::visit(FcPropertyBoundedValue const&)
 {
-    // One line of text holds three values, each with its own unit.
+    // One line of text with up to three values is no number.
     return id.text() != boundedId;
 }
 
