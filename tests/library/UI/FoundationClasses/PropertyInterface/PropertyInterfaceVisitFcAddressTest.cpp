@@ -175,6 +175,15 @@ TEST_F(AddressRows, LeaveOneNumberWhereOneIsSet)
     EXPECT_EQ(telecom->PagerNumber.get(), "5");
 }
 
+TEST_F(AddressRows, ClearNumbersAndReportAValueOfAnotherKind)
+{
+    telecom->TelephoneNumbers = Lines{"1"};
+    set(*telecom, "TelephoneNumber", "2");
+    expectReport("Property value doesn't hold the given type.", "qev::object::PropertyValue::get",
+                 "Object/PropertyValue");
+    EXPECT_EQ(telecom->TelephoneNumbers.get(), std::nullopt);
+}
+
 TEST_F(AddressRows, LabelNumbersAndDescribeNone)
 {
     EXPECT_EQ(name(*telecom, "TelephoneNumber"), "TelephoneNumber");

@@ -238,9 +238,11 @@ TEST_F(ContextRows, TurnNorth)
 
 TEST_F(ContextRows, ReportANorthThatIsNoNumber)
 {
+    setNorth(1, 0);
     set(*context, "TrueNorth", "north");
     expectReport("Property value doesn't hold the given type.", "qev::object::PropertyValue::get",
                  "Object/PropertyValue");
+    EXPECT_DOUBLE_EQ(number(*context, "TrueNorth"), 0.0);
 }
 
 TEST_F(ContextRows, PresentNorthAsAPlaneAngle)

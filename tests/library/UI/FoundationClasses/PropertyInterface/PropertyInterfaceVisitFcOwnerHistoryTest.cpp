@@ -6,6 +6,7 @@
 #include "FoundationClasses/Resource/Actor/FcPersonAndOrganization.h"
 #include "FoundationClasses/Resource/Utility/FcApplication.h"
 #include "kit/ModelBuilder.h"
+#include "kit/ReportRecorder.h"
 #include "library/kit/PropertyTree.h"
 #include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyAccess.h"
@@ -132,6 +133,20 @@ TEST_F(ActorRows, ShowDatesAsTexts)
     EXPECT_EQ(value(*history, "LastModifiedDate"), PropertyValue(Text()));
     history->LastModifiedDate = 0;
     EXPECT_EQ(value(*history, "LastModifiedDate"), PropertyValue(Text("1970-01-01 00:00:00")));
+}
+
+TEST_F(ActorRows, ReportDatesOfAnotherKind)
+{
+    history->CreationDate = 1;
+    history->LastModifiedDate = 2;
+
+    set(*history, "CreationDate", Text("2026-03-02 09:30:00"));
+    EXPECT_EQ(takeReportTexts(), std::vector<std::string>{"Property value doesn't hold the given type."});
+    set(*history, "LastModifiedDate", "2026-03-02 09:30:00");
+    EXPECT_EQ(takeReportTexts(), std::vector<std::string>{"Property value doesn't hold the given type."});
+
+    EXPECT_EQ(history->CreationDate.get(), 1);
+    EXPECT_EQ(history->LastModifiedDate.get(), std::nullopt);
 }
 
 TEST_F(ActorRows, ReadDatesInTwoForms)
