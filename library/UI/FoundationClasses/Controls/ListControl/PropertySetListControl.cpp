@@ -352,40 +352,44 @@ void PropertySetListControl::initialiseColumnCheckAndComboBoxes()
 
 std::string PropertySetListControl::onGetItemText(ItemInfo const& item)
 {
-    if (ProgressBarInterface::isRunning())
-        return {};
-    setObjectFromIndexOnFormatter(rowOf(item));
-    if (isStringValueToBeBlankForGivenItem(item))
+    if (!turnToCell(item))
         return {};
     auto const column = columnOf(item);
     if (m_columns.isCustomColumn(column)) {
         setObjectFromIndexOnListControlFormatter(rowOf(item));
         return m_columns.getCustomColumnItemString(column);
     }
-    auto const* const property = getPropertyWithText(item);
-    return property ? property->getValue() : std::string();
+    auto const* const property = getSwitchedOnProperty(item);
+    return property && !isPlainBoolean(*property) ? property->getValue() : std::string();
 }
 
-PropertyInterface const* PropertySetListControl::getPropertyWithText(ItemInfo const& item)
+bool PropertySetListControl::turnToCell(ItemInfo const& item)
+{
+    if (ProgressBarInterface::isRunning())
+        return false;
+    setObjectFromIndexOnFormatter(rowOf(item));
+    return !isStringValueToBeBlankForGivenItem(item);
+}
+
+PropertyInterface const* PropertySetListControl::getSwitchedOnProperty(ItemInfo const& item)
 {
     auto const* const property = m_columns.getProperty(columnOf(item));
-    if (!property || isPlainBoolean(*property) || !setObjectBeingEdited(rowOf(item)))
+    if (!property || !setObjectBeingEdited(rowOf(item)) || isSwitchedOff(*property))
         return nullptr;
-    return isSwitchedOff(*property) ? nullptr : property;
+    return property;
 }
 
 std::string PropertySetListControl::onGetItemEditText(ItemInfo const& item)
 {
-    auto text = onGetItemText(item);
     auto const* const single = getShownSingleValue(item);
     if (!single)
-        return text;
+        return onGetItemText(item);
     if (isPlainBoolean(*single))
         return truthText(single->getValue());
     auto const& value = single->getFcValue();
     auto const number = value.valueAsDoubleGet();
     if (!number)
-        return value.isEmpty() ? std::string() : text;
+        return value.isEmpty() ? std::string() : single->getValue();
     auto const presentation = single->quantityPresentation();
     if (!presentation)
         return str::shortestText(*number);
@@ -402,15 +406,9 @@ std::optional<double> PropertySetListControl::onGetItemNumber(ItemInfo const& it
 
 FcPropertySingleValue const* PropertySetListControl::getShownSingleValue(ItemInfo const& item)
 {
-    if (ProgressBarInterface::isRunning())
+    if (!turnToCell(item) || m_columns.isCustomColumn(columnOf(item)))
         return nullptr;
-    setObjectFromIndexOnFormatter(rowOf(item));
-    if (isStringValueToBeBlankForGivenItem(item) || m_columns.isCustomColumn(columnOf(item)))
-        return nullptr;
-    auto const* const property = m_columns.getProperty(columnOf(item));
-    if (!property || !setObjectBeingEdited(rowOf(item)) || isSwitchedOff(*property))
-        return nullptr;
-    return dynamic_cast<FcPropertySingleValue const*>(property);
+    return dynamic_cast<FcPropertySingleValue const*>(getSwitchedOnProperty(item));
 }
 
 bool PropertySetListControl::isStringValueToBeBlankForGivenItem(ItemInfo const& item) const

@@ -132,8 +132,11 @@ private:
     void initialiseColumnCheckAndComboBoxes();
 
     [[nodiscard]] std::string onGetItemText(ItemInfo const& item);
-    /// The property whose text a cell shows, pointed at the object of the row; null for a cell without text.
-    [[nodiscard]] PropertyInterface const* getPropertyWithText(ItemInfo const& item);
+    /// Tells the formatter the object of the row. False for a cell that shows nothing at present.
+    [[nodiscard]] bool turnToCell(ItemInfo const& item);
+    /// The property of a cell, pointed at the object of the row; null when there is none, and for a value
+    /// that is switched off.
+    [[nodiscard]] PropertyInterface const* getSwitchedOnProperty(ItemInfo const& item);
     [[nodiscard]] std::string onGetItemEditText(ItemInfo const& item);
     [[nodiscard]] std::optional<double> onGetItemNumber(ItemInfo const& item);
     [[nodiscard]] bool isStringValueToBeBlankForGivenItem(ItemInfo const& item) const;

@@ -212,7 +212,7 @@ TEST_F(PropertySetListControlColumnsTest, TheFilterLeavesOutSetsAndProperties)
     EXPECT_THAT(columnNames(), ElementsAre("Code", "IsExternal", "Status"));
 }
 
-TEST_F(PropertySetListControlColumnsTest, CustomColumnsComeInTheirDeliberateOrder)
+TEST_F(PropertySetListControlColumnsTest, CustomColumnsWithoutAPlaceComeInReverseAtTheEnd)
 {
     filter->excludedProperties = {"Length", "Checked", "Codes", "Status", "Count"};
     listFormatter->customColumns = {{"A", "A", std::nullopt},
@@ -245,7 +245,7 @@ TEST_F(PropertySetListControlColumnsTest, CustomColumnsCanBeHiddenByDefaultToo)
 TEST_F(PropertySetListControlColumnsTest, AHeaderThatIsNotThereIsReportedAndEmpty)
 {
     showWalls(1);
-    EXPECT_EQ(list().getHeaderText(99), "");
+    EXPECT_EQ(qev::fireEvent(toolkitList().onGetColumnHeaderText, 99), "");
     EXPECT_THAT(takeReportTexts(), ElementsAre("Column index out of range."));
 }
 
