@@ -33,9 +33,12 @@ std::shared_ptr<HeadlessWindow> makePlatformWindow(WindowCreation const& creatio
     return name == Window::getClassName() ? plain(WindowClass::Window) : nullptr;
 }
 
-void tellFocus(std::shared_ptr<HeadlessWindow> const& platformWindow, bool hasFocus)
+/// Tells the window, or the one around it where it is a mere part such as an editor.
+void tellFocus(HeadlessWindow const* platformWindow, bool hasFocus)
 {
-    auto const window = platformWindow ? platformWindow->getWindow() : nullptr;
+    std::shared_ptr<Window> window;
+    for (; platformWindow && !window; platformWindow = platformWindow->getOwner())
+        window = platformWindow->getWindow();
     if (!window)
         return;
     window->onFocusChanged(hasFocus);
@@ -99,10 +102,10 @@ void HeadlessBackend::setFocusedWindow(std::shared_ptr<HeadlessWindow> const& wi
     if (previous == window)
         return;
     m_focusedWindow = window;
-    tellFocus(previous, false);
+    tellFocus(previous.get(), false);
     // The loss may have moved the focus on.
     if (window && m_focusedWindow.lock() == window)
-        tellFocus(window, true);
+        tellFocus(window.get(), true);
 }
 
 void HeadlessBackend::dropFocusBelow(HeadlessWindow const& window)

@@ -74,15 +74,28 @@ HeadlessListControl::HeadlessListControl(int controlId, WindowPlacement const& p
     : HeadlessWindow(WindowClass::ListControl, controlId, placement)
     , m_style(style)
 {
-    bool const isPopup = (style & ListControl::PopupStyle) != 0;
-    setPlacedOnScreen(isPopup);
-    setVisible(!isPopup);
+    setPlacedOnScreen(isPopup());
+    if (isPopup())
+        HeadlessWindow::setVisible(false);
 }
 
 std::unique_ptr<WindowInterface> HeadlessListControl::createInterface()
 {
     return std::make_unique<HeadlessListControlInterface>(
         std::static_pointer_cast<HeadlessListControl>(shared_from_this()));
+}
+
+void HeadlessListControl::setVisible(bool visible)
+{
+    if (!visible)
+        cancelEdit();
+    HeadlessWindow::setVisible(visible);
+    if (!visible || !isPopup())
+        return;
+    if (m_editBox)
+        m_editBox->setFocus();
+    else
+        setFocus();
 }
 
 std::string HeadlessListControl::getHeaderText(std::size_t column) const

@@ -26,6 +26,8 @@ public:
     HeadlessListControl(int controlId, WindowPlacement const& placement, unsigned int style);
 
     [[nodiscard]] std::unique_ptr<WindowInterface> createInterface() override;
+    /// A popup that is shown takes the focus.
+    void setVisible(bool visible) override;
 
     [[nodiscard]] std::size_t getRowCount() const { return m_rowCount; }
     [[nodiscard]] std::size_t getColumnCount() const { return m_columns.getCount(); }
@@ -112,6 +114,7 @@ protected:
     [[nodiscard]] std::string dumpContent() const override { return dump(); }
 
 private:
+    [[nodiscard]] bool isPopup() const { return (m_style & ListControl::PopupStyle) != 0; }
     [[nodiscard]] std::shared_ptr<ListControl> getListControl() const;
     [[nodiscard]] bool isReachableCell(std::size_t row, std::size_t column) const;
     [[nodiscard]] bool isReachableColumn(std::size_t column) const;

@@ -47,7 +47,7 @@ public:
     /// A popup belongs to its owner, and its placement is on the screen all the same.
     void setPlacedOnScreen(bool placedOnScreen) { m_isPlacedOnScreen = placedOnScreen; }
 
-    void setVisible(bool visible);
+    virtual void setVisible(bool visible);
     /// True when the window and all above it are shown.
     [[nodiscard]] bool isVisible() const;
     void setEnabled(bool enabled) { m_isEnabled = enabled; }

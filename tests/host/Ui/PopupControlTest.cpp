@@ -140,6 +140,36 @@ TEST_F(PopupControlTest, LosingTheFocusToItsOwnEditorKeepsThePopupOpen)
     EXPECT_EQ(closedCount, 0);
 }
 
+TEST_F(PopupControlTest, LosingTheFocusFromItsOwnEditorClosesThePopup)
+{
+    auto const control = open();
+    std::vector<bool> accepted;
+    control->onLabelEditBegin.iHandlerAdd([](auto&, ListControl::LabelEditBeginParams const&) {
+        return ListControl::LabelEditBeginResultParams{ListControl::EditBox, {}};
+    });
+    control->onLabelEditEnd.iHandlerAdd([&accepted](auto&, ListControl::LabelEditEndParams const& params) {
+        accepted.push_back(params.accepted);
+    });
+    control->setItemAndColumnCounts(1, 1);
+    EXPECT_TRUE(backend->getListControl(*control)->beginEdit(0, 0));
+    createGrid()->setFocus();
+    EXPECT_FALSE(control->isVisible());
+    EXPECT_EQ(closedCount, 1);
+    EXPECT_EQ(accepted, std::vector{false});
+}
+
+TEST_F(PopupControlTest, APopupThatIsShownTakesTheFocus)
+{
+    auto const grid = createGrid();
+    grid->setFocus();
+    auto const placement = popup->getControlPlacement(dialog, std::nullopt, std::nullopt);
+    auto const control =
+        Window::create<ListControl>(dialog, popup->getStyleFlags() | 0x24U, 0, placement.placement, 10);
+    EXPECT_EQ(WindowHandle::getFocusedWindow(), grid->getHandle());
+    control->show();
+    EXPECT_EQ(WindowHandle::getFocusedWindow(), control->getHandle());
+}
+
 TEST_F(PopupControlTest, LosingTheFocusToAnotherWindowClosesThePopup)
 {
     auto const control = open();
