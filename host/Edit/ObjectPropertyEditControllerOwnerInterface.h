@@ -25,7 +25,8 @@ public:
     ObjectPropertyEditControllerOwnerInterface&
     operator=(ObjectPropertyEditControllerOwnerInterface const&) = delete;
 
-    /// The model has changed: marks the edited objects as changed, and makes anew what depends on them.
+    /// The model has changed: marks the edited objects as changed, and makes anew what depends on them. The
+    /// controller that calls is still at work, and must not be destroyed before this returns.
     virtual void onObjectsEdited() = 0;
     /// Opens a path or an address with the program that the system has for it.
     virtual void openExternalReference(std::string const& reference) = 0;
