@@ -179,6 +179,7 @@ BUTTONS = {
     "add": (CIVIL, ("line", "M8 3V13M3 8H13")),
     "delete": (DANGER, ("line", "M4 4L12 12M12 4L4 12")),
     "edit": (NEUTRAL, ("area", "M3.5 12.5V9.5L10.5 2.5L13.5 5.5L6.5 12.5Z"), ("line", "M9 4L12 7M2.5 14.5H13.5")),
+    "reset": (NEUTRAL, ("line", "M3.5 8A4.5 4.5 0 1 0 5.5 4.2M5.5 1.5V4.5H8.5")),
     "open": (SPATIAL, ("line", "M7.5 3.5H3.5V12.5H12.5V8.5M9.5 2.5H13.5V6.5M13.5 2.5L7.5 8.5")),
 }
 

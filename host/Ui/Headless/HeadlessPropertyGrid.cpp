@@ -22,6 +22,7 @@ public:
 
     [[nodiscard]] std::shared_ptr<PropertyGridModel> getModel() const override { return m_grid->getModel(); }
     void adjustLayout() override { m_grid->countLayout(); }
+    void showRow(PropertyGridRow& row) override { m_grid->showRow(row); }
 
 private:
     std::shared_ptr<HeadlessPropertyGrid> m_grid;
@@ -67,11 +68,20 @@ bool HeadlessPropertyGrid::select(Row const& row)
 {
     if (!isReachableRow(row) || row->getState().kind == PropertyGridRowState::Kind::EmptyLine)
         return false;
-    m_current = PropertyGridRowRecord::getPath(*row);
+    // The handlers may take this window away.
+    auto const keepAlive = shared_from_this();
+    makeCurrent(*row);
     return true;
 }
 
-HeadlessPropertyGrid::Row HeadlessPropertyGrid::getCurrentRow() const { return findRow(m_current); }
+HeadlessPropertyGrid::Row HeadlessPropertyGrid::getCurrentRow() const
+{
+    auto const visible = rows();
+    auto const found = std::find_if(visible.begin(), visible.end(), [&](Row const& row) {
+        return PropertyGridRowRecord::getPlace(*row) == m_current;
+    });
+    return found == visible.end() ? nullptr : *found;
+}
 
 bool HeadlessPropertyGrid::selectNextEditable(bool forwards)
 {
@@ -130,13 +140,40 @@ bool HeadlessPropertyGrid::pressButton(Row const& row)
         {});
 }
 
+bool HeadlessPropertyGrid::pressButton(Row const& row, std::string_view key)
+{
+    return drive(
+        row,
+        [](PropertyGridRow& target, std::string_view pressed) {
+            auto const button = PropertyGridEditing::findButton(target, pressed);
+            return PropertyGridEditing::pressButton(target,
+                                                    button.value_or(target.getState().buttons.size()));
+        },
+        key);
+}
+
+bool HeadlessPropertyGrid::followLink(Row const& row)
+{
+    return drive(
+        row,
+        [](PropertyGridRow& target, std::string_view) { return PropertyGridEditing::followLink(target); },
+        {});
+}
+
+void HeadlessPropertyGrid::showRow(PropertyGridRow& row)
+{
+    for (auto const* parent = row.getParent(); parent; parent = parent->getParent())
+        m_collapsed.erase(PropertyGridRowRecord::getPlace(*parent));
+    makeCurrent(row);
+}
+
 bool HeadlessPropertyGrid::expand(Row const& row) { return setExpanded(row, true); }
 
 bool HeadlessPropertyGrid::collapse(Row const& row) { return setExpanded(row, false); }
 
 bool HeadlessPropertyGrid::isExpanded(PropertyGridRow const& row) const
 {
-    return !row.getChildren().empty() && !m_collapsed.contains(PropertyGridRowRecord::getPath(row));
+    return !row.getChildren().empty() && !m_collapsed.contains(PropertyGridRowRecord::getPlace(row));
 }
 
 std::vector<PropertyGridRowRecord> HeadlessPropertyGrid::records() const
@@ -168,6 +205,15 @@ bool HeadlessPropertyGrid::drive(Row const& row, Input input, std::string_view t
     return result.accepted;
 }
 
+void HeadlessPropertyGrid::makeCurrent(PropertyGridRow& row)
+{
+    auto place = PropertyGridRowRecord::getPlace(row);
+    if (place == m_current)
+        return;
+    m_current = std::move(place);
+    m_model->notifyRowSelected(&row);
+}
+
 bool HeadlessPropertyGrid::isReachableRow(Row const& row) const
 {
     return row && row->getModel() == m_model.get() && isReachable() && isShown(*row);
@@ -183,7 +229,7 @@ bool HeadlessPropertyGrid::setExpanded(Row const& row, bool expanded)
 {
     if (!isReachableRow(row) || row->getChildren().empty())
         return false;
-    auto path = PropertyGridRowRecord::getPath(*row);
+    auto path = PropertyGridRowRecord::getPlace(*row);
     if (expanded)
         m_collapsed.erase(path);
     else

@@ -58,6 +58,10 @@ public:
     bool clear(Row const& row);
     bool clickCheckBox(Row const& row);
     bool pressButton(Row const& row);
+    /// Presses the first button of that key at the end of the row.
+    bool pressButton(Row const& row, std::string_view key);
+    /// Clicks the value of a row that leads somewhere.
+    bool followLink(Row const& row);
     /// Why the last input was refused; empty when it was accepted or the row was out of reach.
     [[nodiscard]] std::string const& getMessage() const { return m_message; }
 
@@ -73,6 +77,8 @@ public:
     /// the name, the check box, the value, and in braces how it can be edited and how it looks.
     [[nodiscard]] std::string dump() const;
 
+    /// Makes \p row current, unfolding what it stands below, for the owner of the rows.
+    void showRow(PropertyGridRow& row);
     void countLayout() { ++m_layoutCount; }
     /// How often the rows have been laid out.
     [[nodiscard]] int getLayoutCount() const { return m_layoutCount; }
@@ -84,6 +90,7 @@ private:
     using Input = PropertyGridEditResult (*)(PropertyGridRow& row, std::string_view text);
 
     bool drive(Row const& row, Input input, std::string_view text);
+    void makeCurrent(PropertyGridRow& row);
     [[nodiscard]] bool isReachableRow(Row const& row) const;
     [[nodiscard]] bool isShown(PropertyGridRow const& row) const;
     bool setExpanded(Row const& row, bool expanded);

@@ -59,39 +59,69 @@ void tellEdited(PropertyGridRow& row)
         model->notifyRowEdited(row);
 }
 
-PropertyGridEditResult storeText(PropertyGridRow& row, std::string_view text)
+/// Why the row's owner does not want the input; nothing where it does.
+std::optional<std::string> findObjection(PropertyGridRow const& row, PropertyGridInput const& input)
 {
-    if (row.getState().text != text) {
-        row.setText(std::string(text));
-        tellEdited(row);
-    }
+    auto const& check = row.getInputCheck();
+    return check ? check(input) : std::nullopt;
+}
+
+/// What a row that stands for many values holds is no value: even the same says something new.
+enum class IfEqual
+{
+    Skip,
+    Tell
+};
+
+PropertyGridEditResult storeText(PropertyGridRow& row, std::string_view text, IfEqual ifEqual)
+{
+    if (row.getState().text == text && ifEqual == IfEqual::Skip)
+        return accepted();
+    if (auto objection = findObjection(row, {std::string(text), std::nullopt, std::nullopt}))
+        return refused(std::move(*objection));
+    row.setText(std::string(text));
+    tellEdited(row);
     return accepted();
 }
 
 /// The handlers run for an equal number too: a zero that is shown may stand for no value at all.
-PropertyGridEditResult storeNumber(PropertyGridRow& row, std::optional<double> number)
+PropertyGridEditResult storeNumber(PropertyGridRow& row, std::string_view text, std::optional<double> number,
+                                   IfEqual ifEqual)
 {
-    if (!row.getState().number && !number)
+    if (!row.getState().number && !number && ifEqual == IfEqual::Skip)
         return accepted();
+    if (auto objection = findObjection(row, {std::string(text), number, std::nullopt}))
+        return refused(std::move(*objection));
     row.setNumber(number);
     tellEdited(row);
     return accepted();
 }
 
 /// Stores what \p text says in the terms of the row's value.
-PropertyGridEditResult store(PropertyGridRow& row, std::string_view text)
+PropertyGridEditResult store(PropertyGridRow& row, std::string_view text, IfEqual ifEqual = IfEqual::Skip)
 {
     if (row.getState().valueKind == ValueKind::Text)
-        return storeText(row, text);
+        return storeText(row, text, ifEqual);
     if (text.empty())
-        return storeNumber(row, std::nullopt);
+        return storeNumber(row, text, std::nullopt, ifEqual);
     // An unchanged text stands for the very number, whatever a round trip through units would make of it.
     if (text == PropertyGridEditing::getEditorText(row))
-        return storeNumber(row, row.getState().number);
+        return storeNumber(row, text, row.getState().number, ifEqual);
     auto const number = PropertyGridNumber::read(text, row.getQuantityPresentation());
     if (!number)
         return refusedAsNumber(row, text);
-    return storeNumber(row, number);
+    return storeNumber(row, text, number, ifEqual);
+}
+
+PropertyGridEditResult storeCheckState(PropertyGridRow& row, CheckState state)
+{
+    if (auto objection = findObjection(row, {{}, std::nullopt, state}))
+        return refused(std::move(*objection));
+    auto const keepAlive = row.getShared();
+    row.setCheckState(state);
+    PropertyGridCheckBoxProperty property(keepAlive);
+    fireEvent(row.getCheckBoxClickedHandlers(), property);
+    return accepted();
 }
 
 } // namespace
@@ -157,6 +187,19 @@ bool PropertyGridEditing::canPressButton(PropertyGridRow const& row)
     return hasVisibleButton(row) && row.getState().enabled;
 }
 
+std::optional<std::size_t> PropertyGridEditing::findButton(PropertyGridRow const& row, std::string_view key)
+{
+    auto const& buttons = row.getState().buttons;
+    auto const found = std::find_if(buttons.begin(), buttons.end(),
+                                    [&](PropertyGridRowButton const& button) { return button.key == key; });
+    return found == buttons.end() ? std::nullopt : std::optional<std::size_t>(found - buttons.begin());
+}
+
+bool PropertyGridEditing::canFollowLink(PropertyGridRow const& row)
+{
+    return row.getState().isLink && !row.getState().buttons.empty();
+}
+
 bool PropertyGridEditing::canTypeFreely(PropertyGridRow const& row)
 {
     auto const& state = row.getState();
@@ -212,21 +255,30 @@ PropertyGridEditResult PropertyGridEditing::choose(PropertyGridRow& row, std::st
         return refusedAsReadOnly();
     if (!isChoosable(row.getState(), text))
         return refusedAsChoice(text);
-    return store(row, text);
+    return store(row, text, row.getState().isMixed ? IfEqual::Tell : IfEqual::Skip);
 }
 
-PropertyGridEditResult PropertyGridEditing::clear(PropertyGridRow& row) { return commitText(row, {}); }
+PropertyGridEditResult PropertyGridEditing::clear(PropertyGridRow& row)
+{
+    auto const& state = row.getState();
+    if (canClickCheckBox(row) && state.canClearCheckBox)
+        return state.checkState == CheckState::Indeterminate && !state.isMixed
+                   ? accepted()
+                   : storeCheckState(row, CheckState::Indeterminate);
+    if (getValueEditor(row) == PropertyGridEditor::Choice && !isChoosable(state, {}) && !canTypeFreely(row))
+        if (auto objection = findObjection(row, {}))
+            return refused(std::move(*objection));
+    if (!state.isMixed || getValueEditor(row) == PropertyGridEditor::None)
+        return commitText(row, {});
+    return store(row, {}, IfEqual::Tell);
+}
 
 PropertyGridEditResult PropertyGridEditing::clickCheckBox(PropertyGridRow& row)
 {
     if (!canClickCheckBox(row))
         return refusedAsReadOnly();
-    auto const keepAlive = row.getShared();
-    row.setCheckState(row.getCheckState() == CheckState::Checked ? CheckState::Unchecked
-                                                                 : CheckState::Checked);
-    PropertyGridCheckBoxProperty property(keepAlive);
-    fireEvent(row.getCheckBoxClickedHandlers(), property);
-    return accepted();
+    return storeCheckState(row, row.getCheckState() == CheckState::Checked ? CheckState::Unchecked
+                                                                           : CheckState::Checked);
 }
 
 PropertyGridEditResult PropertyGridEditing::pressButton(PropertyGridRow& row)
@@ -241,6 +293,21 @@ PropertyGridEditResult PropertyGridEditing::pressButton(PropertyGridRow& row)
     PropertyGridProperty property(keepAlive);
     fireEvent(row.getButtonClickedHandlers(), property);
     return accepted();
+}
+
+PropertyGridEditResult PropertyGridEditing::pressButton(PropertyGridRow& row, std::size_t button)
+{
+    if (button >= row.getState().buttons.size())
+        return refused(localize("Input_NoButton", "Ui"));
+    auto const keepAlive = row.getShared();
+    if (auto const pressed = row.getButtonFunction())
+        pressed(button);
+    return accepted();
+}
+
+PropertyGridEditResult PropertyGridEditing::followLink(PropertyGridRow& row)
+{
+    return canFollowLink(row) ? pressButton(row, 0) : refused(localize("Input_NoLink", "Ui"));
 }
 
 } // namespace qev::ui

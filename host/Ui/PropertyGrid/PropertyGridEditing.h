@@ -3,6 +3,8 @@
 #include "HostUiExport.h"
 #include "Ui/PropertyGrid/PropertyGridRow.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,7 +37,8 @@ struct PropertyGridEditResult
 /// control after a changed value, those of the row after a click. The handlers may remove the row; whoever
 /// calls holds it by `shared_ptr`. A text that the row holds already is accepted, changes nothing and runs
 /// no handler; a number runs them always, as the zero of a row without a value is a number to be set.
-/// An editor that nobody typed into is not an input.
+/// An editor that nobody typed into is not an input. A row with an input check asks it before anything
+/// changes.
 class HOSTUI_EXPORT PropertyGridEditing
 {
 public:
@@ -49,6 +52,10 @@ public:
     [[nodiscard]] static bool canClickCheckBox(PropertyGridRow const& row);
     [[nodiscard]] static bool hasVisibleButton(PropertyGridRow const& row);
     [[nodiscard]] static bool canPressButton(PropertyGridRow const& row);
+    /// The place of the first button of that key; nothing when the row has none.
+    [[nodiscard]] static std::optional<std::size_t> findButton(PropertyGridRow const& row,
+                                                               std::string_view key);
+    [[nodiscard]] static bool canFollowLink(PropertyGridRow const& row);
     /// True when a choice row takes texts that are not in its list.
     [[nodiscard]] static bool canTypeFreely(PropertyGridRow const& row);
 
@@ -63,11 +70,15 @@ public:
     static PropertyGridEditResult commitText(PropertyGridRow& row, std::string_view text);
     /// Takes the entry \p text of the row's drop list.
     static PropertyGridEditResult choose(PropertyGridRow& row, std::string_view text);
-    /// Blanks the row's value.
+    /// Blanks the row's value; a check box that can be undecided becomes so.
     static PropertyGridEditResult clear(PropertyGridRow& row);
     /// Clicks the check box: checked becomes unchecked, anything else checked.
     static PropertyGridEditResult clickCheckBox(PropertyGridRow& row);
     static PropertyGridEditResult pressButton(PropertyGridRow& row);
+    /// Presses one of the buttons at the end of the row.
+    static PropertyGridEditResult pressButton(PropertyGridRow& row, std::size_t button);
+    /// Goes where the value of a link leads.
+    static PropertyGridEditResult followLink(PropertyGridRow& row);
 };
 
 } // namespace qev::ui

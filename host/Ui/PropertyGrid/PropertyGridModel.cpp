@@ -58,4 +58,10 @@ void PropertyGridModel::notifyRowEdited(PropertyGridRow& row)
         edited(row.getShared());
 }
 
+void PropertyGridModel::notifyRowSelected(PropertyGridRow* row)
+{
+    if (auto const selected = m_selected)
+        selected(row ? row->getShared() : nullptr);
+}
+
 } // namespace qev::ui

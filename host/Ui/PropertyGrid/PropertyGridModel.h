@@ -18,6 +18,7 @@ class HOSTUI_EXPORT PropertyGridModel
 {
 public:
     using EditedFunction = std::function<void(std::shared_ptr<PropertyGridRow> const&)>;
+    using SelectedFunction = std::function<void(std::shared_ptr<PropertyGridRow> const&)>;
 
     PropertyGridModel() = default;
     ~PropertyGridModel();
@@ -38,16 +39,22 @@ public:
     /// The function that is called after a user has changed a row.
     void setEditedFunction(EditedFunction function) { m_edited = std::move(function); }
 
+    /// The function that is called when another row has become current; with null when none is.
+    void setSelectedFunction(SelectedFunction function) { m_selected = std::move(function); }
+
     void notifyRowChanged(PropertyGridRow& row);
     void notifyRowAboutToBeInserted(PropertyGridRow* parent, std::size_t index);
     void notifyRowInserted(PropertyGridRow* parent, std::size_t index);
     /// The user has changed \p row. The row, and this model, may be gone afterwards.
     void notifyRowEdited(PropertyGridRow& row);
+    /// The user has made \p row current; null for none.
+    void notifyRowSelected(PropertyGridRow* row);
 
 private:
     std::vector<std::shared_ptr<PropertyGridRow>> m_rows;
     std::vector<PropertyGridObserver*> m_observers;
     EditedFunction m_edited;
+    SelectedFunction m_selected;
 };
 
 } // namespace qev::ui

@@ -43,6 +43,14 @@ void PropertyGridRow::setCheckState(CheckState state)
     changed();
 }
 
+void PropertyGridRow::renew(PropertyGridRowState state,
+                            std::unique_ptr<unit::QuantityPresentationBase> presentation)
+{
+    m_state = std::move(state);
+    m_presentation = std::move(presentation);
+    changed();
+}
+
 void PropertyGridRow::setPlace(PropertyGridModel* model, PropertyGridRow* parent)
 {
     m_model = model;

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "HostUiExport.h"
+#include "Ui/PropertyGrid/PropertyGridInput.h"
 #include "Ui/PropertyGrid/PropertyGridRowState.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridPropertyInterface.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qev::ui {
@@ -21,6 +24,12 @@ class PropertyGridModel;
 class HOSTUI_EXPORT PropertyGridRow final : public PropertyGridPropertyInterface
 {
 public:
+    /// Looks at an input before the row takes it. \returns why it is refused, for the user; nothing to let it
+    /// pass.
+    using InputCheck = std::function<std::optional<std::string>(PropertyGridInput const& input)>;
+    /// Runs when the user has pressed the button of that place among the row's buttons.
+    using ButtonFunction = std::function<void(std::size_t button)>;
+
     explicit PropertyGridRow(PropertyGridRowState state);
     ~PropertyGridRow() override;
 
@@ -46,6 +55,14 @@ public:
     void setNumber(std::optional<double> number);
     void setText(std::string text);
     void setCheckState(CheckState state);
+
+    /// Gives the row another state and presentation in one go; what it is and stands over stays.
+    void renew(PropertyGridRowState state, std::unique_ptr<unit::QuantityPresentationBase> presentation);
+
+    void setInputCheck(InputCheck check) { m_inputCheck = std::move(check); }
+    [[nodiscard]] InputCheck const& getInputCheck() const { return m_inputCheck; }
+    void setButtonFunction(ButtonFunction function) { m_buttonFunction = std::move(function); }
+    [[nodiscard]] ButtonFunction const& getButtonFunction() const { return m_buttonFunction; }
 
     /// Puts the row and those below it under \p parent in \p model; both null when it is removed.
     void setPlace(PropertyGridModel* model, PropertyGridRow* parent);
@@ -95,6 +112,8 @@ private:
     ButtonClickedHandlers m_buttonClicked;
     CheckBoxClickedHandlers m_checkBoxClicked;
     CustomButtonClickedHandlers m_customButtonClicked;
+    InputCheck m_inputCheck;
+    ButtonFunction m_buttonFunction;
 };
 
 } // namespace qev::ui

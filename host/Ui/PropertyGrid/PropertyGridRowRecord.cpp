@@ -27,6 +27,11 @@ PropertyGridRowRecord PropertyGridRowRecord::of(PropertyGridRow const& row)
     record.enabled = state.enabled;
     record.editable = editor != PropertyGridEditor::None;
     record.hasButton = PropertyGridEditing::hasVisibleButton(row);
+    for (auto const& button : state.buttons)
+        record.buttonKeys.push_back(button.key);
+    record.isMixed = state.isMixed;
+    record.isLink = state.isLink;
+    record.isLocalValue = state.isLocalValue;
     record.description = state.description;
     return record;
 }
@@ -38,6 +43,17 @@ std::vector<std::string> PropertyGridRowRecord::getPath(PropertyGridRow const& r
         path.push_back(step->getName());
     std::reverse(path.begin(), path.end());
     return path;
+}
+
+std::vector<std::string> PropertyGridRowRecord::getPlace(PropertyGridRow const& row)
+{
+    if (!row.getState().key.empty())
+        return {row.getState().key};
+    std::vector<std::string> place;
+    if (row.getParent())
+        place = getPlace(*row.getParent());
+    place.push_back(row.getName());
+    return place;
 }
 
 } // namespace qev::ui

@@ -34,10 +34,19 @@ struct HOSTUI_EXPORT PropertyGridRowRecord
     /// The user can change the row in some way.
     bool editable = false;
     bool hasButton = false;
+    /// The keys of the buttons at the end of the row, from left to right.
+    std::vector<std::string> buttonKeys;
+    /// The row stands for values that differ.
+    bool isMixed = false;
+    bool isLink = false;
+    bool isLocalValue = false;
     std::string description;
 
     [[nodiscard]] static PropertyGridRowRecord of(PropertyGridRow const& row);
     [[nodiscard]] static std::vector<std::string> getPath(PropertyGridRow const& row);
+    /// What the row is known by when the rows are made anew: its key, or else its name below the place of the
+    /// row above it.
+    [[nodiscard]] static std::vector<std::string> getPlace(PropertyGridRow const& row);
 };
 
 } // namespace qev::ui

@@ -2,6 +2,7 @@
 
 #include "Core/Attribute/Colour.h"
 #include "HostUiExport.h"
+#include "Ui/PropertyGrid/PropertyGridRowButton.h"
 #include "Ui/Window/CheckState.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridButton.h"
 #include "Ui/Window/Controls/PropertyGridControl/ValueDisplayMode.h"
@@ -60,6 +61,9 @@ struct PropertyGridRowState
 
     Kind kind = Kind::Group;
     std::string name;
+    /// By what the row is known in its grid when the rows are made anew; empty for a row that is known by its
+    /// name and those of the rows above it.
+    std::string key;
     std::string description;
 
     ValueKind valueKind = ValueKind::None;
@@ -77,17 +81,28 @@ struct PropertyGridRowState
     bool emptyState = false;
     /// What stands in grey where a value would, while there is none to show.
     std::string hint;
+    /// The row stands for values that differ. It holds none of them, and blanking it is a change.
+    bool isMixed = false;
 
     CheckState checkState = CheckState::Unchecked;
     ValueDisplayMode valueDisplayMode = ValueDisplayMode::BesideCheckBox;
+    /// Blanking the row makes its check box undecided.
+    bool canClearCheckBox = false;
 
     /// True for a row whose button belongs to its very kind.
     bool hasCustomButton = false;
     propertygridcontrol::button::VisibleState buttonVisibleState =
         propertygridcontrol::button::VisibleState::Hidden;
     std::shared_ptr<Image const> buttonImage;
+    /// The buttons at the end of the row, from left to right.
+    std::vector<PropertyGridRowButton> buttons;
+    /// The value leads somewhere: a click on it presses the first button.
+    bool isLink = false;
+    /// The value is the object's own where it might be one that it takes over.
+    bool isLocalValue = false;
 
     bool bold = false;
+    std::optional<attr::Colour> textColour;
     std::optional<attr::Colour> backgroundColour;
     PropertyGridAlignment alignment = PropertyGridAlignment::Left;
     std::optional<PropertyGridHorizontalLine> horizontalLine;

@@ -107,8 +107,16 @@ std::vector<std::string> getMarks(PropertyGridRow const& row)
         marks.push_back(getEditorMark(row));
     if (PropertyGridEditing::hasVisibleButton(row))
         marks.emplace_back("button");
+    for (auto const& button : state.buttons)
+        marks.push_back("button \"" + onOneLine(button.key) + '"');
+    if (state.isLink)
+        marks.emplace_back("link");
+    if (state.isLocalValue)
+        marks.emplace_back("local");
     if (state.bold)
         marks.emplace_back("bold");
+    if (state.textColour)
+        marks.push_back("text " + getColourMark(*state.textColour));
     if (state.backgroundColour)
         marks.push_back(getColourMark(*state.backgroundColour));
     if (state.alignment == PropertyGridAlignment::Right)

@@ -59,6 +59,11 @@ public:
         if (auto* const grid = static_cast<QtPropertyGrid*>(getWidget()))
             grid->adjustLayout();
     }
+    void showRow(PropertyGridRow& row) override
+    {
+        if (auto* const grid = static_cast<QtPropertyGrid*>(getWidget()))
+            grid->showRow(row);
+    }
 
 private:
     std::shared_ptr<PropertyGridModel> m_model;

@@ -77,7 +77,10 @@ QtPropertyGrid::QtPropertyGrid(QWidget* parent)
     setFocusProxy(m_view);
     setFocusPolicy(Qt::StrongFocus);
     applyFontMeasures();
-    m_view->onCurrentRowChanged.iHandlerAdd([this](QModelIndex const&) { updateDescription(); });
+    m_view->onCurrentRowChanged.iHandlerAdd([this](QModelIndex const& index) {
+        updateDescription();
+        m_rows->notifyRowSelected(QtPropertyGridItemModel::getRow(index));
+    });
     connect(m_itemModel, &QAbstractItemModel::dataChanged, this, &QtPropertyGrid::updateDescription);
     connect(m_itemModel, &QAbstractItemModel::modelReset, this, &QtPropertyGrid::updateDescription);
 }
@@ -88,6 +91,15 @@ void QtPropertyGrid::adjustLayout()
 {
     m_view->restorePlace();
     updateDescription();
+}
+
+void QtPropertyGrid::showRow(PropertyGridRow const& row)
+{
+    auto const index = m_itemModel->getIndex(row);
+    if (!index.isValid())
+        return;
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
 }
 
 QString QtPropertyGrid::getDescriptionText() const { return m_description->toPlainText(); }

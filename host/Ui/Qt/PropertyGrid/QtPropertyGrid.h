@@ -28,6 +28,8 @@ public:
 
     /// To be called once the rows have been made anew.
     void adjustLayout();
+    /// Makes \p row current and brings it into view, unfolding what it stands below.
+    void showRow(PropertyGridRow const& row);
 
     /// The text below the rows.
     [[nodiscard]] QString getDescriptionText() const;

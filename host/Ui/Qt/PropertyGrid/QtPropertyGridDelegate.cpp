@@ -2,8 +2,10 @@
 
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
 #include "Ui/PropertyGrid/PropertyGridNumber.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridButtons.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
 #include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtChoiceEditor.h"
 #include "Ui/Qt/QtText.h"
@@ -56,6 +58,8 @@ QColor getForeground(QStyleOptionViewItem const& option, PropertyGridRow const& 
         return option.palette.color(group, QPalette::HighlightedText);
     if (auto const colour = row.getState().backgroundColour; colour && colour->alpha != 0)
         foreground = QtCellDrawing::getReadableOn(QtCellDrawing::toQColor(*colour));
+    if (auto const colour = row.getState().textColour)
+        foreground = QtCellDrawing::toQColor(*colour);
     if (!row.getState().enabled)
         return QtCellDrawing::getMuted(foreground, getBackground(option, row), shareWhenDisabled);
     return foreground;
@@ -172,6 +176,29 @@ void paintHint(QPainter& painter, QStyleOptionViewItem const& option, PropertyGr
                      elided);
 }
 
+/// What the buttons at the end of a row take of its width.
+int getButtonsWidth(PropertyGridRow const& row, QStyleOptionViewItem const& option)
+{
+    auto const& buttons = QtPropertyGridLayout::of(row, option).buttons;
+    return buttons.empty() ? 0 : buttons.back().right() + 1 - buttons.front().left();
+}
+
+QtPropertyGridButtons::Look getLook(QStyleOptionViewItem const& option, QModelIndex const& index,
+                                    std::size_t button)
+{
+    auto const* const view = dynamic_cast<QtPropertyGridView const*>(option.widget);
+    return view ? view->getButtonLook(index, button) : QtPropertyGridButtons::Look::Flat;
+}
+
+/// The colour of a value that leads somewhere, where it can be told from others.
+QColor getLinkForeground(QStyleOptionViewItem const& option, PropertyGridRow const& row)
+{
+    if (option.state.testFlag(QStyle::State_Selected) || row.getState().textColour ||
+        row.getState().backgroundColour)
+        return getForeground(option, row);
+    return option.palette.color(getColourGroup(option), QPalette::Link);
+}
+
 QString getComboText(QComboBox const& combo)
 {
     return combo.isEditable() ? combo.currentText() : combo.itemText(combo.currentIndex());
@@ -194,14 +221,16 @@ void QtPropertyGridDelegate::paint(QPainter* painter, QStyleOptionViewItem const
         return;
     auto const isName = index.column() == QtPropertyGridItemModel::nameColumn;
     auto const isGroup = row->getState().kind == Kind::Group;
-    if (isGroup && !isName)
+    if (isGroup && !isName) {
+        paintButtons(*painter, option, index);
         return;
+    }
     painter->save();
     auto cell = option;
     applyFont(cell, *row);
     // The name of a group has the whole row to itself.
     if (isGroup && option.widget)
-        cell.rect.setRight(option.widget->width());
+        cell.rect.setRight(option.widget->width() - getButtonsWidth(*row, option));
     painter->setClipRect(cell.rect);
     painter->setFont(cell.font);
     if (option.state.testFlag(QStyle::State_Selected))
@@ -211,6 +240,8 @@ void QtPropertyGridDelegate::paint(QPainter* painter, QStyleOptionViewItem const
     else
         paintValue(*painter, cell, *row);
     painter->restore();
+    if (!isName)
+        paintButtons(*painter, option, index);
 }
 
 QSize QtPropertyGridDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const
@@ -293,6 +324,12 @@ bool QtPropertyGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* vie
     auto const* const row = QtPropertyGridItemModel::getRow(index);
     if (!row || event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
+    if (index.column() == QtPropertyGridItemModel::valueColumn)
+        if (auto const button = QtPropertyGridLayout::of(*row, option).findButton(event->pos())) {
+            QToolTip::showText(event->globalPos(),
+                               QtPropertyGridButtons::getText(row->getState().buttons[*button]), view);
+            return true;
+        }
     auto const shown = index.data(Qt::DisplayRole).toString();
     auto cell = option;
     applyFont(cell, *row);
@@ -361,12 +398,30 @@ void QtPropertyGridDelegate::paintValue(QPainter& painter, QStyleOptionViewItem 
         isRight ? std::max(area.left(), area.right() + 1 - valueWidth - unitWidth) : area.left();
 
     constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
-    painter.setPen(getValueForeground(option, row));
+    auto font = painter.font();
+    font.setUnderline(row.getState().isLink);
+    painter.setFont(font);
+    painter.setPen(row.getState().isLink ? getLinkForeground(option, row) : getValueForeground(option, row));
     painter.drawText(QRect(left, area.top(), area.right() + 1 - left, area.height()), flags, elided);
     if (unit.isEmpty())
         return;
     painter.setPen(getMutedForeground(option, row));
     painter.drawText(QRect(left + valueWidth, area.top(), unitWidth + margin, area.height()), flags, unit);
+}
+
+void QtPropertyGridDelegate::paintButtons(QPainter& painter, QStyleOptionViewItem const& option,
+                                          QModelIndex const& index) const
+{
+    auto const& row = *QtPropertyGridItemModel::getRow(index);
+    if (row.getState().buttons.empty())
+        return;
+    auto const areas = QtPropertyGridLayout::of(row, option).buttons;
+    for (std::size_t button = 0; button < areas.size(); ++button) {
+        if (option.state.testFlag(QStyle::State_Selected))
+            painter.fillRect(areas[button], getBackground(option, row));
+        QtPropertyGridButtons::paint(painter, option, row.getState().buttons[button], areas[button],
+                                     getForeground(option, row, 0.75F), getLook(option, index, button));
+    }
 }
 
 QWidget* QtPropertyGridDelegate::createChoiceEditor(QWidget* parent, PropertyGridRow const& row) const

@@ -37,6 +37,7 @@ protected:
 private:
     void paintName(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row) const;
     void paintValue(QPainter& painter, QStyleOptionViewItem const& option, PropertyGridRow const& row) const;
+    void paintButtons(QPainter& painter, QStyleOptionViewItem const& option, QModelIndex const& index) const;
     [[nodiscard]] QWidget* createChoiceEditor(QWidget* parent, PropertyGridRow const& row) const;
 };
 

@@ -74,6 +74,17 @@ bool QtPropertyGridItemModel::pressButton(QModelIndex const& index)
     return drive(index, [](PropertyGridRow& row) { return PropertyGridEditing::pressButton(row); });
 }
 
+bool QtPropertyGridItemModel::pressButton(QModelIndex const& index, std::size_t button)
+{
+    return drive(index,
+                 [button](PropertyGridRow& row) { return PropertyGridEditing::pressButton(row, button); });
+}
+
+bool QtPropertyGridItemModel::followLink(QModelIndex const& index)
+{
+    return drive(index, [](PropertyGridRow& row) { return PropertyGridEditing::followLink(row); });
+}
+
 QModelIndex QtPropertyGridItemModel::index(int row, int column, QModelIndex const& parent) const
 {
     if (!hasIndex(row, column, parent))

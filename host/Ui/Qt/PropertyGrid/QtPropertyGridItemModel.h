@@ -6,6 +6,7 @@
 #include "Ui/PropertyGrid/PropertyGridModel.h"
 #include "Ui/PropertyGrid/PropertyGridObserver.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <QAbstractItemModel>
@@ -34,6 +35,10 @@ public:
     bool clear(QModelIndex const& index);
     bool clickCheckBox(QModelIndex const& index);
     bool pressButton(QModelIndex const& index);
+    /// Presses one of the buttons at the end of a row.
+    bool pressButton(QModelIndex const& index, std::size_t button);
+    /// Goes where the value of a link leads.
+    bool followLink(QModelIndex const& index);
 
     [[nodiscard]] QModelIndex index(int row, int column, QModelIndex const& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(QModelIndex const& index) const override;

@@ -40,15 +40,25 @@ QtPropertyGridLayout QtPropertyGridLayout::of(PropertyGridRow const& row, QStyle
 {
     QtPropertyGridLayout layout;
     auto cell = option.rect;
+    auto const buttonWidth = option.fontMetrics.height() + 2 * QtCellDrawing::getTextMargin(option);
     if (PropertyGridEditing::hasCheckBox(row))
         layout.checkBox = takeCheckBox(cell, option);
     if (PropertyGridEditing::hasVisibleButton(row))
-        layout.button =
-            takeRight(cell, option.fontMetrics.height() + 2 * QtCellDrawing::getTextMargin(option));
+        layout.button = takeRight(cell, buttonWidth);
+    layout.buttons.resize(row.getState().buttons.size());
+    for (auto area = layout.buttons.rbegin(); area != layout.buttons.rend(); ++area)
+        *area = takeRight(cell, buttonWidth);
     layout.value = cell;
     if (PropertyGridEditing::getValueEditor(row) == PropertyGridEditor::Choice)
         layout.arrow = takeRight(cell, option.fontMetrics.height());
     return layout;
+}
+
+std::optional<std::size_t> QtPropertyGridLayout::findButton(QPoint const& position) const
+{
+    auto const found = std::find_if(buttons.begin(), buttons.end(),
+                                    [&](QRect const& area) { return area.contains(position); });
+    return found == buttons.end() ? std::nullopt : std::optional<std::size_t>(found - buttons.begin());
 }
 
 } // namespace qev::ui

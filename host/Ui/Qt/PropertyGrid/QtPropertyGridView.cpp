@@ -281,6 +281,8 @@ void QtPropertyGridView::mousePressEvent(QMouseEvent* event)
     }
     QTreeView::mousePressEvent(event);
     m_pressed = event->button() == Qt::LeftButton ? indexAt(event->pos()) : QModelIndex();
+    m_pressedButton = event->button() == Qt::LeftButton ? findButton(event->pos()) : std::nullopt;
+    redrawButton(m_pressedButton);
 }
 
 void QtPropertyGridView::mouseMoveEvent(QMouseEvent* event)
@@ -293,6 +295,7 @@ void QtPropertyGridView::mouseMoveEvent(QMouseEvent* event)
         viewport()->setCursor(Qt::SplitHCursor);
     else
         viewport()->unsetCursor();
+    updateHover(event->pos());
     QTreeView::mouseMoveEvent(event);
 }
 
@@ -302,19 +305,31 @@ void QtPropertyGridView::mouseReleaseEvent(QMouseEvent* event)
         return;
     QTreeView::mouseReleaseEvent(event);
     QPersistentModelIndex const pressed = std::exchange(m_pressed, {});
+    auto const pressedButton = std::exchange(m_pressedButton, std::nullopt);
+    redrawButton(pressedButton);
+    if (pressedButton) {
+        auto const released = findButton(event->pos());
+        if (released && released->index == pressedButton->index && released->button == pressedButton->button)
+            m_rows.pressButton(released->index, released->button);
+        return;
+    }
     auto const index = indexAt(event->pos());
-    if (index.isValid() && index == pressed && index.column() == valueColumn &&
-        event->modifiers() == Qt::NoModifier)
+    if (!index.isValid() || index != pressed || index.column() != valueColumn)
+        return;
+    if (event->modifiers() == Qt::NoModifier)
         clickValue(index, event->pos());
+    else if (event->modifiers() == Qt::ControlModifier)
+        followLinkAt(index, event->pos());
 }
 
 void QtPropertyGridView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     auto const index = indexAt(event->pos());
     // In the value cell a double click is two clicks, as on any check box or button.
-    if (index.isValid() && index.column() == valueColumn)
+    if (index.isValid() && index.column() == valueColumn) {
         m_pressed = index;
-    else
+        m_pressedButton = findButton(event->pos());
+    } else
         QTreeView::mouseDoubleClickEvent(event);
 }
 
@@ -334,19 +349,21 @@ void QtPropertyGridView::changeEvent(QEvent* event)
 QtPropertyGridView::Path QtPropertyGridView::getPath(QModelIndex const& index)
 {
     auto const* const row = QtPropertyGridItemModel::getRow(index);
-    return row ? PropertyGridRowRecord::getPath(*row) : Path();
+    return row ? PropertyGridRowRecord::getPlace(*row) : Path();
 }
 
 QtPropertyGridView::Place QtPropertyGridView::getPlace(QModelIndex const& index) const
 {
     Place place;
+    if (auto const* const row = QtPropertyGridItemModel::getRow(index); row && !row->getState().key.empty())
+        return {{row->getState().key, 0, true}};
     for (auto step = index.siblingAtColumn(nameColumn); step.isValid(); step = step.parent()) {
         auto const name = QtPropertyGridItemModel::getRow(step)->getName();
         int namesakes = 0;
         for (int position = 0; position < step.row(); ++position)
             if (QtPropertyGridItemModel::getRow(step.siblingAtRow(position))->getName() == name)
                 ++namesakes;
-        place.push_back({name, namesakes});
+        place.push_back({name, namesakes, false});
     }
     std::reverse(place.begin(), place.end());
     return place;
@@ -355,7 +372,9 @@ QtPropertyGridView::Place QtPropertyGridView::getPlace(QModelIndex const& index)
 QModelIndex QtPropertyGridView::findIndex(Place const& place) const
 {
     QModelIndex found;
-    for (auto const& [name, namesakes] : place) {
+    for (auto const& [name, namesakes, isKey] : place) {
+        if (isKey)
+            return findKey(name, {});
         QModelIndex next;
         int passed = 0;
         for (int position = 0; !next.isValid() && position < m_rows.rowCount(found); ++position) {
@@ -368,6 +387,18 @@ QModelIndex QtPropertyGridView::findIndex(Place const& place) const
         found = next;
     }
     return found;
+}
+
+QModelIndex QtPropertyGridView::findKey(std::string const& key, QModelIndex const& parent) const
+{
+    for (int position = 0; position < m_rows.rowCount(parent); ++position) {
+        auto const candidate = m_rows.index(position, nameColumn, parent);
+        if (QtPropertyGridItemModel::getRow(candidate)->getState().key == key)
+            return candidate;
+        if (auto const below = findKey(key, candidate); below.isValid())
+            return below;
+    }
+    return {};
 }
 
 QModelIndex QtPropertyGridView::getCurrentValueIndex() const
@@ -465,8 +496,18 @@ void QtPropertyGridView::clickValue(QModelIndex const& index, QPoint const& posi
         m_rows.clickCheckBox(index);
     else if (layout.button.contains(position))
         m_rows.pressButton(index);
-    else if (hasValueEditor(index))
+    else if (!hasValueEditor(index))
+        followLinkAt(index, position);
+    else
         openEditor(index, layout.arrow.contains(position) || !PropertyGridEditing::canTypeFreely(*row));
+}
+
+void QtPropertyGridView::followLinkAt(QModelIndex const& index, QPoint const& position)
+{
+    auto const* const row = QtPropertyGridItemModel::getRow(index);
+    auto const text = QtPropertyGridLayout::of(*row, getCellOption(index)).value;
+    if (PropertyGridEditing::canFollowLink(*row) && text.contains(position))
+        m_rows.followLink(index);
 }
 
 bool QtPropertyGridView::handleKey(QKeyEvent const& event)
@@ -545,6 +586,13 @@ bool QtPropertyGridView::openChoices()
     auto const hasChoices = PropertyGridEditing::getValueEditor(*row) == PropertyGridEditor::Choice;
     if (!hasChoices && PropertyGridEditing::canPressButton(*row))
         return m_rows.pressButton(index);
+    auto const& buttons = row->getState().buttons;
+    if (!hasChoices && buttons.size() == 1)
+        return m_rows.pressButton(index, 0);
+    if (!hasChoices && !buttons.empty()) {
+        openMenu(index, viewport()->mapToGlobal(visualRect(index).bottomLeft()));
+        return true;
+    }
     return openEditor(index, true);
 }
 
@@ -553,6 +601,9 @@ bool QtPropertyGridView::activateCurrentRow()
     auto const index = getCurrentValueIndex();
     if (hasValueEditor(index))
         return openEditor(index, false);
+    if (auto const* const row = QtPropertyGridItemModel::getRow(index);
+        PropertyGridEditing::canFollowLink(*row))
+        return m_rows.followLink(index);
     auto const first = index.siblingAtColumn(nameColumn);
     if (m_rows.rowCount(first) == 0)
         return false;

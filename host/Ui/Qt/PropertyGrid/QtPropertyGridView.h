@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostUiQtExport.h"
+#include "Ui/Qt/PropertyGrid/QtPropertyGridButtons.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
 
 #include <optional>
@@ -12,6 +13,8 @@
 #include <set>
 #include <string>
 #include <vector>
+
+class QMenu;
 
 namespace qev::ui {
 
@@ -40,6 +43,11 @@ public:
     void copySelection();
     /// Opens the editor of a row, with its drop list open if it has one and \p withChoices.
     bool openEditor(QModelIndex const& index, bool withChoices);
+    /// How the button at the end of a row looks, from what the mouse does.
+    [[nodiscard]] QtPropertyGridButtons::Look getButtonLook(QModelIndex const& index,
+                                                            std::size_t button) const;
+    /// Fills \p menu with what can be done with a row.
+    void fillMenu(QMenu& menu, QModelIndex const& index);
     /// What the message beside a refused input says; empty when none is shown.
     [[nodiscard]] QString getMessage() const;
 
@@ -62,16 +70,26 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     using Path = std::vector<std::string>;
-    /// A row among its siblings: its name, and how many of the name stand before it.
+    /// A row among its siblings: its name, and how many of the name stand before it. A row with a key is
+    /// known by it alone, wherever it stands.
     struct Step
     {
         std::string name;
         int namesakes = 0;
+        bool isKey = false;
+    };
+    /// One of the buttons at the end of a row.
+    struct Button
+    {
+        QPersistentModelIndex index;
+        std::size_t button = 0;
     };
     /// The steps from the top level down to one row.
     using Place = std::vector<Step>;
@@ -79,7 +97,12 @@ private:
     [[nodiscard]] static Path getPath(QModelIndex const& index);
     [[nodiscard]] Place getPlace(QModelIndex const& index) const;
     [[nodiscard]] QModelIndex findIndex(Place const& place) const;
+    [[nodiscard]] QModelIndex findKey(std::string const& key, QModelIndex const& parent) const;
     [[nodiscard]] QModelIndex getCurrentValueIndex() const;
+    [[nodiscard]] std::optional<Button> findButton(QPoint const& position) const;
+    void updateHover(QPoint const& position);
+    void redrawButton(std::optional<Button> const& button);
+    void openMenu(QModelIndex const& index, QPoint const& position);
     void keepPlace();
     /// Makes a row current, and it alone selected.
     void makeCurrent(QModelIndex const& index);
@@ -91,6 +114,7 @@ private:
     [[nodiscard]] bool isOnSplit(QPoint const& position) const;
     [[nodiscard]] QStyleOptionViewItem getCellOption(QModelIndex const& index) const;
     void clickValue(QModelIndex const& index, QPoint const& position);
+    void followLinkAt(QModelIndex const& index, QPoint const& position);
     bool handleKey(QKeyEvent const& event);
     /// Toggles the current check box, and gives those of the other selected rows the same state.
     bool toggleSelection();
@@ -112,6 +136,8 @@ private:
     bool m_isApplyingSplit = false;
     bool m_isDraggingSplit = false;
     QPersistentModelIndex m_pressed;
+    std::optional<Button> m_hoveredButton;
+    std::optional<Button> m_pressedButton;
     /// The names down to each row that the user has folded.
     std::set<Path> m_folded;
     bool m_isDressing = false;

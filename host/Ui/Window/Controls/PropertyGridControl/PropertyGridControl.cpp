@@ -17,11 +17,7 @@ void reportFrom(std::string_view operation, std::string_view text)
 
 } // namespace
 
-PropertyGridControl::~PropertyGridControl()
-{
-    if (m_gridInterface)
-        m_gridInterface->getModel()->setEditedFunction(nullptr);
-}
+PropertyGridControl::~PropertyGridControl() { letGoOfModel(); }
 
 void PropertyGridControl::addProperty(std::unique_ptr<PropertyGridProperty> property)
 {
@@ -47,6 +43,12 @@ void PropertyGridControl::adjustLayout()
         gridInterface->adjustLayout();
 }
 
+void PropertyGridControl::showRow(PropertyGridRow& row)
+{
+    if (auto* const gridInterface = requireGridInterface("showRow"))
+        gridInterface->showRow(row);
+}
+
 std::shared_ptr<PropertyGridModel> PropertyGridControl::getModel() const
 {
     auto const* const gridInterface = requireGridInterface("getModel");
@@ -67,12 +69,15 @@ void PropertyGridControl::setInterface(WindowInterface& windowInterface)
         PropertyGridProperty property(row);
         fireEvent(control->onPropertyChanged, property);
     });
+    m_gridInterface->getModel()->setSelectedFunction([self](std::shared_ptr<PropertyGridRow> const& row) {
+        if (auto const control = std::dynamic_pointer_cast<PropertyGridControl>(self.lock()))
+            fireEvent(control->onCurrentRowChanged, row);
+    });
 }
 
 void PropertyGridControl::resetInterface()
 {
-    if (m_gridInterface)
-        m_gridInterface->getModel()->setEditedFunction(nullptr);
+    letGoOfModel();
     m_gridInterface = nullptr;
     DialogControl::resetInterface();
 }
@@ -80,6 +85,14 @@ void PropertyGridControl::resetInterface()
 bool PropertyGridControl::isCompatibleWith(WindowClass windowClass) const
 {
     return windowClass == WindowClass::PropertyGridControl;
+}
+
+void PropertyGridControl::letGoOfModel()
+{
+    if (!m_gridInterface)
+        return;
+    m_gridInterface->getModel()->setEditedFunction(nullptr);
+    m_gridInterface->getModel()->setSelectedFunction(nullptr);
 }
 
 PropertyGridControlInterface* PropertyGridControl::requireGridInterface(std::string_view operation) const

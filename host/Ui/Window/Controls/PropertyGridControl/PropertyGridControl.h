@@ -25,11 +25,16 @@ public:
     /// Lays the rows out anew, once all of them are there.
     void adjustLayout();
 
+    /// Makes \p row, one of this grid, current and brings it into view.
+    void showRow(PropertyGridRow& row);
+
     /// The rows; null, with a report, without a platform side.
     [[nodiscard]] std::shared_ptr<PropertyGridModel> getModel() const;
 
     /// Fired on a row after the user has changed it.
     EventHandlerContainer<Window, void, PropertyGridProperty&> onPropertyChanged;
+    /// Fired when another row has become current; with null when none is.
+    EventHandlerContainer<Window, void, std::shared_ptr<PropertyGridRow> const&> onCurrentRowChanged;
 
 protected:
     void setInterface(WindowInterface& windowInterface) override;
@@ -37,6 +42,8 @@ protected:
     [[nodiscard]] bool isCompatibleWith(WindowClass windowClass) const override;
 
 private:
+    /// Stops hearing of the rows.
+    void letGoOfModel();
     [[nodiscard]] PropertyGridControlInterface* requireGridInterface(std::string_view operation) const;
 
     PropertyGridControlInterface* m_gridInterface = nullptr;

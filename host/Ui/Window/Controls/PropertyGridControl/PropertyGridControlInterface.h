@@ -16,6 +16,8 @@ public:
     [[nodiscard]] virtual std::shared_ptr<PropertyGridModel> getModel() const = 0;
     /// Lays the rows out anew.
     virtual void adjustLayout() = 0;
+    /// Makes \p row current and brings it into view, unfolding what it stands below.
+    virtual void showRow(PropertyGridRow& row) = 0;
 };
 
 } // namespace qev::ui
