@@ -23,6 +23,10 @@ public:
     [[nodiscard]] std::shared_ptr<PropertyGridModel> getModel() const override { return m_grid->getModel(); }
     void adjustLayout() override { m_grid->countLayout(); }
     void showRow(PropertyGridRow& row) override { m_grid->showRow(row); }
+    [[nodiscard]] std::shared_ptr<PropertyGridRow> getCurrentRow() const override
+    {
+        return m_grid->getCurrentRow();
+    }
 
 private:
     std::shared_ptr<HeadlessPropertyGrid> m_grid;

@@ -64,6 +64,11 @@ public:
         if (auto* const grid = static_cast<QtPropertyGrid*>(getWidget()))
             grid->showRow(row);
     }
+    [[nodiscard]] std::shared_ptr<PropertyGridRow> getCurrentRow() const override
+    {
+        auto const* const grid = static_cast<QtPropertyGrid*>(getWidget());
+        return grid ? grid->getCurrentRow() : nullptr;
+    }
 
 private:
     std::shared_ptr<PropertyGridModel> m_model;

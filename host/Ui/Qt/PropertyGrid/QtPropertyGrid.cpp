@@ -102,6 +102,12 @@ void QtPropertyGrid::showRow(PropertyGridRow const& row)
     m_view->scrollTo(index);
 }
 
+std::shared_ptr<PropertyGridRow> QtPropertyGrid::getCurrentRow() const
+{
+    auto* const row = QtPropertyGridItemModel::getRow(m_view->currentIndex());
+    return row ? row->getShared() : nullptr;
+}
+
 QString QtPropertyGrid::getDescriptionText() const { return m_description->toPlainText(); }
 
 QByteArray QtPropertyGrid::saveLayout() const

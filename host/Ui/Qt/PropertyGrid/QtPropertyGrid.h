@@ -30,6 +30,8 @@ public:
     void adjustLayout();
     /// Makes \p row current and brings it into view, unfolding what it stands below.
     void showRow(PropertyGridRow const& row);
+    /// The row that is current; null when none is.
+    [[nodiscard]] std::shared_ptr<PropertyGridRow> getCurrentRow() const;
 
     /// The text below the rows.
     [[nodiscard]] QString getDescriptionText() const;

@@ -49,6 +49,12 @@ void PropertyGridControl::showRow(PropertyGridRow& row)
         gridInterface->showRow(row);
 }
 
+std::shared_ptr<PropertyGridRow> PropertyGridControl::getCurrentRow() const
+{
+    auto const* const gridInterface = requireGridInterface("getCurrentRow");
+    return gridInterface ? gridInterface->getCurrentRow() : nullptr;
+}
+
 std::shared_ptr<PropertyGridModel> PropertyGridControl::getModel() const
 {
     auto const* const gridInterface = requireGridInterface("getModel");

@@ -27,6 +27,8 @@ public:
 
     /// Makes \p row, one of this grid, current and brings it into view.
     void showRow(PropertyGridRow& row);
+    /// The row that is current; null when none is.
+    [[nodiscard]] std::shared_ptr<PropertyGridRow> getCurrentRow() const;
 
     /// The rows; null, with a report, without a platform side.
     [[nodiscard]] std::shared_ptr<PropertyGridModel> getModel() const;

@@ -18,6 +18,8 @@ public:
     virtual void adjustLayout() = 0;
     /// Makes \p row current and brings it into view, unfolding what it stands below.
     virtual void showRow(PropertyGridRow& row) = 0;
+    /// The row that is current; null when none is.
+    [[nodiscard]] virtual std::shared_ptr<PropertyGridRow> getCurrentRow() const = 0;
 };
 
 } // namespace qev::ui
