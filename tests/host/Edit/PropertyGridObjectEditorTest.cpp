@@ -198,7 +198,7 @@ TEST_F(PropertyGridObjectEditorTest, ColoursFixedTextsAndLabelsComeFromTheEditIn
     first.edit->textColours[Id("Name")] = {255, 1, 2, 3};
     first.edit->backgroundColours[Id("Name")] = {255, 4, 5, 6};
     auto& rows = first.edit->rows.front().children;
-    rows.resize(2);
+    rows.erase(rows.begin() + 2, rows.end());
     rows[1].fixedText = "always";
     rows[1].suffix = " so";
     rows[1].labelAndDescription.emplace("How many", "Of them");
@@ -450,7 +450,8 @@ TEST_F(PropertyGridObjectEditorTest, DynamicRowsStandBelowTheRowsTheyBelongTo)
         return ToyEdit::group("Instance.Classifications",
                               {ToyEdit::leaf("Instance.Classifications.Uniclass 2.0" + suffix)});
     };
-    first.edit->rows.front().children.resize(1);
+    auto& rows = first.edit->rows.front().children;
+    rows.erase(rows.begin() + 1, rows.end());
     first.edit->rows.front().children.push_back(
         ToyEdit::group("Classifications", {ToyEdit::leaf("Classifications.Uniclass 2.0")}));
     first.edit->dynamicRows = {{"Classifications", {named("")}},
@@ -473,7 +474,8 @@ TEST_F(PropertyGridObjectEditorTest, DynamicRowsStandBelowTheRowsTheyBelongTo)
 
 TEST_F(PropertyGridObjectEditorTest, DynamicRowsWithoutAPlaceStandAtTheEndUnlessUnwanted)
 {
-    first.edit->rows.front().children.resize(1);
+    auto& rows = first.edit->rows.front().children;
+    rows.erase(rows.begin() + 1, rows.end());
     first.edit->dynamicRows = {
         {"More", {ToyEdit::group("Instance.More", {ToyEdit::leaf("Instance.More.A")})}},
         {"Other", {ToyEdit::leaf("Instance.Other")}}};

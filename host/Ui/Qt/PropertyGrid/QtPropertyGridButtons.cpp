@@ -37,6 +37,17 @@ void paintSign(QPainter& painter, QPainterPath const& sign, QRect const& area, Q
     painter.restore();
 }
 
+/// The shape of a picture in one colour: its own might be lost on the ground of a selection.
+void paintTinted(QPainter& painter, QIcon const& icon, QRect const& area, QColor const& colour)
+{
+    auto shape = icon.pixmap(area.size(), painter.device()->devicePixelRatio());
+    QPainter tint(&shape);
+    tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    tint.fillRect(QRect(QPoint(), area.size()), colour);
+    tint.end();
+    painter.drawPixmap(area, shape);
+}
+
 void paintPanel(QPainter& painter, QStyleOptionViewItem const& option, QRect const& area, bool isPressed)
 {
     auto colour = option.palette.color(QPalette::Text);
@@ -65,7 +76,10 @@ void QtPropertyGridButtons::paint(QPainter& painter, QStyleOptionViewItem const&
     auto const size = QtCellDrawing::getMetric(option, QStyle::PM_SmallIconSize);
     auto const side = std::min({size, area.width(), area.height()});
     QRect const place(area.center().x() - side / 2, area.center().y() - side / 2, side, side);
-    icon.paint(&painter, place);
+    if (option.state.testFlag(QStyle::State_Selected))
+        paintTinted(painter, icon, place, foreground);
+    else
+        icon.paint(&painter, place);
 }
 
 QString QtPropertyGridButtons::getText(PropertyGridRowButton const& button)

@@ -190,11 +190,11 @@ TEST_F(QtPropertyGridButtonsTest, TheMenuOfARowOffersItsButtons)
 
 TEST_F(QtPropertyGridButtonsTest, AButtonHasItsPictureOrElseThreeDots)
 {
-    auto const draw = [](std::string const& name) {
+    auto const draw = [](std::string const& image) {
         QImage picture(20, 20, QImage::Format_ARGB32);
         picture.fill(Qt::white);
         QPainter painter(&picture);
-        PropertyGridRowButton const drawn{{}, std::make_shared<Image>(Image{name}), {}};
+        PropertyGridRowButton const drawn{{}, std::make_shared<Image>(Image{image}), {}};
         QtPropertyGridButtons::paint(painter, {}, drawn, picture.rect(), Qt::black,
                                      QtPropertyGridButtons::Look::Flat);
         painter.end();
