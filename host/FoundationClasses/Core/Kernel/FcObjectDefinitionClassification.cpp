@@ -8,6 +8,8 @@
 #include "FoundationClasses/Resource/ExternalReference/FcClassificationReference.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace qev::fc::core::kernel {
 
@@ -18,28 +20,48 @@ using resource::externalreference::FcClassificationReference;
 using resource::externalreference::FcClassificationReferenceSelect;
 using resource::externalreference::FcClassificationSelect;
 
-std::shared_ptr<FcClassification> findOrCreateClassification(Data& data, std::string const& key)
+using classification::ClassificationInterface;
+
+/// \p text as the value of an attribute that may be left out.
+std::optional<std::string> unlessEmpty(std::string text)
+{
+    return text.empty() ? std::nullopt : std::optional(std::move(text));
+}
+
+std::shared_ptr<FcClassification> findOrCreateClassification(Data& data, ClassificationInterface const& system)
 {
     for (auto const& classification : data.entities<FcClassification>()) {
-        if (classification->Name.get() == key)
+        if (classification->Name.get() == system.getKey())
             return classification;
     }
     auto created = std::make_shared<FcClassification>();
-    created->Name = key;
+    created->Name = system.getKey();
+    created->Source = unlessEmpty(system.getSource());
+    created->Edition = unlessEmpty(system.getEdition());
     data.entityAdd(created, false);
     return created;
 }
 
-/// The reference with this code directly below \p source.
+/// The reference with this code in \p classification. A code means one thing in its whole system, and files of
+/// older versions cannot say which code stands below which: so it is looked for wherever it stands.
 std::shared_ptr<FcClassificationReference>
-findOrCreateReference(Data& data, FcClassificationReferenceSelect const& source, std::string const& code)
+findReference(Data& data, std::shared_ptr<FcClassification> const& classification, std::string const& code)
 {
     for (auto const& reference : data.entities<FcClassificationReference>()) {
-        if (reference->Identification.get() == code && reference->ReferencedSource.get() == source)
+        if (reference->Identification.get() == code &&
+            reference->getReferencedClassification() == classification)
             return reference;
     }
+    return nullptr;
+}
+
+std::shared_ptr<FcClassificationReference> createReference(Data& data, ClassificationInterface const& system,
+                                                           FcClassificationReferenceSelect const& source,
+                                                           std::string const& code)
+{
     auto created = std::make_shared<FcClassificationReference>();
     created->Identification = code;
+    created->Name = unlessEmpty(system.getTitle(code));
     created->ReferencedSource = source;
     data.entityAdd(created, false);
     return created;
@@ -79,11 +101,13 @@ FcObjectDefinition::classify(std::shared_ptr<classification::ClassificationInter
     if (!data || !system || codes.empty())
         return nullptr;
     ChangeLog::Step const step(data->changes(), "Classify");
-    auto const classification = findOrCreateClassification(*data, system->getKey());
+    auto const classification = findOrCreateClassification(*data, *system);
     FcClassificationReferenceSelect source(classification);
     std::shared_ptr<FcClassificationReference> reference;
     for (std::string const& code : codes) {
-        reference = findOrCreateReference(*data, source, code);
+        reference = findReference(*data, classification, code);
+        if (!reference)
+            reference = createReference(*data, *system, source, code);
         source = FcClassificationReferenceSelect(reference);
     }
     relate(*findOrCreateRelation(*data, *this, reference),
