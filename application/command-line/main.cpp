@@ -1,3 +1,4 @@
+#include "Classifications.h"
 #include "Commands.h"
 #include "Core/Assert/Assert.h"
 #include "Core/Locale/Locale.h"
@@ -78,6 +79,7 @@ struct CommandLine
     ImportOptions importTable;
     bool showReports = false;
     std::vector<std::filesystem::path> definitions;
+    std::vector<std::filesystem::path> classifications;
     DisplaySettings display;
     std::function<ExitCode()> run;
 
@@ -169,6 +171,9 @@ void CommandLine::addTo(CLI::App& app)
     app.add_option("--definitions", definitions,
                    "property-set definitions in the standard's XML form, a file or a folder; may be given "
                    "several times");
+    app.add_option("--classifications", classifications,
+                   "systems of classification: a table of codes (.csv), an IFC file with classifications, or a "
+                   "folder; may be given several times");
     addDisplay(app, display);
     app.require_subcommand(1);
 }
@@ -218,5 +223,7 @@ int main(int argc, char** argv)
     print(commandLine.display.apply(qev::locale::Locale()));
     if (!addAllDefinitions(commandLine.definitions))
         return static_cast<int>(ExitCode::UnreadableFile);
+    for (auto const& path : commandLine.classifications)
+        print(addClassifications(path));
     return static_cast<int>(commandLine.run());
 }

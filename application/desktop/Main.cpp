@@ -1,4 +1,5 @@
 #include "Core/Assert/Assert.h"
+#include "FilePath.h"
 #include "MainWindow.h"
 #include "Ui/Qt/QtBackend.h"
 
@@ -64,6 +65,9 @@ struct Options
     QCommandLineOption units{"units", "Show values in these units for this once: metric or imperial.",
                              "SYSTEM"};
     QCommandLineOption theme{"theme", "Look like this for this once: light or dark.", "THEME"};
+    QCommandLineOption classifications{
+        "classifications", "Offer the systems of classification in this file or folder for this once.",
+        "PATH"};
     QCommandLineOption reports{"reports", "Print reports of programming errors on the error stream."};
 };
 
@@ -87,6 +91,8 @@ bool takeOptions(QCommandLineParser const& parser, Options const& options, Progr
             return false;
         settings.theme = name == "dark" ? Theme::Dark : Theme::Light;
     }
+    if (parser.isSet(options.classifications))
+        settings.classifications = qev::application::toPath(parser.value(options.classifications));
     return true;
 }
 
@@ -132,7 +138,7 @@ int main(int argc, char** argv)
     parser.addPositionalArgument("FILE", "an IFC file to open", "[FILE]");
     Options const options;
     parser.addOptions({options.object, options.list, options.screenshot, options.language, options.units,
-                       options.theme, options.reports});
+                       options.theme, options.classifications, options.reports});
     parser.process(application);
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
     // only.

@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "ClassificationQuestion.h"
+
 #include "FilePath.h"
 #include "ListPane.h"
 #include "MessagesPanel.h"
@@ -62,6 +64,7 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     createMenus();
     keepTexts();
     setQuestions(FileQuestions::asDialogs(*this));
+    classification::ui::setClassificationDialog(std::make_shared<ClassificationQuestion>(*this));
     statusBar()->addWidget(m_note, 1);
     statusBar()->addPermanentWidget(m_fileText);
     connectSession();
@@ -71,6 +74,7 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
 
 MainWindow::~MainWindow()
 {
+    classification::ui::setClassificationDialog(nullptr);
     // The structure's selection goes with the view, and must not be heard of any more.
     m_structure->selectionModel()->disconnect(this);
     m_structureModel->setData(nullptr);

@@ -19,6 +19,7 @@ constexpr auto languageKey = "display/language";
 constexpr auto textsKey = "display/texts";
 constexpr auto themeKey = "display/theme";
 constexpr auto definitionsKey = "definitions";
+constexpr auto classificationsKey = "classifications";
 
 std::vector<std::string> toLines(QStringList const& list)
 {
@@ -72,6 +73,7 @@ ProgramSettings ProgramSettings::restore()
     result.display.texts = toPath(settings.value(textsKey).toString());
     result.theme = getTheme(settings.value(themeKey).toString());
     result.definitions = toPath(settings.value(definitionsKey).toString());
+    result.classifications = toPath(settings.value(classificationsKey).toString());
     return result;
 }
 
@@ -84,6 +86,7 @@ void ProgramSettings::store() const
     settings.setValue(textsKey, fromPath(display.texts));
     settings.setValue(themeKey, getName(theme));
     settings.setValue(definitionsKey, fromPath(definitions));
+    settings.setValue(classificationsKey, fromPath(classifications));
 }
 
 } // namespace qev::application

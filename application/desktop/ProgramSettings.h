@@ -14,6 +14,8 @@ struct ProgramSettings
     Theme theme = Theme::OfSystem;
     /// A file or folder of property-set definitions; empty for none.
     std::filesystem::path definitions;
+    /// A file or folder of systems of classification; empty for none.
+    std::filesystem::path classifications;
 
     /// Those of the last run.
     [[nodiscard]] static ProgramSettings restore();

@@ -1,6 +1,7 @@
 #include "SettingsActions.h"
 
 #include "ActionMenu.h"
+#include "Classifications.h"
 #include "Definitions.h"
 #include "LanguageName.h"
 #include "SettingsDialog.h"
@@ -62,6 +63,7 @@ void SettingsActions::apply(ProgramSettings const& settings)
     m_settings = settings;
     auto messages = settings.display.apply(getLanguageOfSystem());
     addDefinitionsOf(settings, messages);
+    addClassificationsOf(settings, messages);
     m_theme.set(settings.theme);
     translateQt();
     tellWindowsOfLanguage();
@@ -121,6 +123,15 @@ void SettingsActions::addDefinitionsOf(ProgramSettings const& settings, std::vec
         return;
     auto const result = addDefinitions(settings.definitions);
     messages.insert(messages.end(), result.messages.begin(), result.messages.end());
+}
+
+void SettingsActions::addClassificationsOf(ProgramSettings const& settings,
+                                           std::vector<std::string>& messages)
+{
+    if (settings.classifications.empty() || !m_addedClassifications.insert(settings.classifications).second)
+        return;
+    auto const problems = addClassifications(settings.classifications);
+    messages.insert(messages.end(), problems.begin(), problems.end());
 }
 
 void SettingsActions::translateQt()

@@ -44,6 +44,7 @@ private:
     void fillLanguageMenu(QMenu& menu);
     void openDialog();
     void addDefinitionsOf(ProgramSettings const& settings, std::vector<std::string>& messages);
+    void addClassificationsOf(ProgramSettings const& settings, std::vector<std::string>& messages);
     void translateQt();
 
     QWidget& m_window;
@@ -53,6 +54,7 @@ private:
     /// The texts of Qt's own dialogs, where the system has them.
     QTranslator m_textsOfQt;
     std::set<std::filesystem::path> m_addedDefinitions;
+    std::set<std::filesystem::path> m_addedClassifications;
 };
 
 } // namespace qev::application

@@ -51,6 +51,7 @@ SettingsDialog::SettingsDialog(ProgramSettings const& settings, locale::Locale c
     , m_language(new QComboBox)
     , m_theme(new QComboBox)
     , m_definitions(new FolderBox)
+    , m_classifications(new FolderBox)
     , m_texts(new FolderBox)
 {
     setWindowTitle(getText("Settings_Title"));
@@ -82,6 +83,7 @@ ProgramSettings SettingsDialog::getSettings() const
     settings.display.texts = m_texts->getFolder();
     settings.theme = static_cast<Theme>(m_theme->currentData().toInt());
     settings.definitions = m_definitions->getFolder();
+    settings.classifications = m_classifications->getFolder();
     return settings;
 }
 
@@ -121,6 +123,8 @@ QWidget* SettingsDialog::createProgramPage()
     form->addRow(getText("Settings_Theme"), m_theme);
     form->addRow(getText("Settings_Definitions"), m_definitions);
     form->addRow(createHint(getText("Settings_DefinitionsHint")));
+    form->addRow(getText("Settings_Classifications"), m_classifications);
+    form->addRow(createHint(getText("Settings_ClassificationsHint")));
     form->addRow(getText("Settings_Texts"), m_texts);
     form->addRow(createHint(getText("Settings_TextsHint")));
     return page;
@@ -141,6 +145,7 @@ void SettingsDialog::fill(ProgramSettings const& settings)
     choose(*m_language, toQString(display.language));
     choose(*m_theme, static_cast<int>(settings.theme));
     m_definitions->setFolder(settings.definitions);
+    m_classifications->setFolder(settings.classifications);
     m_texts->setFolder(display.texts);
     showSystem();
     showDecimalSign();

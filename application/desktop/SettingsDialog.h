@@ -41,6 +41,7 @@ private:
     QComboBox* m_language;
     QComboBox* m_theme;
     FolderBox* m_definitions;
+    FolderBox* m_classifications;
     FolderBox* m_texts;
 };
 

@@ -19,8 +19,8 @@ public:
     ClassificationPlugins();
     ~ClassificationPlugins() override;
 
-    /// Offers the systems of a file, or of all files in a folder that may hold one, behind those that are offered
-    /// already. A file that was read before is read again, and its systems stay at their place.
+    /// Offers the systems of a file, or of all files in a folder that may hold one, behind those that are
+    /// offered already. A file that was read before is read again, and its systems stay at their place.
     /// \returns what could not be read, a line each.
     std::vector<std::string> read(std::filesystem::path const& fileOrFolder);
 

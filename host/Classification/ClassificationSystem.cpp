@@ -8,7 +8,8 @@
 
 namespace qev::classification {
 
-ClassificationSystem::ClassificationSystem(ClassificationSystemInfo info, std::vector<ClassificationCode> codes)
+ClassificationSystem::ClassificationSystem(ClassificationSystemInfo info,
+                                           std::vector<ClassificationCode> codes)
     : m_info(std::move(info))
     , m_codes(std::move(codes))
 {

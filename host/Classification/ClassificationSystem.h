@@ -39,8 +39,8 @@ struct ClassificationSystemInfo
 class HOSTCLASSIFICATION_EXPORT ClassificationSystem final : public ClassificationInterface
 {
 public:
-    /// No two of \p codes have the same code. A code whose parent is unknown, or leads back to itself, stands at the
-    /// top.
+    /// No two of \p codes have the same code. A code whose parent is unknown, or leads back to itself, stands
+    /// at the top.
     ClassificationSystem(ClassificationSystemInfo info, std::vector<ClassificationCode> codes);
     ~ClassificationSystem() override;
 

@@ -71,7 +71,8 @@ public:
             readCode(*row);
         checkParents();
         if (m_codes.empty())
-            m_result.messages.push_back(m_fileName + ": there is no code in it; expected lines of code, title and parent");
+            m_result.messages.push_back(m_fileName +
+                                        ": there is no code in it; expected lines of code, title and parent");
         else
             m_result.systems.push_back(std::make_shared<ClassificationSystem>(m_info, std::move(m_codes)));
         return std::move(m_result);
@@ -118,7 +119,8 @@ private:
 
     static std::string cellOf(str::DelimitedRow const& row, std::optional<std::size_t> column)
     {
-        return column && *column < row.cells.size() ? std::string(trimmed(row.cells[*column])) : std::string();
+        return column && *column < row.cells.size() ? std::string(trimmed(row.cells[*column]))
+                                                    : std::string();
     }
 
     void readCode(str::DelimitedRow const& row)

@@ -9,8 +9,8 @@
 
 namespace qev::classification::ui {
 
-/// The dialog of a program without a screen: it answers with codes that it was given beforehand, and can be asked what
-/// it was shown.
+/// The dialog of a program without a screen: it answers with codes that it was given beforehand, and can be
+/// asked what it was shown.
 class HOSTCLASSIFICATION_EXPORT HeadlessClassificationDialog final : public ClassificationDialogInterface
 {
 public:

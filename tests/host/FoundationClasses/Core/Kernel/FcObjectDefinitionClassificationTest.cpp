@@ -81,6 +81,38 @@ TEST_F(Classify, TheSameCodeTwiceIsThereOnce)
     EXPECT_EQ(relation->RelatedObjects->size(), 1u);
 }
 
+TEST_F(Classify, FindsACodeWhereverItStandsInItsSystem)
+{
+    wall->classify(system, {"21.10"});
+    auto const reference = wall->getClassification(*system);
+    auto const other = model.wall("W2");
+    other->classify(system, {"21", "21.10"});
+    EXPECT_EQ(other->getClassification(*system), reference);
+    EXPECT_EQ(countOf<FcClassificationReference>(model), 2u);
+}
+
+/// A system that tells more than its name.
+class PublishedSystem final : public classification::ClassificationInterface
+{
+public:
+    [[nodiscard]] std::string getKey() const override { return "Published"; }
+    [[nodiscard]] std::string getDescription() const override { return {}; }
+    [[nodiscard]] std::string getTitle(std::string_view code) const override { return "Title of " + std::string(code); }
+    [[nodiscard]] std::string getSource() const override { return "Institute"; }
+    [[nodiscard]] std::string getEdition() const override { return "2"; }
+};
+
+TEST_F(Classify, WritesWhatTheSystemTellsOfItselfAndOfItsCodes)
+{
+    auto const classification = wall->classify(std::make_shared<PublishedSystem>(), {"21"});
+    EXPECT_EQ(classification->Source.get(), "Institute");
+    EXPECT_EQ(classification->Edition.get(), "2");
+    EXPECT_EQ(wall->getClassification(PublishedSystem())->Name.get(), "Title of 21");
+    auto const plain = wall->classify(system, {"21"});
+    EXPECT_EQ(plain->Source.get(), std::nullopt);
+    EXPECT_EQ(wall->getClassification(*system)->Name.get(), std::nullopt);
+}
+
 TEST_F(Classify, SystemsDoNotMix)
 {
     System const other("Others");
