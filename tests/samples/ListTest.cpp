@@ -38,12 +38,15 @@ using Objects = std::vector<std::shared_ptr<FcBase>>;
 /// time.
 constexpr std::size_t mostOfAClass = 40;
 
-/// A cell to be changed by way of a table.
-struct TableEdit
+using Table = std::vector<std::vector<std::string>>;
+
+/// A column of a list whose values are changed by way of a table.
+struct ColumnEdit
 {
-    std::string globalId;
     std::string column;
     std::string newText;
+    /// The objects that have a value there which can be changed.
+    std::vector<std::string> globalIds;
 };
 
 class List : public testing::TestWithParam<SampleFile>
@@ -97,7 +100,7 @@ protected:
 
     /// Expects that a table says what the model says.
     void expectNoChange(std::string const& csv);
-    void importEdit(TableEdit const& edit);
+    void importEdit(ListSession const& list, ColumnEdit const& edit);
 
     qev::ifc::OpenResult opened;
     ExpectedReports reports;
@@ -192,30 +195,41 @@ TEST_P(List, OfEachClassShowsWhatTheGridShowsForEachObjectAlone)
               << " of properties that are of another kind in the first object\n";
 }
 
-/// The first text or number of a list that can be changed. What is put in its place is made from \p number,
-/// so that edits of sets which several classes share stay apart.
-std::optional<TableEdit> findEdit(ListSession const& list, std::size_t number)
+/// The rows of a column with a text or a number that can be changed.
+std::vector<std::size_t> editableRows(ListSession const& list, ListColumn const& column)
 {
+    std::vector<std::size_t> rows;
     auto const editing = list.editing();
-    for (auto const& column : list.columns()) {
-        if (column.isCustom)
+    for (std::size_t row = 0; row < list.list().getRowCount(); ++row) {
+        ListControl::ItemInfo const item{row, column.index};
+        if (editing.getEditText(item).empty())
             continue;
-        constexpr std::size_t mostTries = 5;
-        auto const rows = std::min(mostTries, list.list().getRowCount());
-        for (std::size_t row = 0; row < rows; ++row) {
-            ListControl::ItemInfo const item{row, column.index};
-            auto const text = editing.getEditText(item);
-            if (text.empty())
-                continue;
-            auto const edit = editing.begin({item});
-            if (!edit || edit->editor.editType != ListControl::EditBox)
-                break;
-            bool const isNumber = !column.unit.empty() || qev::str::parseDouble(text);
-            auto const newText =
-                isNumber ? std::to_string(7000 + number) : "Changed, \"by\" table " + std::to_string(number);
-            auto const& object = *list.control().getObjects()[row];
-            return TableEdit{ObjectLabel::of(object).globalId, tableHeader(column), newText};
-        }
+        auto const edit = editing.begin({item});
+        if (edit && edit->editor.editType == ListControl::EditBox)
+            rows.push_back(row);
+        else if (rows.empty())
+            return {};
+    }
+    return rows;
+}
+
+/// The first column of a list that has texts or numbers to change. All of them become the same, made from
+/// \p number: rows may share a set.
+std::optional<ColumnEdit> findEdit(ListSession const& list, std::size_t number)
+{
+    for (auto const& column : list.columns()) {
+        auto const rows = column.isCustom ? std::vector<std::size_t>() : editableRows(list, column);
+        if (rows.empty())
+            continue;
+        auto const text = list.editing().getEditText({rows.front(), column.index});
+        bool const isNumber = !column.unit.empty() || qev::str::parseDouble(text);
+        ColumnEdit edit{tableHeader(column),
+                        isNumber ? std::to_string(7000 + number)
+                                 : "Changed, \"by\" table " + std::to_string(number),
+                        {}};
+        for (auto const row : rows)
+            edit.globalIds.push_back(ObjectLabel::of(*list.control().getObjects()[row]).globalId);
+        return edit;
     }
     return std::nullopt;
 }
@@ -228,28 +242,36 @@ bool isSameValue(std::string const& left, std::string const& right)
     return left == right || (a && b && std::abs(*a - *b) <= 1e-14 * std::abs(*a));
 }
 
-std::string exported(IfcFile const& file, TableEdit const& edit)
+/// The values of the edited objects.
+std::vector<std::string> exported(IfcFile const& file, ColumnEdit const& edit)
 {
+    Objects objects;
+    for (auto const& globalId : edit.globalIds)
+        objects.push_back(file.entityFromGlobalId(globalId));
     ListSession list(file.data());
-    list.show({file.entityFromGlobalId(edit.globalId)});
-    for (auto const& column : list.columns()) {
-        if (tableHeader(column) == edit.column)
-            return tableRow(*list.control().getListControl(), 0, {column}).front();
-    }
-    ADD_FAILURE() << "no column " << edit.column;
-    return {};
+    list.show(objects);
+    auto const columns = list.columns();
+    auto const column = std::find_if(columns.begin(), columns.end(), [&edit](ListColumn const& candidate) {
+        return tableHeader(candidate) == edit.column;
+    });
+    std::vector<std::string> values;
+    if (column == columns.end())
+        ADD_FAILURE() << "no column " << edit.column;
+    for (std::size_t row = 0; column != columns.end() && row < objects.size(); ++row)
+        values.push_back(tableRow(*list.control().getListControl(), row, {*column}).front());
+    return values;
 }
 
 /// The table of all rows and columns of a list.
-std::string exportedTable(ListSession const& list)
+Table exportedTable(ListSession const& list)
 {
     auto const columns = list.columns();
-    std::vector<std::vector<std::string>> rows(1);
+    Table rows(1);
     for (auto const& column : columns)
         rows.front().push_back(tableHeader(column));
     for (std::size_t row = 0; row < list.list().getRowCount(); ++row)
         rows.push_back(tableRow(*list.control().getListControl(), row, columns));
-    return qev::str::writeDelimited(rows, ',');
+    return rows;
 }
 
 void List::expectNoChange(std::string const& csv)
@@ -261,14 +283,23 @@ void List::expectNoChange(std::string const& csv)
                       << change.oldText << " is not " << change.newText;
 }
 
-void List::importEdit(TableEdit const& edit)
+void List::importEdit(ListSession const& list, ColumnEdit const& edit)
 {
-    auto const table = ListTable::fromCsv(
-        qev::str::writeDelimited({{"GlobalId", edit.column}, {edit.globalId, edit.newText}}, ';'));
+    auto rows = exportedTable(list);
+    auto const& headers = rows.front();
+    auto const column =
+        static_cast<std::size_t>(std::find(headers.begin(), headers.end(), edit.column) - headers.begin());
+    for (auto& row : rows) {
+        if (std::find(edit.globalIds.begin(), edit.globalIds.end(), row.front()) != edit.globalIds.end())
+            row[column] = edit.newText;
+    }
+    auto const table = ListTable::fromCsv(qev::str::writeDelimited(rows, ';'));
     ASSERT_TRUE(table);
     ListImport const listImport(*opened.file, *table);
-    auto const result = listImport.apply(listImport.preview());
-    EXPECT_EQ(result.changes.size(), 1u) << edit.globalId << " " << edit.column;
+    auto const preview = listImport.preview();
+    EXPECT_EQ(preview.changes.size(), edit.globalIds.size()) << edit.column;
+    auto const result = listImport.apply(preview);
+    EXPECT_EQ(result.refusals.size(), preview.refusals.size()) << edit.column;
     for (auto const& refusal : result.refusals)
         ADD_FAILURE() << refusal.globalId << " " << refusal.column << ": " << refusal.reason;
 }
@@ -277,20 +308,22 @@ TEST_P(List, GoesOutAsATableAndComesBackChanged)
 {
     ASSERT_TRUE(opened.file);
     auto const before = opened.file->toText();
-    std::vector<TableEdit> edits;
+    std::vector<ColumnEdit> edits;
+    std::size_t edited = 0;
     for (auto const& [name, objects] : objectsByClass()) {
         ListSession list(opened.file->data());
         list.show(knownByGlobalId(objects));
-        expectNoChange(exportedTable(list));
+        expectNoChange(qev::str::writeDelimited(exportedTable(list), ','));
         if (auto const edit = findEdit(list, edits.size())) {
-            importEdit(*edit);
+            importEdit(list, *edit);
             edits.push_back(*edit);
+            edited += edit->globalIds.size();
         }
         reports.take(name);
     }
     auto const after = opened.file->toText();
     auto const changes = RecordChanges::between(before, after);
-    EXPECT_LE(changes.changed.size(), edits.size());
+    EXPECT_LE(changes.changed.size(), edited);
     EXPECT_TRUE(changes.added.empty());
     EXPECT_TRUE(changes.removed.empty());
     EXPECT_TRUE(changes.isRestSame);
@@ -299,14 +332,19 @@ TEST_P(List, GoesOutAsATableAndComesBackChanged)
     ASSERT_TRUE(again.file);
     std::size_t asTyped = 0;
     for (auto const& edit : edits) {
-        auto const value = exported(*again.file, edit);
-        EXPECT_TRUE(isSameValue(value, exported(*opened.file, edit))) << edit.globalId << " " << edit.column;
-        asTyped += isSameValue(value, edit.newText) ? 1 : 0;
-        reports.take(edit.globalId);
+        auto const values = exported(*again.file, edit);
+        auto const expected = exported(*opened.file, edit);
+        ASSERT_EQ(values.size(), expected.size());
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            EXPECT_TRUE(isSameValue(values[i], expected[i])) << edit.globalIds[i] << " " << edit.column;
+            asTyped += isSameValue(values[i], edit.newText) ? 1 : 0;
+        }
+        reports.take(edit.column);
     }
     // Of several edits of a set that several classes share, the last one stands.
     EXPECT_TRUE(edits.empty() || asTyped > 0);
-    std::cout << "    " << edits.size() << " values changed by tables, " << asTyped << " of them to stay\n";
+    std::cout << "    " << edited << " values in " << edits.size() << " columns changed by tables, "
+              << asTyped << " of them to stay\n";
 }
 
 } // namespace
