@@ -155,7 +155,6 @@ std::vector<std::size_t> ListImport::findChanges(ListSession& session, Group con
 {
     std::vector<std::size_t> missing;
     auto const columns = session.columns();
-    auto const editing = session.editing();
     for (std::size_t const tableColumn : tableColumns) {
         std::string const& header = m_table.columns[tableColumn];
         ListColumn const* const column = findColumn(columns, header);
@@ -168,11 +167,30 @@ std::vector<std::size_t> ListImport::findChanges(ListSession& session, Group con
             ui::ListControl::ItemInfo const item{row, column->index};
             auto text = textForList(m_table.rows[group.rows[row]].cells[tableColumn], header, *column);
             if (!says(session, item, *column, text))
-                result.changes.push_back(
-                    {group.rows[row], tableColumn, setName, editing.getEditText(item), std::move(text)});
+                addChange(session, item, {group.rows[row], tableColumn, setName, {}, std::move(text)},
+                          result);
         }
     }
     return missing;
+}
+
+void ListImport::addChange(ListSession const& session, ui::ListControl::ItemInfo const& item,
+                           ImportChange change, ImportResult& result) const
+{
+    auto const editing = session.editing();
+    if (auto const reason = editing.findRefusal(item, change.newText)) {
+        result.refusals.push_back(refusalOf(change, *reason));
+        return;
+    }
+    change.oldText = editing.getEditText(item);
+    result.changes.push_back(std::move(change));
+}
+
+ImportRefusal ListImport::refusalOf(ImportChange const& change, ui::ListRefusalReason reason) const
+{
+    ListTable::Row const& row = m_table.rows[change.row];
+    return {row.line, row.globalId, m_table.columns[change.column], row.cells[change.column],
+            reasonText(reason)};
 }
 
 void ListImport::findChangesOfSingleObjects(ListSession& session, Group const& group,
@@ -215,9 +233,7 @@ void ListImport::write(ListSession& session, ImportResult& result) const
                 taken.push_back(*change);
                 continue;
             }
-            result.refusals.push_back({tableRow.line, tableRow.globalId, header,
-                                       tableRow.cells[change->column],
-                                       reasonText(outcome.refusals.front().reason)});
+            result.refusals.push_back(refusalOf(*change, outcome.refusals.front().reason));
         }
     }
     result.changes = std::move(taken);

@@ -53,7 +53,7 @@ public:
     /// \p file outlives the import.
     ListImport(ifc::IfcFile& file, ListTable const& table);
 
-    /// What would change. Writes nothing.
+    /// What would change, and what of the table would be refused and why. Writes nothing.
     [[nodiscard]] ImportResult preview() const;
     /// Writes the changes of \p preview, as one step that can be undone. \returns those that were taken, and
     /// all refusals.
@@ -73,9 +73,14 @@ private:
     std::vector<std::size_t> findChanges(ListSession& session, Group const& group,
                                          std::vector<std::size_t> const& tableColumns,
                                          ImportResult& result) const;
+    /// Notes a cell that says something else than the model: as a change, or as a refusal where the model
+    /// would not take it.
+    void addChange(ListSession const& session, ui::ListControl::ItemInfo const& item, ImportChange change,
+                   ImportResult& result) const;
     void findChangesOfSingleObjects(ListSession& session, Group const& group,
                                     std::vector<std::size_t> const& tableColumns, ImportResult& result) const;
     void write(ListSession& session, ImportResult& result) const;
+    [[nodiscard]] ImportRefusal refusalOf(ImportChange const& change, ui::ListRefusalReason reason) const;
     [[nodiscard]] std::vector<std::string> columnIds() const;
 
     ifc::IfcFile& m_file;

@@ -44,6 +44,28 @@ std::optional<CheckState> checkStateOf(std::string_view text)
     return std::nullopt;
 }
 
+/// Looks up \p text in the entries of \p editor. Of a drop list the empty text stands for no selection.
+std::optional<std::size_t> findEntry(ListControl::LabelEditBeginResultParams const& editor,
+                                     std::string_view text)
+{
+    auto const index = indexOf(editor.items, text);
+    bool const takesAway = !index && text.empty() && editor.editType == ListControl::DropList;
+    return takesAway ? ListControl::noSelection : index;
+}
+
+ListControl::LabelEditEndParams makeEnd(ListEdit const& edit, std::string_view text,
+                                        std::optional<std::size_t> selectedIndex)
+{
+    ListControl::LabelEditEndParams params;
+    params.accepted = true;
+    params.items = edit.items;
+    params.editType = edit.editor.editType;
+    params.text = text;
+    params.selectedIndex = selectedIndex.value_or(0);
+    params.hasSelection = selectedIndex && *selectedIndex != ListControl::noSelection;
+    return params;
+}
+
 void refuseAll(Items const& items, ListRefusalReason reason, std::string_view text, ListEditResult& result)
 {
     for (auto const& item : items)
@@ -75,15 +97,11 @@ ListEditResult ListEditing::commitText(ListEdit const& edit, std::string_view te
     ListEditResult result;
     auto const& [items, editor, openedWith] = edit;
     bool const isNewRow = items.front().item.value_or(0) >= m_list->getItemCount();
-    auto const selectedIndex = indexOf(editor.items, text);
+    auto const selectedIndex = findEntry(editor, text);
     if (text == openedWith && !isNewRow) {
         cancel(edit);
-    } else if (editor.editType != ListControl::DropList) {
+    } else if (selectedIndex || editor.editType != ListControl::DropList) {
         end(edit, text, selectedIndex, result);
-    } else if (selectedIndex) {
-        end(edit, text, selectedIndex, result);
-    } else if (text.empty()) {
-        end(edit, text, ListControl::noSelection, result);
     } else {
         cancel(edit);
         refuseAll(items, ListRefusalReason::NotAnEntry, text, result);
@@ -251,13 +269,11 @@ void ListEditing::setTextInColumn(Items const& items, std::string const& text, L
     }
     if (edit.items.empty())
         return;
-    auto selectedIndex = indexOf(edit.editor.items, text);
-    if (!selectedIndex && edit.editor.editType == ListControl::DropList) {
-        if (!text.empty())
-            return refuseAll(edit.items, ListRefusalReason::NotAnEntry, text, result);
-        selectedIndex = ListControl::noSelection;
-    }
-    end(edit, text, selectedIndex, result);
+    auto const selectedIndex = findEntry(edit.editor, text);
+    if (!selectedIndex && edit.editor.editType == ListControl::DropList)
+        refuseAll(edit.items, ListRefusalReason::NotAnEntry, text, result);
+    else
+        end(edit, text, selectedIndex, result);
 }
 
 void ListEditing::setCheckStates(Items const& items, CheckState state, ListEditResult& result) const
@@ -277,6 +293,41 @@ void ListEditing::setCheckStates(Items const& items, CheckState state, ListEditR
         else
             refuseAll({item}, ListRefusalReason::NotTaken, text, result);
     }
+}
+
+std::optional<ListRefusalReason> ListEditing::findRefusal(ItemInfo const& item, std::string const& text) const
+{
+    if (says(item, text))
+        return std::nullopt;
+    if (isCheckBoxAlone(columnOf(item)))
+        return findBoxRefusal(item, text);
+    ListEdit const edit{{item}, askEditor({item}), {}};
+    if (edit.editor.editType == ListControl::NoEdit)
+        return ListRefusalReason::NotEditable;
+    auto const selectedIndex = findEntry(edit.editor, text);
+    if (!selectedIndex && edit.editor.editType == ListControl::DropList)
+        return ListRefusalReason::NotAnEntry;
+    return wouldTake(edit, text, selectedIndex) ? std::nullopt : std::optional(ListRefusalReason::NotTaken);
+}
+
+std::optional<ListRefusalReason> ListEditing::findBoxRefusal(ItemInfo const& item,
+                                                             std::string const& text) const
+{
+    auto const state = checkStateOf(text);
+    if (!state)
+        return text.empty() ? ListRefusalReason::NotEditable : ListRefusalReason::NotAnEntry;
+    if (!getCheckState(item) || fireEvent(m_list->onIsItemReadOnly, item))
+        return ListRefusalReason::NotEditable;
+    auto const value = *state == CheckState::Checked ? checkedText : uncheckedText;
+    return wouldTake({{item}, {}, {}}, value, std::nullopt) ? std::nullopt
+                                                            : std::optional(ListRefusalReason::NotTaken);
+}
+
+bool ListEditing::wouldTake(ListEdit const& edit, std::string_view text,
+                            std::optional<std::size_t> selectedIndex) const
+{
+    return m_list->onWouldTakeLabelEdit.handlerCount() == 0 ||
+           fireEvent(m_list->onWouldTakeLabelEdit, makeEnd(edit, text, selectedIndex));
 }
 
 bool ListEditing::says(ItemInfo const& item, std::string const& text) const
@@ -318,13 +369,7 @@ std::string ListEditing::getCommonEditText(Items const& items) const
 void ListEditing::end(ListEdit const& edit, std::string_view text, std::optional<std::size_t> selectedIndex,
                       ListEditResult& result) const
 {
-    ListControl::LabelEditEndParams params;
-    params.accepted = true;
-    params.items = edit.items;
-    params.editType = edit.editor.editType;
-    params.text = text;
-    params.selectedIndex = selectedIndex.value_or(0);
-    params.hasSelection = selectedIndex && *selectedIndex != ListControl::noSelection;
+    auto params = makeEnd(edit, text, selectedIndex);
     params.refusedItems = std::make_shared<Items>();
     fireEvent(m_list->onLabelEditEnd, params);
     auto const& refused = *params.refusedItems;

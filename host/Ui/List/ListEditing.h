@@ -91,6 +91,10 @@ public:
     /// Tells if a cell has the value \p text already, as it is shown or with all its digits.
     [[nodiscard]] bool says(ListControl::ItemInfo const& item, std::string const& text) const;
 
+    /// Why a cell would not take \p text; nothing when it would, or says it already. Writes nothing.
+    [[nodiscard]] std::optional<ListRefusalReason> findRefusal(ListControl::ItemInfo const& item,
+                                                               std::string const& text) const;
+
     /// Puts \p text into each of \p items, of any columns, that can be edited. A check box alone takes
     /// "TRUE", "FALSE", "1" and "0".
     ListEditResult setText(Items const& items, std::string const& text) const;
@@ -116,6 +120,10 @@ private:
     /// Puts \p text into cells of one column.
     void setTextInColumn(Items const& items, std::string const& text, ListEditResult& result) const;
     void setCheckStates(Items const& items, CheckState state, ListEditResult& result) const;
+    [[nodiscard]] std::optional<ListRefusalReason> findBoxRefusal(ListControl::ItemInfo const& item,
+                                                                  std::string const& text) const;
+    [[nodiscard]] bool wouldTake(ListEdit const& edit, std::string_view text,
+                                 std::optional<std::size_t> selectedIndex) const;
     /// Tells if a check box alone shows an unchecked state only because the cell has no value.
     [[nodiscard]] bool isUnsetBox(ListControl::ItemInfo const& item) const;
     [[nodiscard]] bool isCheckBoxAlone(std::size_t column) const;

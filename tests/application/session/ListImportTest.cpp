@@ -2,6 +2,7 @@
 
 #include "Core/String/DelimitedText.h"
 #include "IdentityColumns.h"
+#include "ReportRecorder.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
 
 #include <gmock/gmock.h>
@@ -13,6 +14,7 @@ namespace qev::test {
 namespace {
 
 using namespace application;
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -45,6 +47,12 @@ DATA;
 #57=IFCPROPERTYSINGLEVALUE('Offset',$,IFCLENGTHMEASURE(2345.6789),$);
 #58=IFCPROPERTYSET('0000000000000000000058',$,'Own',$,(#57));
 #59=IFCRELDEFINESBYPROPERTIES('0000000000000000000059',$,$,$,(#32),#58);
+#60=IFCQUANTITYLENGTH('Length',$,$,4000.,$);
+#61=IFCELEMENTQUANTITY('0000000000000000000061',$,'Qto_WallBaseQuantities',$,$,(#60));
+#62=IFCRELDEFINESBYPROPERTIES('0000000000000000000062',$,$,$,(#32),#61);
+#63=IFCPROPERTYSINGLEVALUE('IsExternal',$,IFCLABEL('yes'),$);
+#64=IFCPROPERTYSET('0000000000000000000064',$,'Pset_DoorCommon',$,(#63));
+#65=IFCRELDEFINESBYPROPERTIES('0000000000000000000065',$,$,$,(#33),#64);
 ENDSEC;
 END-ISO-10303-21;
 )";
@@ -53,6 +61,13 @@ constexpr char north[] = "0000000000000000000030";
 constexpr char east[] = "0000000000000000000031";
 constexpr char west[] = "0000000000000000000032";
 constexpr char door[] = "0000000000000000000033";
+
+constexpr char tableWithRefusals[] =
+    "Name,GlobalId,Own.Offset,Pset_WallCommon.Status,Pset_WallCommon.IsExternal\n"
+    "Renamed,0000000000000000000032,wide,,\n"
+    "North,0000000000000000000030,,BROKEN,maybe\n"
+    "None,1111111111111111111111,,,\n"
+    "Entrance,0000000000000000000033,,NEW,\n";
 
 class ListImportTest : public testing::Test
 {
@@ -79,12 +94,26 @@ protected:
         return str::writeDelimited(rows, ',');
     }
 
+    [[nodiscard]] ImportResult preview(std::string const& text) const
+    {
+        auto const table = ListTable::fromCsv(text);
+        EXPECT_TRUE(table);
+        return ListImport(*file, *table).preview();
+    }
     [[nodiscard]] ImportResult import(std::string const& text) const
     {
         auto const table = ListTable::fromCsv(text);
         EXPECT_TRUE(table);
         ListImport const listImport(*file, *table);
         return listImport.apply(listImport.preview());
+    }
+    [[nodiscard]] static std::vector<std::string> refusalsOf(ImportResult const& result)
+    {
+        std::vector<std::string> told;
+        for (auto const& refusal : result.refusals)
+            told.push_back(std::to_string(refusal.line) + " " + refusal.column + " '" + refusal.text +
+                           "': " + refusal.reason);
+        return told;
     }
 
     std::unique_ptr<ifc::IfcFile> file = ifc::IfcFile::fromText(model).file;
@@ -212,24 +241,44 @@ TEST_F(ListImportTest, ObjectsOfDifferentClassesMayStandInOneTable)
 
 TEST_F(ListImportTest, WhatIsNotTakenIsToldWithItsLineAndColumn)
 {
-    auto const result = import("Name,GlobalId,Own.Offset,Pset_WallCommon.Status,Pset_WallCommon.IsExternal\n"
-                               "Renamed,0000000000000000000032,wide,,\n"
-                               "North,0000000000000000000030,,BROKEN,maybe\n"
-                               "None,1111111111111111111111,,,\n"
-                               "Entrance,0000000000000000000033,,NEW,\n");
-    EXPECT_THAT(result.changes, IsEmpty());
-    std::vector<std::string> told;
-    for (auto const& refusal : result.refusals)
-        told.push_back(std::to_string(refusal.line) + " " + refusal.column + " '" + refusal.text +
-                       "': " + refusal.reason);
-    EXPECT_THAT(told,
-                ElementsAre("2 Name 'Renamed': it cannot be edited here",
-                            "2 Own.Offset 'wide': it is no value for this property",
-                            "3 Pset_WallCommon.Status 'BROKEN': it is none of the values to choose from",
-                            "3 Pset_WallCommon.IsExternal 'maybe': it is none of the values to choose from",
-                            "4  '': there is no object with this GlobalId",
-                            "5 Pset_WallCommon.Status 'NEW': the object has and may have no such property"));
+    // The preview tells the same as the import.
+    for (auto const& result : {preview(tableWithRefusals), import(tableWithRefusals)}) {
+        EXPECT_THAT(result.changes, IsEmpty());
+        EXPECT_THAT(
+            refusalsOf(result),
+            ElementsAre("2 Name 'Renamed': it cannot be edited here",
+                        "2 Own.Offset 'wide': it is no value for this property",
+                        "3 Pset_WallCommon.Status 'BROKEN': it is none of the values to choose from",
+                        "3 Pset_WallCommon.IsExternal 'maybe': it is none of the values to choose from",
+                        "4  '': there is no object with this GlobalId",
+                        "5 Pset_WallCommon.Status 'NEW': the object has and may have no such property"));
+    }
     EXPECT_FALSE(file->data()->changes().canUndo());
+}
+
+TEST_F(ListImportTest, APreviewTellsOfQuantitiesThatCannotBeEdited)
+{
+    auto const table = "GlobalId,Pset_WallCommon.FireRating,Qto_WallBaseQuantities.Length\n"
+                       "0000000000000000000032,F60,5\n";
+    auto const seen = preview(table);
+    ASSERT_THAT(seen.changes, SizeIs(1));
+    EXPECT_EQ(seen.changes[0].newText, "F60");
+    EXPECT_THAT(refusalsOf(seen),
+                ElementsAre("2 Qto_WallBaseQuantities.Length '5': it cannot be edited here"));
+    auto const done = import(table);
+    EXPECT_THAT(done.changes, SizeIs(1));
+    EXPECT_EQ(refusalsOf(done), refusalsOf(seen));
+    EXPECT_THAT(file->toText(), HasSubstr("#60=IFCQUANTITYLENGTH('Length',$,$,4000.,$);"));
+}
+
+TEST_F(ListImportTest, APreviewTellsOfATruthValueThatTheModelHoldsAsAText)
+{
+    auto const table = "GlobalId,Pset_DoorCommon.IsExternal\n0000000000000000000033,TRUE\n";
+    auto const seen = preview(table);
+    EXPECT_THAT(seen.changes, IsEmpty());
+    EXPECT_THAT(refusalsOf(seen),
+                ElementsAre("2 Pset_DoorCommon.IsExternal 'TRUE': it is no value for this property"));
+    EXPECT_THAT(test::takeReportTexts(), Each("FcSimpleValue doesn't hold a boolean."));
 }
 
 TEST(ListTableTest, ATableNeedsAColumnOfGlobalIds)

@@ -179,6 +179,30 @@ TEST_F(ListEditingTest, AnEditBoxInAColumnOfComboBoxesIsADropDown)
     EXPECT_FALSE(editing.begin({{lockedRow = 1, nameColumn}}));
 }
 
+TEST_F(ListEditingTest, WhatWouldBeRefusedIsToldWithoutWriting)
+{
+    using Reason = ListRefusalReason;
+    auto const before = texts;
+    EXPECT_EQ(editing.findRefusal({0, nameColumn}, "W3"), std::nullopt);
+    EXPECT_EQ(editing.findRefusal({0, lockedColumn}, "9"), Reason::NotEditable);
+    EXPECT_EQ(editing.findRefusal({0, lockedColumn}, "1"), std::nullopt) << "It says so already.";
+    EXPECT_EQ(editing.findRefusal({0, statusColumn}, "OLD"), std::nullopt);
+    EXPECT_EQ(editing.findRefusal({0, statusColumn}, ""), std::nullopt);
+    EXPECT_EQ(editing.findRefusal({0, statusColumn}, "BROKEN"), Reason::NotAnEntry);
+    EXPECT_EQ(editing.findRefusal({1, externalColumn}, "TRUE"), std::nullopt);
+    EXPECT_EQ(editing.findRefusal({1, externalColumn}, "maybe"), Reason::NotAnEntry);
+
+    control->onWouldTakeLabelEdit.iHandlerAdd(
+        [](auto&, ListControl::LabelEditEndParams const& params) { return params.text.size() > 3; });
+    EXPECT_EQ(editing.findRefusal({0, nameColumn}, "bad"), Reason::NotTaken);
+    EXPECT_EQ(editing.findRefusal({0, nameColumn}, "good"), std::nullopt);
+    EXPECT_EQ(editing.findRefusal({1, externalColumn}, "1"), std::nullopt) << "Asked as TRUE.";
+    control->onIsItemReadOnly.iHandlerAdd([](auto&, ListControl::ItemInfo const&) { return true; });
+    EXPECT_EQ(editing.findRefusal({1, externalColumn}, "TRUE"), Reason::NotEditable);
+    EXPECT_EQ(texts, before);
+    EXPECT_TRUE(ends.empty());
+}
+
 TEST_F(ListEditingTest, CancellingTellsTheOwner)
 {
     editing.cancel(*editing.begin({{0, nameColumn}}));

@@ -1,16 +1,21 @@
 #include "UI/FoundationClasses/Controls/ListControl/ListControlEdit.h"
 
 #include "Core/Unit/QuantityPresentation.h"
+#include "FoundationClasses/Resource/Measure/FcValue.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyEnumeratedValue.h"
-#include "UI/FoundationClasses/Property/Types/FcPropertySingleValue.h"
 
+#include <exception>
 #include <string>
+#include <typeinfo>
 
 namespace qev::fc::ui {
 
 namespace {
 
 using qev::ui::ListControl;
+using resource::measure::FcSimpleValue;
+using resource::measure::FcValue;
 
 std::optional<PropertyOrQuantityValue> chosenValue(ListControl::LabelEditEndParams const& params,
                                                    FcPropertyEnumeratedValue const& property)
@@ -33,6 +38,12 @@ PropertyOrQuantityValue typedValue(std::string const& text, FcPropertySingleValu
     return PropertyOrQuantityValue::fromNumber(number == 0.0 ? 0.0 : number);
 }
 
+bool canHoldTruth(FcValue const& value)
+{
+    return value.isEmpty() || (value.discriminator() == FcValue::Simple &&
+                               value.simpleValue().type() == FcSimpleValue::Types::Boolean);
+}
+
 } // namespace
 
 std::optional<PropertyOrQuantityValue> editedValue(ListControl::LabelEditEndParams const& params,
@@ -43,6 +54,20 @@ std::optional<PropertyOrQuantityValue> editedValue(ListControl::LabelEditEndPara
     if (auto const* const single = dynamic_cast<FcPropertySingleValue const*>(&property))
         return typedValue(params.getEditBoxText(), *single);
     return std::nullopt;
+}
+
+bool wouldTakeEdit(ListControl::LabelEditEndParams const& params, PropertyInterface const& property)
+{
+    auto const* const single = dynamic_cast<FcPropertySingleValue const*>(&property);
+    if (typeid(property) == typeid(FcPropertyBooleanType))
+        return canHoldTruth(single->getFcValue());
+    // What lets exceptions pass refuses the value, as the edit itself does.
+    try {
+        auto const value = editedValue(params, property);
+        return value && (!single || single->wouldTake(*value));
+    } catch (std::exception const&) {
+        return false;
+    }
 }
 
 } // namespace qev::fc::ui

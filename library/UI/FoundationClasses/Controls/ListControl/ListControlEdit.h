@@ -17,4 +17,9 @@ class PropertyInterface;
 [[nodiscard]] std::optional<PropertyOrQuantityValue>
 editedValue(qev::ui::ListControl::LabelEditEndParams const& params, PropertyInterface const& property);
 
+/// Tells if the objects of \p property would take the value of an edit that ended like this; of a truth
+/// value, if they hold one or can get one. Nothing is written.
+[[nodiscard]] bool wouldTakeEdit(qev::ui::ListControl::LabelEditEndParams const& params,
+                                 PropertyInterface const& property);
+
 } // namespace qev::fc::ui

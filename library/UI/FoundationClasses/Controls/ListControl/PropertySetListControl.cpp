@@ -240,6 +240,7 @@ void PropertySetListControl::setupEditingEventHandlers()
     attach(list.onGetItemNumber, &Self::onGetItemNumber);
     attach(list.onIsItemReadOnly, &Self::onIsItemReadOnly);
     attach(list.onEditsBegin, &Self::onEditsBegin);
+    attach(list.onWouldTakeLabelEdit, &Self::onWouldTakeLabelEdit);
 }
 
 void PropertySetListControl::setObjectFromIndexOnFormatter(std::size_t row)
@@ -557,6 +558,14 @@ std::set<std::size_t> PropertySetListControl::writeLabelEdit(ListControl::LabelE
         rows.insert(row);
     }
     return rows;
+}
+
+bool PropertySetListControl::onWouldTakeLabelEdit(ListControl::LabelEditEndParams const& params)
+{
+    auto const* const property = m_columns.getProperty(params.getColumnIndex());
+    return property && std::all_of(params.items.begin(), params.items.end(), [&](ItemInfo const& item) {
+               return setObjectBeingEdited(rowOf(item)) && wouldTakeEdit(params, *property);
+           });
 }
 
 std::shared_ptr<void> PropertySetListControl::onEditsBegin() const

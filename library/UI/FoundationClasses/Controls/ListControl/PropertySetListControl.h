@@ -151,6 +151,7 @@ private:
     void onLabelEditEnd(ListControl::LabelEditEndParams const& params);
     [[nodiscard]] std::set<std::size_t> writeLabelEdit(ListControl::LabelEditEndParams const& params,
                                                        PropertyInterface& property);
+    [[nodiscard]] bool onWouldTakeLabelEdit(ListControl::LabelEditEndParams const& params);
     [[nodiscard]] std::shared_ptr<void> onEditsBegin() const;
     [[nodiscard]] bool onDoesItemContainLocalValue(ItemInfo const& item);
     void onResetItemsToGlobalValues(std::vector<std::size_t> const& rows, std::size_t column);

@@ -67,6 +67,23 @@ FcValue const& FcPropertySingleValue::getFcValue() const
     return agree && common ? *common : getEmptyFcValue();
 }
 
+bool FcPropertySingleValue::wouldTake(PropertyOrQuantityValue const& value) const
+{
+    if (value.isClearing())
+        return true;
+    auto const setName = getPropertySetName();
+    auto const name = getName();
+    bool isTaken = true;
+    forEachObjectDefinition(
+        getObjects(), "qev::fc::ui::FcPropertySingleValue::wouldTake",
+        "UI/FoundationClasses/Property/Types/FcPropertySingleValue", [&](FcObjectDefinition& object) {
+            auto const property = findProperty<ModelProperty>(object, setName, name);
+            auto const& present = property ? property->NominalValue.get() : getEmptyFcValue();
+            return isTaken = editedValue(value, present).has_value();
+        });
+    return isTaken;
+}
+
 std::unique_ptr<unit::QuantityPresentationBase> FcPropertySingleValue::quantityPresentation() const
 {
     auto const typeName = getPropertyTypeName();
@@ -84,7 +101,8 @@ bool FcPropertySingleValue::setNewValue(PropertyOrQuantityValue const& value, Fc
                                         FcObjectDefinition& /*object*/)
 {
     // The value is tried before anything is made: a refused edit leaves no property behind.
-    auto edited = editedValue(value, set);
+    auto const existing = findProperty<ModelProperty>(set, getName());
+    auto edited = editedValue(value, existing ? existing->NominalValue.get() : getEmptyFcValue());
     if (!edited)
         return false;
     auto const property = getSingleValueProperty(set);
@@ -137,10 +155,9 @@ FcValue FcPropertySingleValue::withType(FcValue value) const
 }
 
 std::optional<FcValue> FcPropertySingleValue::editedValue(PropertyOrQuantityValue const& value,
-                                                          FcPropertySet const& set) const
+                                                          FcValue const& present) const
 {
-    auto const property = findProperty<ModelProperty>(set, getName());
-    auto edited = withType(property ? property->NominalValue.get() : FcValue());
+    auto edited = withType(present);
     bool const isTaken = value.quantityValue ? edited.setDoubleValue(*value.quantityValue)
                                              : edited.setValueOnTypeFromString(value.getStringValue());
     if (!isTaken)

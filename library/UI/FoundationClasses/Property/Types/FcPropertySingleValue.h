@@ -33,6 +33,10 @@ public:
     /// The reference leads into the model and is good until that changes.
     [[nodiscard]] resource::measure::FcValue const& getFcValue() const override;
 
+    /// Tells if `updateValue` would take \p value in all objects. Nothing is written.
+    /// \throws what the number parsing of the standard library lets pass.
+    [[nodiscard]] bool wouldTake(PropertyOrQuantityValue const& value) const;
+
     /// How numbers of this property are written, by the override of the set, by what is registered for the
     /// property, or by its type. Null when it is shown without a unit.
     [[nodiscard]] std::unique_ptr<unit::QuantityPresentationBase> quantityPresentation() const;
@@ -57,8 +61,9 @@ private:
 
     /// \p value, with the type of the definition if it is empty.
     [[nodiscard]] resource::measure::FcValue withType(resource::measure::FcValue value) const;
+    /// What \p present, the value of an object, becomes; nothing when it does not take \p value.
     [[nodiscard]] std::optional<resource::measure::FcValue>
-    editedValue(PropertyOrQuantityValue const& value, core::kernel::FcPropertySet const& set) const;
+    editedValue(PropertyOrQuantityValue const& value, resource::measure::FcValue const& present) const;
 };
 
 } // namespace qev::fc::ui
