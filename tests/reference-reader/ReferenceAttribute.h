@@ -19,6 +19,9 @@ struct ReferenceAttribute
 
     /// The value, when the attribute is set and holds no list.
     std::optional<ReferenceValue> value;
+
+    /// Lists of numbers: from the unit of the file to the SI unit.
+    UnitScale itemScale;
 };
 
 } // namespace qev::test::reference

@@ -17,6 +17,8 @@ constexpr std::size_t relatingAt = 5;
 constexpr std::size_t setsOfTypeAt = 5;
 constexpr std::size_t propertiesAt = 4;
 constexpr std::size_t quantitiesAt = 5;
+constexpr std::size_t unitOfQuantityAt = 2;
+constexpr std::size_t unitOfMeasureAt = 1;
 
 constexpr int deepest = 50;
 
@@ -67,6 +69,24 @@ std::string measureOf(Kind quantity)
 bool isSetRelation(std::string const& keyword)
 {
     return keyword == "IFCRELDEFINESBYPROPERTIES" || keyword == "IFCRELOVERRIDESPROPERTIES";
+}
+
+/// The unit that a quantity may have of its own and that a measure with unit has; nothing for records of
+/// other classes.
+StepArgument ownUnit(StepRecord const& record)
+{
+    if (record.keyword == "IFCMEASUREWITHUNIT")
+        return record.argument(unitOfMeasureAt);
+    bool const isQuantity = !measureOf(kindOf(record.keyword)).empty();
+    return isQuantity ? record.argument(unitOfQuantityAt) : StepArgument();
+}
+
+/// `IfcLengthMeasure` of `list[1:3] of IfcLengthMeasure`.
+std::string itemType(std::string const& listType)
+{
+    constexpr std::string_view of = " of ";
+    auto const position = listType.rfind(of);
+    return position == std::string::npos ? listType : listType.substr(position + of.size());
 }
 
 std::optional<std::string> textOf(StepArgument const& argument)
@@ -180,13 +200,16 @@ std::vector<ReferenceAttribute> ReferenceReader::attributes(std::uint64_t object
     StepRecord const* const record = m_document.find(object);
     if (record == nullptr)
         return result;
+    StepArgument const unit = ownUnit(*record);
     for (AttributeTable::Attribute const& declared : m_table.attributes(record->keyword)) {
         StepArgument const& written = record->argument(result.size());
-        ReferenceAttribute attribute{declared.name, declared.type, written, std::nullopt};
+        ReferenceAttribute attribute{declared.name, declared.type, written, std::nullopt, {}};
         bool const isSet =
             written.kind != StepArgument::Kind::Unset && written.kind != StepArgument::Kind::Derived;
         if (isSet && written.kind != StepArgument::Kind::List)
-            attribute.value = readValue(written, {}, m_table.measureOf(declared.type));
+            attribute.value = readValue(written, unit, m_table.measureOf(declared.type));
+        if (written.kind == StepArgument::Kind::List)
+            attribute.itemScale = m_units.ofMeasure(m_table.measureOf(itemType(declared.type)));
         result.push_back(std::move(attribute));
     }
     return result;
@@ -282,7 +305,8 @@ ReferenceProperty ReferenceReader::readProperty(StepRecord const& record, int de
 
 void ReferenceReader::readQuantity(StepRecord const& record, ReferenceProperty& property) const
 {
-    property.values.push_back(readValue(record.argument(3), record.argument(2), measureOf(property.kind)));
+    property.values.push_back(
+        readValue(record.argument(3), record.argument(unitOfQuantityAt), measureOf(property.kind)));
 }
 
 ReferenceValue ReferenceReader::readValue(StepArgument const& written, StepArgument const& unit,

@@ -31,6 +31,13 @@ AttributeTable toySchema()
                                     "  OverallHeight ? IfcPositiveLengthMeasure\n"
                                     "  Sides : list[1:?] of IfcLabel\n"
                                     "  Alignment ? IfcBoxAlignment\n"
+                                    "entity IfcQuantityLength\n"
+                                    "  Name : IfcLabel\n"
+                                    "  Description ? IfcText\n"
+                                    "  Unit ? IfcNamedUnit\n"
+                                    "  LengthValue : IfcLengthMeasure\n"
+                                    "entity IfcPoint\n"
+                                    "  Coordinates : list[1:3] of IfcLengthMeasure\n"
                                     "entity IfcTypeObject : IfcObjectDefinition\n"
                                     "  ApplicableOccurrence ? IfcIdentifier\n"
                                     "  HasPropertySets ? set[1:?] of IfcPropertySetDefinition\n");
@@ -68,6 +75,23 @@ TEST(ReferenceReader, ObjectsAreFoundByGlobalId)
     EXPECT_EQ(reader.find("o"), std::nullopt);
     EXPECT_EQ(reader.globalId(10), "d");
     EXPECT_EQ(reader.keyword(10), "IFCDOOR");
+}
+
+TEST(ReferenceReader, AttributesOfAQuantityAreInItsOwnUnit)
+{
+    ReferenceReader const reader =
+        read("#11=IFCQUANTITYLENGTH('L',$,#4,5.);\n#12=IFCQUANTITYLENGTH('L',$,$,5.);\n");
+    EXPECT_DOUBLE_EQ(*reader.attribute(11, "LengthValue")->value->si(), 0.05);
+    EXPECT_DOUBLE_EQ(*reader.attribute(12, "LengthValue")->value->si(), 0.005);
+}
+
+TEST(ReferenceReader, ListsOfNumbersAreInTheUnitOfTheProject)
+{
+    ReferenceReader const reader = read("#11=IFCPOINT((1.,2.));\n");
+    auto const coordinates = reader.attribute(11, "Coordinates");
+    EXPECT_EQ(coordinates->value, std::nullopt);
+    EXPECT_EQ(coordinates->itemScale, (UnitScale{0.001, 0.0}));
+    EXPECT_EQ(reader.attribute(10, "Sides")->itemScale, UnitScale());
 }
 
 TEST(ReferenceReader, AttributesAreNamedByTheSchema)
