@@ -96,8 +96,9 @@ class BracketText
 public:
     void add(std::string_view item)
     {
-        if (m_text.size() > 1)
+        if (!m_isFirst)
             m_text += ", ";
+        m_isFirst = false;
         m_text += item;
     }
     [[nodiscard]] std::string close() &&
@@ -108,6 +109,7 @@ public:
 
 private:
     std::string m_text = "(";
+    bool m_isFirst = true;
 };
 
 /// As "%f" prints it, whatever the locale.

@@ -190,6 +190,7 @@ TEST_F(BaseVisits, ShowAListByItsElements)
     EXPECT_EQ(shown(listOf({LocalValue::Unset(), std::monostate(), LocalValue::LogicalNumber{1}})),
               PropertyValue("($, $, yes)"));
     EXPECT_EQ(shown(listOf({listOf({1.0, 2.0}), listOf({})})), PropertyValue("((1.000000, 2.000000), ())"));
+    EXPECT_EQ(shown(listOf({std::string(), std::string()})), PropertyValue("(, )"));
 }
 
 TEST_F(BaseVisits, ShowNothingAndReportALogicalThatIsNone)
