@@ -83,6 +83,12 @@ ExpectedText& ExpectedText::add(ReferenceValue const& value)
     return number ? add(*number) : add(wordOf(value));
 }
 
+ExpectedText& ExpectedText::add(ExpectedText const& other)
+{
+    m_pieces.insert(m_pieces.end(), other.m_pieces.begin(), other.m_pieces.end());
+    return *this;
+}
+
 bool ExpectedText::matches(std::string_view shown) const
 {
     std::string const all(shown);

@@ -19,6 +19,7 @@ public:
     ExpectedText& add(double number);
     /// A value of the file: a number in SI units, a truth value as a word, else its text.
     ExpectedText& add(reference::ReferenceValue const& value);
+    ExpectedText& add(ExpectedText const& other);
 
     /// Compares a text piece by piece. A number may be rounded to six decimals.
     [[nodiscard]] bool matches(std::string_view shown) const;
