@@ -68,7 +68,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <stdexcept>
+#include <type_traits>
 
 namespace {
 
@@ -129,6 +131,35 @@ using fc::shared::sharedbldgelements::FcWall;
 using fc::shared::sharedbldgserviceelements::FcDistributionPort;
 using object::PropertyId;
 using object::PropertyValue;
+
+// --- Which visits there are -------------------------------------------------------------------------
+
+/// The class that declares the visit of an entity of class \p T: the visitor itself, or the base of all
+/// visitors, whose visits pass on.
+template <class T, class Declaring>
+Declaring* declaring(bool (Declaring::*)(T));
+template <class T, class Declaring>
+Declaring* declaring(void (Declaring::*)(T));
+
+template <class Visitor, class T>
+constexpr bool hasOwnVisit = std::is_same_v<decltype(declaring<T>(&Visitor::visit)), Visitor*>;
+
+/// In the order of the columns.
+template <class T>
+constexpr bool ownVisits[] = {hasOwnVisit<GetProperties, T const&>,
+                              hasOwnVisit<GetValue, T const&>,
+                              hasOwnVisit<SetValue, T&>,
+                              hasOwnVisit<GetPropertyName, T const&>,
+                              hasOwnVisit<GetPropertyDescription, T const&>,
+                              hasOwnVisit<HasEnumeratedValues, T const&>,
+                              hasOwnVisit<GetEnumeratedValues, T const&>,
+                              hasOwnVisit<IsValueAllowed, T const&>,
+                              hasOwnVisit<GetReference, T const&>,
+                              hasOwnVisit<HasQuantityPresentation, T const&>,
+                              hasOwnVisit<CreateQuantityPresentation, T const&>,
+                              hasOwnVisit<GetListIndexPrefix, T const&>};
+
+// --- What they do -----------------------------------------------------------------------------------
 
 /// Ids that some class or other answers to.
 char const* const ids[] = {"FcBaseGroupProperty",
@@ -205,13 +236,27 @@ std::vector<Outcome> outcomes(T& entity, PropertyId const& id)
             Outcome{prefix.visit(constEntity), prefix.prefix.empty()}};
 }
 
-/// \p cells has one letter for each visitor: "o" for a visit of the class's own, which other tests tell of,
-/// "s" for a stop, "." for a visit that passes on to the base class.
+/// What stands in the entities, so that they have something to answer with.
+template <class T>
+std::shared_ptr<T> makeEntity()
+{
+    auto entity = std::make_shared<T>();
+    if constexpr (std::is_base_of_v<FcPropertySetDefinition, T>)
+        entity->Name = "Name";
+    return entity;
+}
+
+/// \p cells has one letter for each visitor: "o" for a visit of the class's own, "s" for one that does
+/// nothing but stop, whatever it is asked, "." for none, so that the base class answers. What a visit of its
+/// own answers is told by the tests of the classes.
 template <class T, class Concrete = T>
 void check(std::string const& name, std::string const& cells)
 {
+    ASSERT_EQ(cells.size(), std::size(ownVisits<T>)) << name;
+    for (std::size_t column = 0; column < cells.size(); ++column)
+        EXPECT_EQ(ownVisits<T>[column], cells[column] != '.') << name << ", column " << column;
     for (auto const* id : ids) {
-        auto const entity = std::make_shared<Concrete>();
+        auto const entity = makeEntity<Concrete>();
         auto const found = outcomes<T>(*entity, PropertyId(id));
         ASSERT_EQ(found.size(), cells.size());
         for (std::size_t column = 0; column < cells.size(); ++column) {
@@ -277,6 +322,22 @@ TEST(Dispatch, PassesOnOrStopsAtEachClassAsTheTableSays)
     check<FcSpatialElement, FcSpace>("FcSpatialElement", "oo.oo.......");
     check<FcTelecomAddress>("FcTelecomAddress", ".oooo.......");
     check<FcTypeObject>("FcTypeObject", "o..oo.......");
+}
+
+TEST(Dispatch, EndsAtTheBaseOfAllClasses)
+{
+    for (bool const isOwn : ownVisits<fc::FcBase>)
+        EXPECT_TRUE(isOwn);
+}
+
+TEST(Dispatch, PassesOnAtClassesThatTheTableDoesNotName)
+{
+    check<FcWall>("FcWall", "............");
+    check<FcSpace>("FcSpace", "............");
+    check<FcProject>("FcProject", "............");
+    check<FcLibraryReference>("FcLibraryReference", "............");
+    check<FcMaterialProperties>("FcMaterialProperties", "............");
+    check<FcMapConversion>("FcMapConversion", "............");
 }
 
 } // namespace
