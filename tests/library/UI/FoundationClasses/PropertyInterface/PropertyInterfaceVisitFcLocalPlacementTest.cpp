@@ -5,6 +5,8 @@
 #include "FoundationClasses/Core/ProductExtension/FcBuilding.h"
 #include "FoundationClasses/Core/ProductExtension/FcBuildingStorey.h"
 #include "FoundationClasses/Core/ProductExtension/FcSite.h"
+#include "FoundationClasses/Resource/GeometricConstraint/FcLinearPlacement.h"
+#include "FoundationClasses/Resource/Geometry/FcAxis2Placement3D.h"
 #include "FoundationClasses/Resource/Geometry/FcCartesianPoint.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "kit/ModelBuilder.h"
@@ -23,6 +25,7 @@ using namespace qev;
 using namespace qev::test;
 using namespace fc::resource::geometry;
 using namespace fc::ui::propertyinterface;
+using fc::resource::geometricconstraint::FcLinearPlacement;
 using fc::resource::geometricconstraint::FcLocalPlacement;
 using fc::resource::geometricconstraint::FcObjectPlacement;
 using math::Matrix;
@@ -209,6 +212,35 @@ TEST_F(GeometryRows, TellAPlacementAbsolutelyWhereNoStructureIsFound)
     auto const outer = place(Matrix::createTranslation({5, 0, 0}));
     model.wall("W1")->ObjectPlacement = outer;
     expectCoordinates(*place(Matrix::createTranslation({1, 2, 3}), outer), 6, 2, 3);
+}
+
+TEST_F(GeometryRows, LookForTheStructureThroughLocalPlacementsOnly)
+{
+    auto const storeyPlacement = place(Matrix::createTranslation({100, 0, 0}));
+    model.storey("Storey")->ObjectPlacement = storeyPlacement;
+    auto const along = std::make_shared<FcLinearPlacement>();
+    along->PlacementRelTo = storeyPlacement;
+    model.data()->entityAdd(along, false);
+    auto const placement = place(Matrix::createTranslation({1, 2, 3}), along);
+    expectCoordinates(*placement, 101, 2, 3);
+
+    // What such a placement places itself is looked at.
+    model.site("Site")->ObjectPlacement = along;
+    expectCoordinates(*placement, 1, 2, 3);
+}
+
+TEST_F(GeometryRows, LeaveOutStructuresThatAreGone)
+{
+    auto const sitePlacement = place(Matrix::createTranslation({100, 0, 0}));
+    model.site("Site")->ObjectPlacement = sitePlacement;
+    auto const storeyPlacement = place(Matrix::createTranslation({0, 10, 0}), sitePlacement);
+    auto const storey = model.storey("Storey");
+    storey->ObjectPlacement = storeyPlacement;
+    auto const placement = place(Matrix::createTranslation({1, 2, 3}), storeyPlacement);
+    expectCoordinates(*placement, 1, 2, 3);
+
+    model.data()->entityDelete(storey);
+    expectCoordinates(*placement, 1, 12, 3);
 }
 
 TEST_F(GeometryRows, EndWherePlacementsGoInACircle)
