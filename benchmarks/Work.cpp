@@ -8,6 +8,7 @@
 #include "StopWatch.h"
 
 #if defined(QEV_HAS_GRID)
+#include "EntityTrees.h"
 #include "ObjectViewing.h"
 #include "Selection.h"
 #endif
@@ -28,12 +29,15 @@ namespace qev::benchmarks {
 
 namespace {
 
-constexpr std::array<std::pair<Work, std::string_view>, 10> names = {{{Work::Floor, "floor"},
+constexpr std::array<std::pair<Work, std::string_view>, 13> names = {{{Work::Floor, "floor"},
                                                                       {Work::Copy, "copy"},
                                                                       {Work::Open, "open"},
                                                                       {Work::Read, "read"},
                                                                       {Work::Save, "save"},
                                                                       {Work::Look, "look"},
+                                                                      {Work::Tree, "tree"},
+                                                                      {Work::TreeAgain, "tree-again"},
+                                                                      {Work::Trees, "trees"},
                                                                       {Work::First, "first"},
                                                                       {Work::Next, "next"},
                                                                       {Work::Common, "common"},
@@ -120,40 +124,49 @@ bool changeAndSave(ifc::IfcFile& file, std::filesystem::path const& target)
     return result.saved();
 }
 
-std::optional<Measurement> look([[maybe_unused]] std::filesystem::path const& path)
+/// Memory: how much more than before.
+Measurement withMemory(std::function<void()> const& work)
+{
+    std::uint64_t const before = platform::residentBytes();
+    StopWatch const watch;
+    work();
+    Measurement measurement = watch.read();
+    measurement.bytes = platform::residentBytes() - std::min(before, platform::residentBytes());
+    return measurement;
+}
+
+/// Works with objects of a file that is open already, as the library shows them.
+std::optional<Measurement> show([[maybe_unused]] Work work,
+                                [[maybe_unused]] std::filesystem::path const& path)
 {
 #if defined(QEV_HAS_GRID)
+    constexpr std::size_t changes = 200;
     constexpr std::size_t objectCount = 1'000;
     auto const file = openFile(path);
     if (!file)
         return std::nullopt;
-    std::uint64_t const before = platform::residentBytes();
-    StopWatch const watch;
-    viewObjects(file->data(), objectCount);
-    Measurement measurement = watch.read();
-    measurement.bytes = platform::residentBytes() - std::min(before, platform::residentBytes());
-    return measurement;
-#else
-    return failure("this build has no property grid");
-#endif
-}
-
-/// Works with objects of a file that is open already.
-std::optional<Measurement> select([[maybe_unused]] Work work,
-                                  [[maybe_unused]] std::filesystem::path const& path)
-{
-#if defined(QEV_HAS_GRID)
-    constexpr std::size_t changes = 200;
-    auto const file = openFile(path);
-    if (!file)
-        return std::nullopt;
-    if (work == Work::First)
+    switch (work) {
+    case Work::Look:
+        return withMemory([&file] { viewObjects(file->data(), objectCount); });
+    case Work::Tree:
+        return readTreeOfElement(file->data());
+    case Work::TreeAgain:
+        return readTreeOfElementAgain(file->data());
+    case Work::Trees:
+        return withMemory([&file] { readAllTrees(file->data()); });
+    case Work::First:
         return firstSelection(file->data());
-    if (work == Work::Next)
+    case Work::Next:
         return slowestChangeOfSelection(file->data(), changes);
-    return work == Work::Common ? commonSetsOfAll(file->data()) : changeAll(file->data());
+    case Work::Common:
+        return commonSetsOfAll(file->data());
+    case Work::Change:
+        return changeAll(file->data());
+    default:
+        return std::nullopt;
+    }
 #else
-    return failure("this build has no property grid");
+    return failure("this build shows no properties");
 #endif
 }
 
@@ -191,12 +204,14 @@ std::optional<Measurement> doWork(Work work, std::filesystem::path const& file,
         return withOpenFile(
             file, [&scratchFile](ifc::IfcFile& opened) { return changeAndSave(opened, scratchFile); });
     case Work::Look:
-        return look(file);
+    case Work::Tree:
+    case Work::TreeAgain:
+    case Work::Trees:
     case Work::First:
     case Work::Next:
     case Work::Common:
     case Work::Change:
-        return select(work, file);
+        return show(work, file);
     }
     return std::nullopt;
 }
