@@ -1,7 +1,7 @@
 #include "MainWindow.h"
 
 #include "ClassificationQuestion.h"
-
+#include "EntityEditPane.h"
 #include "FilePath.h"
 #include "ListPane.h"
 #include "MessagesPanel.h"
@@ -46,6 +46,7 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     , m_search(new SearchPanel(*m_structure))
     , m_properties(new PropertyPane(m_backend, m_session))
     , m_list(new ListPane(m_backend, m_session))
+    , m_editor(new EntityEditPane(m_backend, m_session))
     , m_views(new QTabWidget)
     , m_messages(new MessagesPanel)
     , m_structureDock(new QDockWidget(this))
@@ -153,12 +154,21 @@ void MainWindow::showList(bool shown)
     m_views->setCurrentWidget(shown ? static_cast<QWidget*>(m_list) : m_properties);
 }
 
+void MainWindow::showEditor() { m_views->setCurrentWidget(m_editor); }
+
 void MainWindow::createViews()
 {
     m_views->setDocumentMode(true);
     m_views->addTab(m_properties, QString());
+    m_views->addTab(m_editor, QString());
     m_views->addTab(m_list, QString());
     setCentralWidget(m_views);
+    connect(m_views, &QTabWidget::currentChanged, this, [this] {
+        // An edit in another view may have changed what stands here.
+        if (m_views->currentWidget() == m_properties)
+            m_properties->showSelection();
+    });
+    m_editor->onGoTo.iHandlerAdd([this](std::string const& globalId) { selectObject(toQString(globalId)); });
     m_properties->onCurrentRowChanged.iHandlerAdd([this] { updateNote(); });
     m_list->onActivated.iHandlerAdd([this](fc::EntityIndex object) {
         select(object);
@@ -213,6 +223,7 @@ void MainWindow::createMenus()
 void MainWindow::keepTexts()
 {
     m_texts.keep([this] { m_views->setTabText(m_views->indexOf(m_properties), getText("View_Properties")); });
+    m_texts.keep([this] { m_views->setTabText(m_views->indexOf(m_editor), getText("View_Editor")); });
     m_texts.keep([this] { m_views->setTabText(m_views->indexOf(m_list), getText("View_List")); });
     m_texts.keep([this] { m_structureDock->setWindowTitle(getText("Panel_Structure")); });
     m_texts.keep([this] { m_messagesDock->setWindowTitle(getText("Panel_Messages")); });
@@ -234,10 +245,12 @@ void MainWindow::connectSession()
     });
     m_settingsActions.onChanging.iHandlerAdd([this] {
         m_properties->leaveFile();
+        m_editor->leaveFile();
         m_list->leaveFile();
     });
     m_settingsActions.onChanged.iHandlerAdd([this] {
         m_properties->showFile();
+        m_editor->showFile();
         m_list->showFile();
         listSelection();
         m_list->setSearchHits(m_search->getObjects());
@@ -255,6 +268,7 @@ void MainWindow::leaveFile()
     m_structureModel->setData(nullptr);
     m_search->setData(nullptr);
     m_properties->leaveFile();
+    m_editor->leaveFile();
     m_list->leaveFile();
 }
 
@@ -264,6 +278,7 @@ void MainWindow::showFile()
     m_structureModel->setData(model);
     m_search->setData(model);
     m_properties->showFile();
+    m_editor->showFile();
     m_list->showFile();
     m_structure->expandToDepth(2);
     m_structure->setFocus();
@@ -288,8 +303,12 @@ void MainWindow::select(fc::EntityIndex object)
         m_properties->showSelection();
     }
     auto const place = m_structureModel->findObject(object);
+    if (!place.isValid())
+        m_editor->setObjects({object});
     if (place.isValid() && StructureModel::getObject(m_structure->currentIndex()) != object) {
-        m_structure->setCurrentIndex(place);
+        // Whatever keys are held down: what was gone to is selected alone.
+        m_structure->selectionModel()->setCurrentIndex(place, QItemSelectionModel::ClearAndSelect |
+                                                                  QItemSelectionModel::Rows);
         m_structure->scrollTo(place);
     }
     updateNote();
@@ -301,6 +320,7 @@ void MainWindow::listSelection()
     std::vector<fc::EntityIndex> objects;
     for (auto const& place : m_structure->selectionModel()->selectedRows())
         objects.push_back(StructureModel::getObject(place));
+    m_editor->setObjects(objects);
     m_list->setSelection(std::move(objects));
 }
 
@@ -308,6 +328,7 @@ void MainWindow::onModelChanged(std::vector<fc::EntityIndex> const& touched)
 {
     m_structureModel->refresh(touched);
     m_list->showValues();
+    m_editor->refresh();
     updateActions();
     updateTitle();
     updateNote();

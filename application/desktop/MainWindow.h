@@ -21,6 +21,7 @@ class QtBackend;
 
 namespace qev::application {
 
+class EntityEditPane;
 class ListPane;
 class MessagesPanel;
 class PropertyPane;
@@ -51,6 +52,9 @@ public:
     [[nodiscard]] InspectorSession& getSession() { return m_session; }
     [[nodiscard]] PropertyPane& getProperties() const { return *m_properties; }
     [[nodiscard]] ListPane& getList() const { return *m_list; }
+    [[nodiscard]] EntityEditPane& getEditor() const { return *m_editor; }
+    /// Brings the object editor to the front.
+    void showEditor();
     /// Brings the list to the front, or the properties of one object.
     void showList(bool shown);
     [[nodiscard]] SearchPanel& getSearch() const { return *m_search; }
@@ -93,6 +97,7 @@ private:
     SearchPanel* m_search;
     PropertyPane* m_properties;
     ListPane* m_list;
+    EntityEditPane* m_editor;
     QTabWidget* m_views;
     MessagesPanel* m_messages;
     QDockWidget* m_structureDock;
