@@ -59,6 +59,7 @@ struct Options
 {
     QCommandLineOption object{"object", "Select the object with this GlobalId.", "GUID"};
     QCommandLineOption list{"list", "Show the list of objects."};
+    QCommandLineOption editor{"editor", "Show the object editor."};
     QCommandLineOption screenshot{"screenshot", "Write a picture of the window to FILE.png and quit.",
                                   "FILE.png"};
     QCommandLineOption language{"language", "Use this language (en, de, fr) for this once.", "CODE"};
@@ -115,6 +116,8 @@ int takePicture(MainWindow& window, QCommandLineParser const& parser, Options co
     if (!object.isEmpty() && !window.selectObject(object))
         return fail(noSuchObject, "there is no object with the GlobalId " + object);
     window.showList(parser.isSet(options.list));
+    if (parser.isSet(options.editor))
+        window.showEditor();
     window.show();
     QCoreApplication::processEvents();
     if (!window.grab().save(picture))
@@ -137,8 +140,8 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     parser.addPositionalArgument("FILE", "an IFC file to open", "[FILE]");
     Options const options;
-    parser.addOptions({options.object, options.list, options.screenshot, options.language, options.units,
-                       options.theme, options.classifications, options.reports});
+    parser.addOptions({options.object, options.list, options.editor, options.screenshot, options.language,
+                       options.units, options.theme, options.classifications, options.reports});
     parser.process(application);
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
     // only.
@@ -158,6 +161,8 @@ int main(int argc, char** argv)
     window.restoreWindow();
     if (parser.isSet(options.list))
         window.showList(true);
+    if (parser.isSet(options.editor))
+        window.showEditor();
     window.show();
     if (!file.isEmpty() && window.getFileActions().open(file) && parser.isSet(options.object) &&
         !window.selectObject(parser.value(options.object)))

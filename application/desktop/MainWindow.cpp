@@ -104,6 +104,8 @@ void MainWindow::restoreWindow()
     restoreState(settings.value("window/state").toByteArray());
     m_properties->setGridLayout(settings.value("window/grid").toByteArray());
     showList(settings.value("window/list").toBool());
+    if (settings.value("window/editor").toBool())
+        showEditor();
     m_viewActions.restore();
 }
 
@@ -114,6 +116,7 @@ void MainWindow::storeWindow() const
     settings.setValue("window/state", saveState());
     settings.setValue("window/grid", m_properties->getGridLayout());
     settings.setValue("window/list", m_views->currentWidget() == m_list);
+    settings.setValue("window/editor", m_views->currentWidget() == m_editor);
     m_viewActions.store();
 }
 

@@ -3,6 +3,7 @@
 #include "Core/Id/Guid.h"
 #include "InspectorWindow.h"
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
+#include "Ui/Qt/ListControl/QtListControl.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
 
 #include <QLineEdit>
@@ -120,6 +121,43 @@ TEST_F(EntityEditPaneTest, AButtonChangesTheModelAndUndoBringsItBack)
     EXPECT_EQ(editorRow("PropertySets.Pset_DoorCommon"), nullptr);
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text("PropertySets.Pset_DoorCommon.FireRating"), "T30");
+}
+
+TEST_F(EntityEditPaneTest, AddingASetAsksInTwoPopupsAndShowsIt)
+{
+    window->selectObject(entrance);
+    clickButton("PropertySets", 0);
+    // The second popup is open before the first one goes.
+    auto const pick = [](QString const& text) {
+        for (auto* const widget : QApplication::topLevelWidgets()) {
+            auto* const popup = dynamic_cast<ui::QtListControl*>(widget);
+            auto const place =
+                popup && popup->isVisible()
+                    ? popup->getView().model()->match(popup->getView().model()->index(0, 0), Qt::DisplayRole,
+                                                      text, 1, Qt::MatchExactly)
+                    : QModelIndexList();
+            if (place.isEmpty())
+                continue;
+            popup->getView().setCurrentIndex(place.front());
+            QTest::keyClick(&popup->getView(), Qt::Key_Return);
+            settle();
+            return true;
+        }
+        return false;
+    };
+    ASSERT_TRUE(pick("Pset_ManufacturerTypeInformation"));
+    ASSERT_TRUE(pick("Manufacturer"));
+    EXPECT_NE(editorRow("PropertySets.Pset_ManufacturerTypeInformation.Manufacturer"), nullptr);
+    EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(EntityEditPaneTest, TheEditorIsInFrontAgainInTheNextRun)
+{
+    window->storeWindow();
+    application::MainWindow next(backend);
+    next.restoreWindow();
+    next.show();
+    EXPECT_TRUE(next.getEditor().isVisible());
 }
 
 TEST_F(EntityEditPaneTest, AnObjectThatALinkLeadsToIsSelected)
