@@ -123,6 +123,18 @@ QMessageBox::Icon toQtIcon(MessageBox::Icon icon)
     return QMessageBox::NoIcon;
 }
 
+/// The window that a message is to stand over: one that goes with its focus would take the message along.
+QWidget* findMessageParent()
+{
+    auto* parent = QApplication::activeWindow();
+    while (auto const* const list = dynamic_cast<QtListControl*>(parent)) {
+        if (!list->isPopup())
+            break;
+        parent = list->parentWidget() ? list->parentWidget()->window() : nullptr;
+    }
+    return parent;
+}
+
 void fireFocus(WindowHandle const& handle, bool hasFocus)
 {
     auto const window = details::WindowInterfaceFactory::pWindowFromHandle_(handle);
@@ -253,7 +265,7 @@ bool QtBackend::isDescendant(WindowHandle const& window, WindowHandle const& anc
 void QtBackend::showMessage(MessageBox::Message message)
 {
     auto* const box = new QMessageBox(toQtIcon(message.icon), toQString(message.title),
-                                      toQString(message.text), QMessageBox::Ok, QApplication::activeWindow());
+                                      toQString(message.text), QMessageBox::Ok, findMessageParent());
     box->setAttribute(Qt::WA_DeleteOnClose);
     if (message.onClosed)
         QObject::connect(box, &QDialog::finished, box, [onClosed = message.onClosed] { onClosed(); });

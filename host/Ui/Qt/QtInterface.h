@@ -86,8 +86,10 @@ public:
     {
         if (!m_widget || !m_widget->screen())
             return {};
-        auto const screen = m_widget->screen()->availableGeometry();
         QRect const window(m_widget->mapToGlobal(QPoint(0, 0)), m_widget->size());
+        // A window that was not shown yet does not know on which screen it will stand.
+        auto const* const screenThere = QGuiApplication::screenAt(window.topLeft());
+        auto const screen = (screenThere ? screenThere : m_widget->screen())->availableGeometry();
         return {getOffsetInto(window.left(), window.width(), screen.left(), screen.width()),
                 getOffsetInto(window.top(), window.height(), screen.top(), screen.height())};
     }

@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSizeGrip>
 #include <QToolButton>
@@ -28,6 +29,8 @@ constexpr std::size_t portionRows = 200;
 constexpr std::size_t portionCells = 2000;
 constexpr std::size_t mostRefusalsInNotice = 5;
 constexpr std::size_t mostRefusalsInDetails = 50;
+/// A popup of more rows than this has a filter from the start; in others it comes with the first letter.
+constexpr std::size_t mostRowsWithoutFilter = 12;
 
 QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
@@ -96,6 +99,8 @@ void QtListControl::setItemAndColumnCounts(std::size_t rows, std::size_t columns
     m_view->arrangeColumns();
     if (!titles.empty())
         takeOrderAlong(titles);
+    if (isPopup())
+        arrangePopup();
     startWork();
 }
 
@@ -114,6 +119,9 @@ void QtListControl::setReadOnly(bool readOnly)
 
 ListControlSettings QtListControl::getSettings() const
 {
+    // Popups share what is kept of them, and each has other columns.
+    if (isPopup())
+        return {};
     auto settings = m_cells->getColumns().getSettings();
     settings.sorting = m_sortingForLater.value_or(m_cells->getOrder().getSorting());
     return settings;
@@ -217,6 +225,10 @@ QtListHeaderPanel& QtListControl::openHeaderPanel(int column, QPoint const& posi
 
 void QtListControl::keyPressEvent(QKeyEvent* event)
 {
+    if (isPopup() && handleKeyOfPopup(*event)) {
+        event->accept();
+        return;
+    }
     if (event->key() != Qt::Key_Escape) {
         QWidget::keyPressEvent(event);
         return;
@@ -225,10 +237,8 @@ void QtListControl::keyPressEvent(QKeyEvent* event)
         m_findBar->hide();
         m_finder.reset();
         m_view->setFocus();
-    } else if (auto* const owner = parentWidget(); owner && isPopup()) {
-        // A popup goes when it loses the focus.
-        owner->activateWindow();
-        owner->setFocus();
+    } else if (isPopup()) {
+        leavePopup();
     } else {
         QWidget::keyPressEvent(event);
     }
@@ -239,6 +249,23 @@ void QtListControl::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         setTexts();
+}
+
+void QtListControl::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!isPopup())
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void QtListControl::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (isPopup())
+        stretchLastColumn();
 }
 
 void QtListControl::setTexts()
@@ -289,10 +316,130 @@ void QtListControl::createLayout()
         return;
     m_filterBox->hide();
     m_counts->hide();
-    m_view->getHeader().setVisible(isUsingReportStyle() && (m_style & ListControl::PopupReportStyle) != 0);
-    m_view->getHeader().setStretchLastSection(true);
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    auto& header = m_view->getHeader();
+    header.setSectionsClickable(false);
+    header.setSectionsMovable(false);
+    header.setContextMenuPolicy(Qt::NoContextMenu);
+    connect(&header, &QHeaderView::sectionResized, this, [this](int column) {
+        auto const columns = m_view->getHeader().getShownColumns();
+        if (!columns.empty() && column != columns.back())
+            stretchLastColumn();
+    });
+    // Once the scroll bar has come or gone.
+    connect(
+        m_view->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] { stretchLastColumn(); },
+        Qt::QueuedConnection);
     layout->addWidget(new QSizeGrip(this), 0, Qt::AlignRight);
     layout->setSpacing(0);
+    layout->setContentsMargins(1, 1, 1, 1);
+}
+
+void QtListControl::arrangePopup()
+{
+    updateBehaviour();
+    auto const& titles = m_cells->getColumns().getTitles();
+    bool const hasTitles =
+        std::any_of(titles.begin(), titles.end(), [](std::string const& title) { return !title.empty(); });
+    m_view->getHeader().setVisible(hasTitles && (m_style & ListControl::PopupReportStyle) != 0);
+    m_filterBox->setVisible(m_view->getBehaviour().isMenuOfRows &&
+                            m_cells->getOrder().getRowCount() > mostRowsWithoutFilter);
+    // An editor that is opened now is to find the rows at their places.
+    finishOrder();
+    if (isVisible())
+        fitPopupColumns();
+}
+
+void QtListControl::openPopup()
+{
+    auto* const focused = QApplication::focusWidget();
+    if (focused && !isAncestorOf(focused))
+        m_focusBefore = focused;
+    fitPopupColumns();
+    activateWindow();
+    if (!m_view->isEditing()) {
+        m_view->setFocus();
+        makeFirstRowCurrent();
+    }
+}
+
+void QtListControl::fitPopupColumns()
+{
+    auto& header = m_view->getHeader();
+    // A menu is easier to read without a column that says nothing.
+    for (int column = 1; column < header.count() && m_view->getBehaviour().isMenuOfRows; ++column)
+        header.setSectionHidden(column, !hasTexts(column));
+    auto const columns = header.getShownColumns();
+    auto const most = 2 * m_view->viewport()->width() / 3;
+    for (std::size_t place = 0; place + 1 < columns.size(); ++place) {
+        m_view->fitColumn(columns[place]);
+        if (header.sectionSize(columns[place]) > most)
+            header.resizeSection(columns[place], most);
+    }
+    stretchLastColumn();
+}
+
+void QtListControl::stretchLastColumn()
+{
+    // A header that is not shown does not stretch a column by itself.
+    auto& header = m_view->getHeader();
+    auto const columns = header.getShownColumns();
+    if (columns.empty())
+        return;
+    auto const others = header.length() - header.sectionSize(columns.back());
+    header.resizeSection(columns.back(),
+                         std::max(header.minimumSectionSize(), m_view->viewport()->width() - others));
+}
+
+bool QtListControl::hasTexts(int column) const
+{
+    for (std::size_t row = 0; row < m_cells->getOrder().getRowCount(); ++row)
+        if (!m_cells->getPlainText(row, static_cast<std::size_t>(column)).empty())
+            return true;
+    return false;
+}
+
+void QtListControl::makeFirstRowCurrent()
+{
+    auto const columns = m_view->getHeader().getShownColumns();
+    if (!m_view->currentIndex().isValid() && !columns.empty())
+        m_view->setCurrentIndex(m_cells->index(0, columns.front()));
+}
+
+bool QtListControl::handleKeyOfPopup(QKeyEvent const& event)
+{
+    if (!m_filterBox->hasFocus())
+        return false;
+    if (event.key() == Qt::Key_Escape && !m_filterBox->text().isEmpty()) {
+        m_filterBox->clear();
+        m_view->setFocus();
+        return true;
+    }
+    bool const isMove = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up ||
+                        event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp;
+    if (!isMove)
+        return false;
+    finishOrder();
+    m_view->setFocus();
+    makeFirstRowCurrent();
+    return true;
+}
+
+void QtListControl::leavePopup()
+{
+    // A popup goes when it loses the focus.
+    auto* const target = m_focusBefore ? m_focusBefore.data() : parentWidget();
+    if (!target)
+        return;
+    target->activateWindow();
+    target->setFocus();
+}
+
+void QtListControl::finishOrder()
+{
+    while (m_cells->getOrder().isPending())
+        m_cells->advanceOrder(portionRows);
 }
 
 void QtListControl::connectView()
@@ -300,6 +447,11 @@ void QtListControl::connectView()
     m_view->onInputDone.iHandlerAdd([this](ListEditResult const& result) { tell(result); });
     m_view->onMessage.iHandlerAdd([this](QString const& text) { showNotice(text, {}); });
     m_view->onSelectionChanged.iHandlerAdd([this] { updateCounts(); });
+    m_view->onTextTyped.iHandlerAdd([this](QString const& text) {
+        m_filterBox->show();
+        m_filterBox->setFocus();
+        m_filterBox->setText(m_filterBox->text() + text);
+    });
     m_view->onFind.iHandlerAdd([this] { openFindBox(); });
     m_view->onFindNext.iHandlerAdd([this](bool forwards) { findNext(forwards); });
     connect(m_cells, &QAbstractItemModel::modelAboutToBeReset, this, &QtListControl::keepPlace);
@@ -309,7 +461,14 @@ void QtListControl::connectView()
         filter.text = fromQString(text);
         changeFilter(std::move(filter));
     });
-    connect(m_filterBox, &QLineEdit::returnPressed, m_view, [this] { m_view->setFocus(); });
+    connect(m_filterBox, &QLineEdit::returnPressed, m_view, [this] {
+        m_view->setFocus();
+        if (!isPopup())
+            return;
+        finishOrder();
+        makeFirstRowCurrent();
+        m_view->activateCurrent();
+    });
     connect(m_findBox, &QLineEdit::returnPressed, this,
             [this] { findNext(!QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)); });
     auto& header = m_view->getHeader();
@@ -342,7 +501,10 @@ void QtListControl::keepPlace()
 void QtListControl::restorePlace()
 {
     auto const place = std::exchange(m_place, std::nullopt);
-    if (place && place->rowCount == m_cells->getOrder().getRowCount()) {
+    auto const rowCount = m_cells->getOrder().getRowCount();
+    // Rows that an editor below the last one has appended leave the others where they are.
+    bool const hasGrown = place && m_view->getBehaviour().appendsRows && rowCount > place->rowCount;
+    if (place && (hasGrown || place->rowCount == rowCount)) {
         m_view->setAutoScroll(false);
         m_view->selectRows(place->rows, place->left, place->right, place->current);
         m_view->setAutoScroll(true);
@@ -429,6 +591,8 @@ void QtListControl::doWork()
     }
     if (!isBusy)
         m_work.stop();
+    if (!isBusy && isPopup() && isVisible())
+        makeFirstRowCurrent();
     updateCounts();
 }
 
@@ -475,7 +639,12 @@ void QtListControl::updateCounts()
 void QtListControl::updateBehaviour()
 {
     auto behaviour = m_view->getBehaviour();
-    behaviour.isMenuOfRows = isPopup() && (m_flags & ListControl::EditLabels) == 0;
+    auto const control = m_cells->getControl();
+    bool const isEditable = (m_flags & ListControl::EditLabels) != 0;
+    behaviour.isMenuOfRows =
+        isPopup() && !isEditable && control && control->onItemActivated.handlerCount() > 0;
+    behaviour.appendsRows = isPopup() && isEditable;
+    behaviour.hasOwnMenu = !isPopup();
     behaviour.editsNextByTab = (m_flags & ListControl::EditNextByTab) != 0;
     m_view->setBehaviour(behaviour);
 }
@@ -509,7 +678,10 @@ QString QtListControl::describe(ListRefusal const& refusal) const
     auto const positions = m_cells->getOrder().getPositions({refusal.item.item.value_or(0)});
     // People count rows from one, as they see them.
     auto const place = positions.empty() ? refusal.item.item.value_or(0) : positions.front();
-    auto const title = fromQString(getTitle(static_cast<int>(refusal.item.column.value_or(0))));
+    auto title = fromQString(getTitle(static_cast<int>(refusal.item.column.value_or(0))));
+    // Where columns have no titles the rows have.
+    if (title.empty())
+        title = m_cells->getPlainText(refusal.item.item.value_or(0), 0);
     return toQString(localize(getReasonKey(refusal.reason), "Ui",
                               {title, fromQString(getNumberText(place + 1)), refusal.text}));
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTimer>
 #include <QToolButton>
 #include <QWidget>
@@ -18,7 +19,7 @@ namespace qev::ui {
 class QtListHeaderPanel;
 
 /// A list: above the cells a box to filter them and one to find a text, below them counts, and what became of
-/// the last input. A popup has the cells alone.
+/// the last input. A popup has the cells alone, and the box to filter them where they are many.
 ///
 /// Sorting, filtering and finding go on while the user goes on; the list keeps nothing of the rows but their
 /// order, and not even that while they stand in their own.
@@ -41,6 +42,8 @@ public:
 
     [[nodiscard]] bool isPopup() const { return (m_style & ListControl::PopupStyle) != 0; }
     [[nodiscard]] bool isUsingReportStyle() const;
+    /// Gives a popup that has just been shown the focus, and its columns the width of what is in them.
+    void openPopup();
     void setItemAndColumnCounts(std::size_t rows, std::size_t columns);
     void addStyleFlags(unsigned int flags);
     void setReadOnly(bool readOnly);
@@ -70,6 +73,8 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     /// What is selected and current, by rows that stay the same when their order does not.
@@ -84,6 +89,18 @@ private:
     };
 
     void createLayout();
+    /// What is different in a popup.
+    void arrangePopup();
+    void fitPopupColumns();
+    /// Gives the last column of a popup what the others leave.
+    void stretchLastColumn();
+    [[nodiscard]] bool hasTexts(int column) const;
+    void makeFirstRowCurrent();
+    /// Handles a key that the filter box of a popup has no use for. False for one of no use here either.
+    bool handleKeyOfPopup(QKeyEvent const& event);
+    /// Gives the focus back to where it was before the popup was opened.
+    void leavePopup();
+    void finishOrder();
     /// In the current language.
     void setTexts();
     void connectView();
@@ -121,6 +138,7 @@ private:
     std::vector<std::string> m_titles;
     std::optional<std::vector<ListSortColumn>> m_sortingForLater;
     std::optional<Place> m_place;
+    QPointer<QWidget> m_focusBefore;
 };
 
 } // namespace qev::ui

@@ -7,6 +7,13 @@ QtListControlInterface::QtListControlInterface(QtListControl& list, int controlI
 {
 }
 
+void QtListControlInterface::show()
+{
+    QtInterface::show();
+    if (auto* const list = getList(); list && list->isPopup())
+        list->openPopup();
+}
+
 void QtListControlInterface::enable(bool enabled)
 {
     if (auto* const list = getList())

@@ -13,6 +13,7 @@ class QtListControlInterface final : public QtInterface<ListControlInterface>,
 public:
     QtListControlInterface(QtListControl& list, int controlId);
 
+    void show() override;
     /// A disabled list can still be looked through and copied from.
     void enable(bool enabled) override;
     [[nodiscard]] bool isEnabled() const override;

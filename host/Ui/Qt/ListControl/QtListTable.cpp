@@ -351,7 +351,8 @@ void QtListTable::paintEvent(QPaintEvent* event)
     }
     auto const selected = getVisibleSelection();
     auto const current = currentIndex();
-    bool const showsCurrent = hasFocus() || isAncestorOf(QApplication::focusWidget());
+    bool const showsCurrent =
+        selectionBehavior() != SelectRows && (hasFocus() || isAncestorOf(QApplication::focusWidget()));
     QPainter painter(viewport());
     auto const option = getCellOption({});
     QtListCellPainter cellPainter(painter, option);

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QToolTip>
@@ -213,6 +214,10 @@ bool QtListView::edit(QModelIndex const& index, EditTrigger trigger, QEvent* eve
 
 void QtListView::commitData(QWidget* editor)
 {
+    // A new row that nothing was typed for does not come into being.
+    auto const* const line = qobject_cast<QLineEdit*>(editor);
+    if (getCells().isNewRowShown() && line && !line->isModified())
+        return;
     // An editor that went with its rows loses the focus later on, and what is in it is meant for nobody.
     if (editor == m_editor)
         QtListTable::commitData(editor);
@@ -222,6 +227,7 @@ void QtListView::closeEditor(QWidget* editor, Delegate::EndEditHint hint)
 {
     auto const index = currentIndex();
     auto const wasOneCell = !m_edit || m_edit->items.size() == 1;
+    bool const isNewRowGivenUp = getCells().isNewRowShown();
     if (auto const edit = std::exchange(m_edit, std::nullopt))
         if (auto const editing = getEditing())
             editing->cancel(*edit);
@@ -232,7 +238,7 @@ void QtListView::closeEditor(QWidget* editor, Delegate::EndEditHint hint)
         setFocus();
     m_editor.clear();
     getCells().setNewRowShown(false);
-    if (hint != Delegate::NoHint && hint != Delegate::RevertModelCache)
+    if (hint != Delegate::NoHint && hint != Delegate::RevertModelCache && !isNewRowGivenUp)
         goOnFromEditor(index, hint, wasOneCell);
 }
 
@@ -261,6 +267,7 @@ void QtListView::mousePressEvent(QMouseEvent* event)
 {
     auto const index = indexAt(event->pos());
     m_pressedBox = QModelIndex();
+    m_pressedRow = m_behaviour.isMenuOfRows && event->button() == Qt::LeftButton ? index : QModelIndex();
     if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
         getCheckBoxArea(index).contains(event->pos())) {
         m_pressedBox = index;
@@ -282,20 +289,27 @@ void QtListView::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     QtListTable::mouseReleaseEvent(event);
+    bool const isClick = std::exchange(m_pressedRow, {}) == index;
     auto const control = getCells().getControl();
     if (event->button() == Qt::MiddleButton && control && index.isValid())
         fireEvent(control->onItemSecondaryEvent, getCells().getItem(index));
+    else if (event->button() == Qt::LeftButton && isClick && m_behaviour.isMenuOfRows)
+        activate(index);
 }
 
 void QtListView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     auto const index = indexAt(event->pos());
-    if (event->button() != Qt::LeftButton || !index.isValid())
+    // The first click has opened the row of a menu; the second one may land on the menu that came of it.
+    if (event->button() != Qt::LeftButton || m_behaviour.isMenuOfRows)
         return;
     // On a check box a double click is two clicks.
-    if (getCheckBoxArea(index).contains(event->pos()))
+    if (!index.isValid())
+        goBelowLastRow(getCells().index(getCells().rowCount() - 1, 0),
+                       std::max(0, getHeader().logicalIndexAt(event->pos().x())));
+    else if (getCheckBoxArea(index).contains(event->pos()))
         m_pressedBox = index;
-    else if (isRowOpened() || !beginEdit(index))
+    else if (!beginEdit(index))
         activate(index);
 }
 
@@ -316,7 +330,7 @@ void QtListView::contextMenuEvent(QContextMenuEvent* event)
         menu.iMenuElemAdd(
             std::make_unique<OwnMenuEntry>(std::move(text), enabled, beginsGroup, std::move(action)));
     };
-    if (index.isValid() && !m_behaviour.isMenuOfRows) {
+    if (index.isValid() && m_behaviour.hasOwnMenu) {
         bool const canWrite = !m_behaviour.isReadOnly;
         add(getMenuText("List_Copy", "Ctrl+C"), true, true, [this] { copySelection(false); });
         add(getMenuText("List_CopyWithHeaders", "Ctrl+Shift+C"), true, false,
@@ -470,6 +484,14 @@ bool QtListView::handleKey(QKeyEvent const& event)
         activate(currentIndex());
         return true;
     }
+    bool const isText = !event.text().trimmed().isEmpty() && event.text().front().isPrint();
+    if (m_behaviour.isMenuOfRows && isText &&
+        (modifiers == Qt::NoModifier || modifiers == Qt::ShiftModifier)) {
+        fireEvents(onTextTyped, event.text());
+        return true;
+    }
+    if (event.key() == Qt::Key_Down && modifiers == Qt::NoModifier)
+        return goBelowLastRow(currentIndex(), currentIndex().column());
     if (isReturn && (modifiers == Qt::NoModifier || modifiers == Qt::ShiftModifier)) {
         moveDown(modifiers == Qt::ShiftModifier);
         return true;
@@ -477,7 +499,8 @@ bool QtListView::handleKey(QKeyEvent const& event)
     if (event.key() == Qt::Key_Down && modifiers == Qt::AltModifier)
         return beginEdit(currentIndex());
     if (event.key() == Qt::Key_F2 && modifiers == Qt::NoModifier) {
-        if (!beginEdit(currentIndex()) && currentIndex().isValid())
+        if (!beginEdit(currentIndex()) && !(getCells().rowCount() == 0 && goBelowLastRow({}, 0)) &&
+            currentIndex().isValid())
             fireEvents(onMessage, getText("List_CannotBeChanged"));
         return true;
     }
@@ -510,12 +533,6 @@ void QtListView::tell(ListEditResult const& result)
     fireEvents(onInputDone, result);
 }
 
-bool QtListView::isRowOpened() const
-{
-    auto const control = getCells().getControl();
-    return m_behaviour.isMenuOfRows && control && control->onItemActivated.handlerCount() > 0;
-}
-
 void QtListView::activate(QModelIndex const& index)
 {
     auto const control = getCells().getControl();
@@ -529,8 +546,19 @@ void QtListView::makeCurrent(QModelIndex const& index)
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | rows);
 }
 
+bool QtListView::goBelowLastRow(QModelIndex const& current, int column)
+{
+    auto const& cells = getCells();
+    if (!m_behaviour.appendsRows || isEditing() || current.row() != cells.rowCount() - 1)
+        return false;
+    startLabelEdit(cells.getOrder().getRowCount(), static_cast<std::size_t>(std::max(0, column)));
+    return isEditing();
+}
+
 void QtListView::moveDown(bool up)
 {
+    if (!up && goBelowLastRow(currentIndex(), currentIndex().column()))
+        return;
     if (auto const index = moveCursor(up ? MoveUp : MoveDown, Qt::NoModifier); index.isValid())
         makeCurrent(index);
 }
@@ -558,8 +586,12 @@ void QtListView::editNext(QModelIndex const& from, bool forwards)
     for (int step = 0; step < mostSteps; ++step) {
         makeCurrent(index);
         index = moveCursor(forwards ? MoveNext : MovePrevious, Qt::NoModifier);
-        if (!index.isValid() || index == currentIndex())
+        if (!index.isValid() || index == currentIndex()) {
+            auto const shown = getHeader().getShownColumns();
+            if (forwards && !shown.empty())
+                goBelowLastRow(currentIndex(), shown.front());
             return;
+        }
         makeCurrent(index);
         if (beginEdit(index))
             return;

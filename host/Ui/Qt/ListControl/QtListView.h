@@ -18,8 +18,12 @@ public:
     /// How the list is used.
     struct Behaviour
     {
-        /// Whole rows are selected, and Return opens one.
+        /// Whole rows are selected, a click or Return opens one, and what is typed looks for one.
         bool isMenuOfRows = false;
+        /// One goes on below the last row to a new one.
+        bool appendsRows = false;
+        /// The context menu has entries of the list itself.
+        bool hasOwnMenu = true;
         /// Tab in an editor goes on to the next cell that can be edited, and edits it.
         bool editsNextByTab = false;
         bool isReadOnly = false;
@@ -40,6 +44,8 @@ public:
     /// The same for one cell, which may be in the row below the last.
     void startLabelEdit(std::size_t row, std::size_t column);
     [[nodiscard]] bool isEditing() const { return m_edit.has_value(); }
+    /// Opens the current row.
+    void activateCurrent() { activate(currentIndex()); }
 
     void copySelection(bool withHeaders);
     void paste();
@@ -55,6 +61,8 @@ public:
     /// Something is to be told that is no refusal of a cell.
     EventHandlerContainer<void, void, QString const&> onMessage;
     EventHandlerContainer<void, void> onSelectionChanged;
+    /// A letter was typed that is meant for no cell.
+    EventHandlerContainer<void, void, QString const&> onTextTyped;
     /// The user wants to look for a text.
     EventHandlerContainer<void, void> onFind;
     /// The user wants the next hit, or the one before.
@@ -101,10 +109,10 @@ private:
     [[nodiscard]] std::function<void()> findShortcut(QKeyEvent const& event);
     void commit(QString const& text, std::optional<std::size_t> entry);
     void tell(ListEditResult const& result);
-    /// Tells if a double click opens a row, rather than an editor.
-    [[nodiscard]] bool isRowOpened() const;
     void activate(QModelIndex const& index);
     void makeCurrent(QModelIndex const& index);
+    /// Edits the row below the last where the list grows by that, from \p current on. False elsewhere.
+    bool goBelowLastRow(QModelIndex const& current, int column);
     void moveDown(bool up);
     void goOnFromEditor(QModelIndex const& from, QAbstractItemDelegate::EndEditHint hint, bool wasOneCell);
     /// Edits the next cell that can be edited.
@@ -115,6 +123,7 @@ private:
     std::optional<ListEdit> m_edit;
     QPointer<QWidget> m_editor;
     QPersistentModelIndex m_pressedBox;
+    QPersistentModelIndex m_pressedRow;
 };
 
 } // namespace qev::ui

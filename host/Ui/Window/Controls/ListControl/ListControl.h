@@ -178,7 +178,7 @@ public:
     void loadSettings(ListControlSettings const& settings);
 
     /// A row is opened: a double click where nothing can be edited, or Ctrl+Return; in a popup that is a menu
-    /// of rows any double click, or Return.
+    /// of rows a click, or Return.
     EventHandlerContainer<Window, void, ItemInfo const&> onItemActivated;
     /// A row is asked about by the other gesture: a click with the middle button.
     EventHandlerContainer<Window, void, ItemInfo const&> onItemSecondaryEvent;

@@ -101,11 +101,14 @@ public:
     {
         if (PopupMenu::isBeingShown())
             return false;
-        if (!m_control || !m_control->hasInterface() || !m_control->isVisible())
+        if (m_isBeingHidden || !m_control || !m_control->hasInterface() || !m_control->isVisible())
             return false;
         if (m_popupId)
             storeSettings();
+        // A window that is being hidden loses the focus, and may count as visible still.
+        m_isBeingHidden = true;
         hideControl();
+        m_isBeingHidden = false;
         return PopupControlBase::close();
     }
 
@@ -176,6 +179,7 @@ private:
     std::shared_ptr<Control> m_control;
     std::optional<std::string> m_popupId;
     std::optional<fc::ui::EventHandlerRAII> m_focusHandler;
+    bool m_isBeingHidden = false;
 };
 
 } // namespace qev::ui
