@@ -9,6 +9,7 @@
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeWriter.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+#include "FoundationClasses/Core/Kernel/FcRelationship.h"
 #include "FoundationClasses/Core/Kernel/FcRoot.h"
 
 #include <algorithm>
@@ -18,6 +19,7 @@ namespace qev::ifc {
 namespace {
 
 using fc::core::kernel::FcObjectDefinition;
+using fc::core::kernel::FcRelationship;
 using fc::core::kernel::FcRoot;
 using step::StepMessage;
 using step::StepValue;
@@ -28,6 +30,31 @@ StepMessage inexactVersion(std::string const& name, VersionMapping::Version cons
     return {isClose ? StepMessage::Severity::Warning : StepMessage::Severity::Error, 0, std::nullopt,
             "expected an IFC schema that is known in FILE_SCHEMA, found '" + name + "'; it is read as " +
                 version.schema->fileSchema().name()};
+}
+
+bool holdsNoEntity(fc::AttributeBase const& value, fc::AttributeDescriptor const& attribute)
+{
+    bool isEmpty = true;
+    attribute.operations->visitReferences(value, [&isEmpty](fc::ReferenceBase const& reference) {
+        isEmpty = isEmpty && !reference.isSet();
+    });
+    return isEmpty;
+}
+
+/// Whether edits took away all entities at an end of a relation. A file must not have such a relation, and it says
+/// nothing; the model keeps it, for an undone edit brings the entities back.
+bool hasLostAnEnd(fc::FcBase const& relation, bool isCreated)
+{
+    auto const attributes = relation.getEntityClass().attributes;
+    for (unsigned int slot = 0; slot < attributes.size(); ++slot) {
+        auto const& attribute = *attributes[slot];
+        bool const isEnd = attribute.depth > 0 && !attribute.isOptional &&
+                           (attribute.kind == fc::ValueKind::Reference || attribute.kind == fc::ValueKind::Select);
+        bool const isEdited = isCreated || (relation.changedSlots() >> slot & 1) != 0;
+        if (isEnd && isEdited && holdsNoEntity(relation.attribute(slot), attribute))
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -306,7 +333,8 @@ step::StepPatch IfcFile::makePatch(std::vector<std::string>& notStored)
     step::StepPatch patch(m_source.file());
     for (fc::EntityIndex const index : m_data->touchedEntities()) {
         bool const isCreated = m_data->isCreated(index);
-        if (m_data->isDeleted(index)) {
+        auto const relation = fc::entityCast<FcRelationship>(m_data->entity(index));
+        if (m_data->isDeleted(index) || (relation && hasLostAnEnd(*relation, isCreated))) {
             if (!isCreated)
                 patch.removeRecord(index);
         } else if (isCreated) {

@@ -3,6 +3,8 @@
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Core/Kernel/FcProject.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "FoundationClasses/Core/Kernel/FcRelAssociatesClassification.h"
+#include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "FoundationClasses/Core/ProductExtension/FcElementQuantity.h"
 #include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
 #include "FoundationClasses/Resource/Utility/FcOwnerHistory.h"
@@ -22,6 +24,7 @@ namespace {
 
 using namespace qev;
 using fc::core::kernel::FcPropertySet;
+using fc::core::kernel::FcRelAssociatesClassification;
 using fc::resource::property::FcPropertySingleValue;
 using fc::shared::sharedbldgelements::FcWall;
 using testing::HasSubstr;
@@ -40,7 +43,10 @@ std::unique_ptr<ifc::IfcFile> open(std::string const& records, std::string const
     return std::move(ifc::IfcFile::fromText(test::ifcText(schema, records)).file);
 }
 
-std::shared_ptr<FcWall> wallOf(ifc::IfcFile const& file) { return fc::entityCast<FcWall>(file.entityFromId(5)); }
+std::shared_ptr<FcWall> wallOf(ifc::IfcFile const& file)
+{
+    return fc::entityCast<FcWall>(file.entityFromId(5));
+}
 
 std::shared_ptr<FcPropertySingleValue> propertyOf(FcWall& wall, std::string const& name)
 {
@@ -150,7 +156,8 @@ TEST(IfcFile, NewRecordsFollowTheLastOneWithTheNextIds)
     auto const set = wall->getOrCreatePropertySetDefinition<FcPropertySet>(*file->data(), "My set");
     auto const property = std::make_shared<FcPropertySingleValue>();
     property->Name = "Colour";
-    property->NominalValue = fc::resource::measure::FcValue(fc::resource::measure::FcSimpleValue(std::string("red")));
+    property->NominalValue =
+        fc::resource::measure::FcValue(fc::resource::measure::FcSimpleValue(std::string("red")));
     set->HasProperties.addProperty(property);
     auto const text = file->toText();
     EXPECT_THAT(text, HasSubstr("IFCPROPERTYSINGLEVALUE('Colour',$,IFCLABEL('red'),$);"));
@@ -182,15 +189,66 @@ TEST(IfcFile, ARemovedPropertyLeavesTheOthersWhereTheyAre)
     EXPECT_THAT(file->toText(), Not(HasSubstr("#7=")));
 }
 
+std::string const classifiedWall =
+    wallWithSet + "#10=IFCCLASSIFICATIONREFERENCE($,'21',$,$,$,$);\n"
+                  "#11=IFCRELASSOCIATESCLASSIFICATION('5YvctVUKr0kugbFTf53O9L',$,$,$,(#5),#10);\n";
+
+std::shared_ptr<FcRelAssociatesClassification> associationOf(ifc::IfcFile const& file)
+{
+    return fc::entityCast<FcRelAssociatesClassification>(file.entityFromId(11));
+}
+
+TEST(IfcFile, ARelationThatLostItsObjectsIsNotInTheFile)
+{
+    auto const file = open(classifiedWall);
+    auto const relation = associationOf(*file);
+    relation->eraseRelatedObjects(fc::core::kernel::FcDefinitionSelect(wallOf(*file)));
+    EXPECT_EQ(difference(test::ifcText("IFC4", classifiedWall), file->toText()),
+              std::vector<std::string>{
+                  "-#11=IFCRELASSOCIATESCLASSIFICATION('5YvctVUKr0kugbFTf53O9L',$,$,$,(#5),#10);"});
+    EXPECT_EQ(file->entityFromId(11), relation);
+    file->data()->changes().undo();
+    EXPECT_EQ(file->toText(), test::ifcText("IFC4", classifiedWall));
+    file->data()->changes().redo();
+    EXPECT_THAT(file->toText(), Not(HasSubstr("#11=")));
+}
+
+TEST(IfcFile, ANewRelationWithoutObjectsIsNotInTheFile)
+{
+    auto const file = open(classifiedWall);
+    auto const relation = std::make_shared<FcRelAssociatesClassification>();
+    relation->setGuid(Guid::generate());
+    relation->RelatingClassification = associationOf(*file)->RelatingClassification.get();
+    file->data()->entityAdd(relation, false);
+    EXPECT_EQ(file->toText(), test::ifcText("IFC4", classifiedWall));
+    relation->setRelatedObjects({fc::core::kernel::FcDefinitionSelect(wallOf(*file))});
+    EXPECT_THAT(file->toText(), HasSubstr("#12=IFCRELASSOCIATESCLASSIFICATION("));
+}
+
+TEST(IfcFile, ARelationThatCameWithoutObjectsStaysInTheFile)
+{
+    std::string const records =
+        "#10=IFCCLASSIFICATIONREFERENCE($,'21',$,$,$,$);\n"
+        "#11=IFCRELASSOCIATESCLASSIFICATION('5YvctVUKr0kugbFTf53O9L',$,$,$,(),#10);\n";
+    auto const file = open(records);
+    associationOf(*file)->Name = "Kept";
+    EXPECT_THAT(file->toText(),
+                HasSubstr("#11=IFCRELASSOCIATESCLASSIFICATION('5YvctVUKr0kugbFTf53O9L',$,'Kept',$,(),#10);"));
+}
+
 TEST(IfcFile, ClassesThatLaterVersionsDroppedBecomeTheirNearestAndKeepTheirName)
 {
-    std::string const style = "#2=IFCDOORSTYLE('2YvctVUKr0kugbFTf53O9L',$,'D',$,$,$,$,$,.SINGLE_SWING_LEFT.,.WOOD.,.F.,.F.);\n";
+    std::string const style =
+        "#2=IFCDOORSTYLE('2YvctVUKr0kugbFTf53O9L',$,'D',$,$,$,$,$,.SINGLE_SWING_LEFT.,.WOOD.,.F.,.F.);\n";
     auto const file = open(style, "IFC2X3");
     auto const type = fc::entityCast<fc::shared::sharedbldgelements::FcDoorType>(file->entityFromId(2));
     ASSERT_TRUE(type);
     EXPECT_EQ(type->Name.get(), "D");
     type->Name = "E";
-    EXPECT_THAT(file->toText(), HasSubstr("#2=IFCDOORSTYLE('2YvctVUKr0kugbFTf53O9L',$,'E',$,$,$,$,$,.SINGLE_SWING_LEFT.,.WOOD.,.F.,.F.);"));
+    EXPECT_THAT(
+        file->toText(),
+        HasSubstr(
+            "#2=IFCDOORSTYLE('2YvctVUKr0kugbFTf53O9L',$,'E',$,$,$,$,$,.SINGLE_SWING_LEFT.,.WOOD.,.F.,.F.);"));
     EXPECT_EQ(file->countsByClass().at("IfcDoorStyle"), 1u);
 }
 
@@ -214,7 +272,8 @@ TEST(IfcFile, ADanglingReferenceIsUnsetAndTold)
     ASSERT_TRUE(wall);
     EXPECT_EQ(wall->OwnerHistory->get(), nullptr);
     ASSERT_EQ(file->messages().size(), 1u);
-    EXPECT_THAT(file->messages().front().text, HasSubstr("OwnerHistory: expected a reference to an existing record, found #99"));
+    EXPECT_THAT(file->messages().front().text,
+                HasSubstr("OwnerHistory: expected a reference to an existing record, found #99"));
 }
 
 TEST(IfcFile, AReferenceToTheWrongClassIsUnsetAndTold)
@@ -239,7 +298,8 @@ TEST(IfcFile, AValueOfTheWrongKindIsUnsetAndTold)
     EXPECT_EQ(wallOf(*file)->Name.get(), std::nullopt);
     ASSERT_EQ(file->messages().size(), 2u);
     EXPECT_THAT(file->messages()[0].text, HasSubstr("Name: expected a text"));
-    EXPECT_THAT(file->messages()[1].text, HasSubstr("PredefinedType: expected an item of IfcWallTypeEnum, found .NOSUCHITEM."));
+    EXPECT_THAT(file->messages()[1].text,
+                HasSubstr("PredefinedType: expected an item of IfcWallTypeEnum, found .NOSUCHITEM."));
 }
 
 TEST(IfcFile, WhatTheFilesOwnVersionAllowsIsNoFault)
@@ -291,7 +351,8 @@ TEST(IfcFile, ATextThatIsNoStepFileIsRefused)
 
 TEST(IfcFile, ADateRecordOfAnOlderVersionReadsAsText)
 {
-    auto const file = open("#2=IFCCLASSIFICATION('S','1',#3,'Uniclass');\n#3=IFCCALENDARDATE(5,3,2009);\n", "IFC2X3");
+    auto const file =
+        open("#2=IFCCLASSIFICATION('S','1',#3,'Uniclass');\n#3=IFCCALENDARDATE(5,3,2009);\n", "IFC2X3");
     auto const classification = file->entityFromId(2);
     ASSERT_TRUE(classification);
     EXPECT_EQ(classification->getAttributeAsString("EditionDate"), "2009-03-05");
@@ -320,6 +381,19 @@ TEST_F(SavedFile, TakesThePlaceOfTheOldOneAndMayBeSavedAgain)
     EXPECT_TRUE(file->save(path()).saved());
     EXPECT_THAT(content(), HasSubstr("'W3'"));
     EXPECT_THAT(content(), Not(HasSubstr("'W2'")));
+}
+
+TEST_F(SavedFile, HasARelationAgainWhoseObjectsAreBack)
+{
+    auto const file = std::move(ifc::IfcFile::open(path()).file);
+    auto const relation = fc::entityCast<fc::core::kernel::FcRelDefinesByProperties>(file->entityFromId(9));
+    auto const before = content();
+    relation->RelatedObjects = fc::ReferenceList<fc::core::kernel::FcObjectDefinition>();
+    EXPECT_TRUE(file->save(path()).saved());
+    EXPECT_THAT(content(), Not(HasSubstr("#9=")));
+    file->data()->changes().undo();
+    EXPECT_TRUE(file->save(path()).saved());
+    EXPECT_EQ(content(), before);
 }
 
 TEST_F(SavedFile, KeepsTheIdsOfNewRecordsFromSaveToSave)
