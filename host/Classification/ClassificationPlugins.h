@@ -5,7 +5,6 @@
 #include "HostClassificationExport.h"
 
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>

@@ -23,16 +23,14 @@ struct ClassificationReadResult
 ///
 /// The first line may name the columns "code", "title", "parent" and "description", in any order and case;
 /// without such a line the first three stand in this order. Lines before it that begin with "#" say what the
-/// system is:
-/// "# Name: ...", "# Description: ...", "# Source: ...", "# Edition: ..."; other such lines are comments.
+/// system is: "# Name: ...", "# Description: ...", "# Source: ...", "# Edition: ..."; other such lines are
+/// comments.
 ///
 /// \param fileName stands in messages, and is the name of a system that says none.
 HOSTCLASSIFICATION_EXPORT ClassificationReadResult
 readClassificationTable(std::string_view text, std::filesystem::path const& fileName);
 
-/// Reads the systems of a file: those of an IFC file with its classifications, or the one of a table (".csv",
-/// ".tsv",
-/// ".txt").
+/// Reads the systems of a file: those of an IFC file (".ifc"), or the one of a table, whatever its ending.
 HOSTCLASSIFICATION_EXPORT ClassificationReadResult readClassifications(std::filesystem::path const& file);
 
 } // namespace qev::classification

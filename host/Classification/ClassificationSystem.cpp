@@ -29,7 +29,8 @@ void ClassificationSystem::cutCircles()
         auto const* above = find(code.parent);
         while (above && seen.insert(above->code).second)
             above = find(above->parent);
-        bool const isCircle = above != nullptr;
+        // It may also stand below a circle that others make.
+        bool const isCircle = above && above->code == code.code;
         if (isCircle || !find(code.parent))
             code.parent.clear();
     }

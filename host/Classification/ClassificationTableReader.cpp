@@ -1,5 +1,6 @@
 #include "Classification/ClassificationReader.h"
 
+#include "Core/String/Ascii.h"
 #include "Core/String/DelimitedText.h"
 #include "Core/String/Fold.h"
 
@@ -12,13 +13,7 @@ namespace qev::classification {
 
 namespace {
 
-std::string_view trimmed(std::string_view text)
-{
-    auto const* const blanks = " \t\r\n";
-    auto const first = text.find_first_not_of(blanks);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
+using str::trimmed;
 
 /// The separator that parts the first line into the most cells.
 char findSeparator(std::string_view text)

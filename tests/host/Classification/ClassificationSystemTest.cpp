@@ -65,5 +65,13 @@ TEST(ClassificationSystem, CutsCirclesOfParents)
     EXPECT_EQ(system.getPath("b"), (Codes{"a", "c", "b"}));
 }
 
+TEST(ClassificationSystem, KeepsWhatStandsBelowACircleBelowIt)
+{
+    ClassificationSystem const system({"Circle", "", "", ""},
+                                      {{"x", "", "", "a"}, {"a", "", "", "b"}, {"b", "", "", "a"}});
+    EXPECT_EQ(system.getChildren(""), (Codes{"a"}));
+    EXPECT_EQ(system.getPath("x"), (Codes{"a", "x"}));
+}
+
 } // namespace
 } // namespace qev::test
