@@ -1,6 +1,5 @@
 #include "UI/FoundationClasses/FcEditController.h"
 
-#include "Core/Assert/Assert.h"
 #include "Core/Id/Guid.h"
 #include "Edit/EditedObject.h"
 #include "Edit/ObjectPropertyEditController.h"

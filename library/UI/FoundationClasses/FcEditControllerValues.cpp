@@ -49,13 +49,12 @@ void FcEditController::addDocumentClicked(PropertyId id)
     if (!data)
         return;
     auto const objects = getFcObjectsBeingEdited<FcObjectDefinition>(id);
-    if (objects.empty())
-        return;
     {
         EditStep const step(data, "Add document");
         auto const relation = std::make_shared<FcRelAssociatesDocument>();
         relation->setGuid(Guid::generate());
-        relation->OwnerHistory = objects.front()->OwnerHistory.get();
+        if (!objects.empty())
+            relation->OwnerHistory = objects.front()->OwnerHistory.get();
         data->entityAdd(relation, false);
         auto const document = std::make_shared<FcDocumentReference>();
         data->entityAdd(document, false);
@@ -146,7 +145,7 @@ void FcEditController::addListValueClicked(PropertyId id)
         return;
     {
         EditStep const step(data, "Add value");
-        for (auto const& property : getFcObjectsBeingEdited<FcPropertyListValue>(id))
+        for (auto const& property : withoutRepetitions(getFcObjectsBeingEdited<FcPropertyListValue>(id)))
             ifc::addListValue(*property);
     }
     reloadAndNotify(id);

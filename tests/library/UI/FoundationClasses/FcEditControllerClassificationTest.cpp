@@ -176,6 +176,19 @@ TEST_F(EditControllerClassification, LeadsToTheCodeOfASystemThatTheObjectHasAlre
     EXPECT_EQ(std::count(log->entries.begin(), log->entries.end(), "edited"), 2);
 }
 
+TEST_F(EditControllerClassification, LeadsToTheCodeOfASystemThatATypeHasAlready)
+{
+    auto const type = model.wallType("T1");
+    type->classify(groups, {"21"});
+    codes->chosen = {"22"};
+    edit({type});
+    click("Classifications");
+    choose("Groups");
+    EXPECT_THAT(backend->getMessages(), SizeIs(1));
+    EXPECT_THAT(codes->asked, ElementsAre("Groups, type T1, 21"));
+    EXPECT_EQ(codeOf(*type, *groups), "22");
+}
+
 TEST_F(EditControllerClassification, KeepsTheClassificationsOfOtherSystems)
 {
     first->classify(groups, {"21"});
@@ -352,6 +365,17 @@ TEST_F(EditControllerClassification, TakesObjectsOutOfTheRelationAndKeepsIt)
     EXPECT_EQ(model.data()->countFromId(FcRelAssociatesClassification::idFirst,
                                         FcRelAssociatesClassification::idLast),
               2u);
+}
+
+TEST_F(EditControllerClassification, IsBackInOneStepOnceTheDeletionIsUndone)
+{
+    for (auto const& wall : {first, second})
+        wall->classify(groups, {"21"});
+    edit({first, second});
+    click("Classifications.Groups", "delete");
+    model.data()->changes().undo();
+    EXPECT_EQ(codeOf(*first, *groups), "21");
+    EXPECT_EQ(codeOf(*second, *groups), "21");
 }
 
 TEST_F(EditControllerClassification, IsGoneFromTheTreeBeforeTheGridIsReloaded)

@@ -313,6 +313,19 @@ TEST_F(EditController, AnUnknownKeyBelowClassificationsIsTakenForAReference)
     expectControllerReport("Reference type not implemented.", "onButtonClicked::<lambda_1>::operator ()");
 }
 
+TEST_F(EditController, KnownKeysOfPathsThatBeginLikeClassificationsAreForClassifications)
+{
+    edit({wall});
+    click("ClassificationsOfMine", "edit");
+    EXPECT_THAT(log->entries, IsEmpty());
+    expectControllerReport("Unexpected object type in selection set.",
+                           "getFcObjectsBeingEdited::<lambda_1>::operator ()");
+    click("ClassificationsOfMine", "delete");
+    EXPECT_EQ(log->entries, changeAt("ClassificationsOfMine"));
+    expectControllerReport("Unexpected object type in selection set.",
+                           "getFcObjectsBeingEdited::<lambda_1>::operator ()");
+}
+
 // --- Buttons without a meaning ----------------------------------------------------------------------
 
 TEST_F(EditController, UnknownKeysOfSetsAndValuesDoNothing)

@@ -2,6 +2,10 @@
 #include "Core/Unit/QuantityPresentationFactory.h"
 #include "Core/Utilities/ScopeGuard.h"
 #include "EditControllerTest.h"
+#include "Ui/Window/ProgressBarInterface.h"
+#include "Ui/Window/Window.h"
+#include "Ui/Window/WindowInterface.h"
+#include "Ui/WindowBackend.h"
 
 namespace {
 
@@ -77,12 +81,17 @@ TEST_F(EditControllerValues, AddsOneDocumentForAllObjects)
     EXPECT_EQ(countOf<FcRelAssociatesDocument>() + countOf<FcDocumentReference>(), 0u);
 }
 
-TEST_F(EditControllerValues, AddsNoDocumentWhereAnObjectCannotHaveOne)
+TEST_F(EditControllerValues, AddsADocumentOfNoObjectWhereOneCannotHaveIt)
 {
     edit({first.object, first.status});
     click("Documents");
     expectControllerReport(notOfType, notOfTypePlace);
-    EXPECT_EQ(countOf<FcRelAssociatesDocument>() + countOf<FcDocumentReference>(), 0u);
+    EXPECT_EQ(log->entries, changeAt("Documents"));
+    ASSERT_EQ(countOf<FcRelAssociatesDocument>(), 1u);
+    auto const relation = *model.data()->entities<FcRelAssociatesDocument>().begin();
+    EXPECT_THAT(relation->RelatedObjects.get(), IsEmpty());
+    EXPECT_EQ(relation->RelatingDocument->entity(), *model.data()->entities<FcDocumentReference>().begin());
+    EXPECT_THAT(first.object->HasAssociations(), IsEmpty());
 }
 
 // --- Lists and deletions ----------------------------------------------------------------------------
@@ -97,6 +106,15 @@ TEST_F(EditControllerValues, AppendsAValueToEachList)
     model.data()->changes().undo();
     EXPECT_THAT(*first.list->ListValues.get(), SizeIs(1));
     EXPECT_THAT(*second.list->ListValues.get(), SizeIs(1));
+}
+
+TEST_F(EditControllerValues, AppendsOneValueToAListThatObjectsShare)
+{
+    auto const third = model.wall("W3");
+    model.joinSet(first.object->getPropertySetDefinitionNonConst<FcPropertySet>("Own"), third);
+    edit({first.object, third});
+    click("PropertySets.Own.List", "add");
+    EXPECT_THAT(*first.list->ListValues.get(), SizeIs(2));
 }
 
 TEST_F(EditControllerValues, DeletesPropertiesOfEachKind)
@@ -197,6 +215,47 @@ TEST_F(EditControllerValues, APopupStandsBesideTheCursorOverTheOwnersWindow)
     EXPECT_EQ(window->getSize(), ui::Size(500, 300));
     EXPECT_TRUE(std::dynamic_pointer_cast<ui::ListControl>(window)->isUsingReportStyle());
     EXPECT_TRUE(window->isVisible());
+}
+
+/// Makes no window, and writes down what it was to make.
+class NoWindows final : public ui::WindowBackend
+{
+public:
+    ui::WindowHandle createWindow(ui::WindowCreation const& creation) override
+    {
+        asked.push_back(creation.className + " " + std::to_string(creation.controlId) + " of style " +
+                        std::to_string(creation.style) + " and " + std::to_string(creation.extendedStyle));
+        return {};
+    }
+    std::unique_ptr<ui::WindowInterface> createInterface(ui::WindowHandle const&) override { return nullptr; }
+    [[nodiscard]] std::optional<ui::Position> getCursorPosition() const override { return std::nullopt; }
+    [[nodiscard]] ui::WindowHandle getFocusedWindow() const override { return {}; }
+    [[nodiscard]] bool isDescendant(ui::WindowHandle const&, ui::WindowHandle const&) const override
+    {
+        return false;
+    }
+    void showMessage(ui::MessageBox::Message) override {}
+    std::optional<std::size_t> showPopupMenu(ui::PopupMenu const&, ui::Position const&) override
+    {
+        return std::nullopt;
+    }
+    [[nodiscard]] std::unique_ptr<ui::ProgressBarInterface> createProgressBar(std::string const&) override
+    {
+        return nullptr;
+    }
+
+    std::vector<std::string> asked;
+};
+
+TEST_F(EditControllerValues, APopupIsAListWithColumnsAndABorder)
+{
+    edit({first.object});
+    auto const noWindows = std::make_shared<NoWindows>();
+    ui::details::WindowInterfaceFactory::setBackend(noWindows);
+    click("PropertySets.Own.Bounded", "edit");
+    ui::details::WindowInterfaceFactory::setBackend(backend);
+    takeReports();
+    EXPECT_THAT(noWindows->asked, ElementsAre("ListControl 10 of style 37 and 0"));
 }
 
 TEST_F(EditControllerValues, AllPopupsKeepTheirSizeUnderOneId)
