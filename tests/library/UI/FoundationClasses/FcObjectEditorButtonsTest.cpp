@@ -87,6 +87,7 @@ TEST_F(ObjectEditorButtons, AClassificationIsDeletedOrEdited)
 TEST_F(ObjectEditorButtons, APathThatOnlyBeginsLikeClassificationsIsAPathLikeOthers)
 {
     EXPECT_THAT(buttons("ClassificationsOfMine"), IsEmpty());
+    EXPECT_THAT(buttons("ClassificationsOfMine.Name"), ElementsAre("delete:delete", "edit:default"));
 }
 
 TEST_F(ObjectEditorButtons, SetsAndDocumentsAreAdded)
@@ -117,6 +118,13 @@ TEST_F(ObjectEditorButtons, ASetIsDeletedAndTakesWhatItLacks)
 TEST_F(ObjectEditorButtons, ASetOfOnesOwnHasAllThatItCanHave)
 {
     EXPECT_THAT(buttons("PropertySets.Own"), ElementsAre("delete:delete"));
+}
+
+TEST_F(ObjectEditorButtons, ASetOfQuantitiesTakesWhatItLacksToo)
+{
+    model.addQuantities(wall, "Qto_WallBaseQuantities", {{"Length", 4.0}});
+    wrapper->clearCache();
+    EXPECT_THAT(buttons("PropertySets.Qto_WallBaseQuantities"), ElementsAre("delete:delete", "add:add"));
 }
 
 TEST_F(ObjectEditorButtons, AnEnumerationIsDeletedAndEditedWhereItsUserMay)

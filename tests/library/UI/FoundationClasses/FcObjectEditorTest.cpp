@@ -162,6 +162,15 @@ TEST_F(ObjectEditorClassifications, AreRowsByNameUnderThreeKeys)
                                  "    Instance.Classifications.Rooms.Name\n");
 }
 
+TEST_F(ObjectEditorClassifications, StandInTheTreeByTheirOwnRowAlone)
+{
+    classify(wall, "Groups", "21");
+    EXPECT_TRUE(wrapper->getAllProperties().contains(PropertyId("Classifications.Groups.Name")));
+    EXPECT_THAT(rows(), HasSubstr("  Classifications [group] [partial]\n"
+                                  "    Classifications.Groups\n"
+                                  "  PropertySets [group]"));
+}
+
 TEST_F(ObjectEditorClassifications, HaveAHeadingOnAnObjectWithoutAny)
 {
     EXPECT_EQ(textOfMap(editor), "Classifications:\n"
