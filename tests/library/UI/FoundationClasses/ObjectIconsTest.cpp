@@ -74,6 +74,7 @@ TEST_F(ObjectIconsTest, AreLookedForInTheWantedSizeFirst)
     EXPECT_EQ(icons->asked, (Names{"/IFC/Wall_16x16.svg"}));
     EXPECT_EQ(path("IfcWall", std::nullopt, IconSize::Large), "/IFC/Wall_20x20.svg");
     EXPECT_EQ(icons->asked, (Names{"/IFC/Wall_20x20.svg"}));
+    EXPECT_EQ(path("IfcWall", std::nullopt, static_cast<IconSize>(2)), "/IFC/Wall_20x20.svg");
 }
 
 TEST_F(ObjectIconsTest, OfTheOtherSizeServeWhereTheWantedOneIsMissing)
@@ -139,6 +140,16 @@ TEST_F(ObjectIconsTest, OfAnObjectFollowItsPredefinedType)
     EXPECT_EQ(names(), (Names{"WallTypeEnum.", "IfcWallTypeEnum.", "Wall"}));
     wall->setAttributeFromString("SOLIDWALL", "PredefinedType");
     EXPECT_EQ(IconResources::getPath(getIconForObject(*wall, IconSize::Small)),
+              "/IFC/WallTypeEnum.SOLIDWALL_16x16.svg");
+}
+
+TEST_F(ObjectIconsTest, OfATypeFollowItsPredefinedTypeToo)
+{
+    icons->paths = {"/IFC/WallTypeEnum.SOLIDWALL_16x16.svg"};
+    Model model;
+    auto const type = model.wallType("T");
+    type->setAttributeFromString("SOLIDWALL", "PredefinedType");
+    EXPECT_EQ(IconResources::getPath(getIconForObject(*type, IconSize::Small)),
               "/IFC/WallTypeEnum.SOLIDWALL_16x16.svg");
 }
 
