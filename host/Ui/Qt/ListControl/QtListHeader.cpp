@@ -1,10 +1,9 @@
 #include "Ui/Qt/ListControl/QtListHeader.h"
 
-#include "Core/Utilities/ScopeGuard.h"
-
 #include <algorithm>
 #include <QAbstractTableModel>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyleOptionHeader>
 
 namespace qev::ui {
@@ -71,7 +70,7 @@ QtListHeader::QtListHeader(QtListItemModel& cells, QWidget* parent)
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, &QHeaderView::sectionMoved, this, [this] { keepOrder(); });
     connect(this, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
-        if (!m_isArranging && width > 0)
+        if (width > 0)
             m_cells.getColumns().setWidth(static_cast<std::size_t>(column), static_cast<unsigned int>(width));
     });
 }
@@ -80,8 +79,8 @@ QtListHeader::~QtListHeader() = default;
 
 void QtListHeader::arrange()
 {
-    m_isArranging = true;
-    ScopeGuard const done([this] { m_isArranging = false; });
+    // What follows is not the user's doing, and whoever asked for it lays the list out once when all is done.
+    QSignalBlocker const quiet(this);
     auto const& columns = m_cells.getColumns();
     setMinimumSectionSize(2 * fontMetrics().averageCharWidth());
     m_titles->setCount(static_cast<int>(columns.getCount()));
@@ -167,8 +166,6 @@ QSize QtListHeader::sectionSizeFromContents(int column) const
 
 void QtListHeader::keepOrder()
 {
-    if (m_isArranging)
-        return;
     std::vector<std::size_t> order;
     for (int place = 0; place < count(); ++place)
         order.push_back(static_cast<std::size_t>(logicalIndex(place)));

@@ -36,7 +36,6 @@ private:
 
     QtListItemModel& m_cells;
     Titles* m_titles;
-    bool m_isArranging = false;
 };
 
 } // namespace qev::ui
