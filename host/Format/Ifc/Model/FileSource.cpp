@@ -22,16 +22,25 @@ using step::StepValue;
 std::string describe(StepValue const& value)
 {
     switch (value.kind()) {
-    case StepValue::Kind::Unset: return "$";
-    case StepValue::Kind::Derived: return "*";
+    case StepValue::Kind::Unset:
+        return "$";
+    case StepValue::Kind::Derived:
+        return "*";
     case StepValue::Kind::Integer:
-    case StepValue::Kind::Real: return "a number";
-    case StepValue::Kind::Text: return "a text";
-    case StepValue::Kind::Enumeration: return "." + value.textValue() + ".";
-    case StepValue::Kind::Binary: return "a binary";
-    case StepValue::Kind::Reference: return "#" + std::to_string(value.referenceId());
-    case StepValue::Kind::Typed: return value.textValue() + "(...)";
-    case StepValue::Kind::List: return "a list";
+    case StepValue::Kind::Real:
+        return "a number";
+    case StepValue::Kind::Text:
+        return "a text";
+    case StepValue::Kind::Enumeration:
+        return "." + value.textValue() + ".";
+    case StepValue::Kind::Binary:
+        return "a binary";
+    case StepValue::Kind::Reference:
+        return "#" + std::to_string(value.referenceId());
+    case StepValue::Kind::Typed:
+        return value.textValue() + "(...)";
+    case StepValue::Kind::List:
+        return "a list";
     }
     return {};
 }
@@ -73,8 +82,11 @@ class FileSource::Reader final : public fc::AttributeReader
 {
 public:
     Reader(FileSource& source, fc::Data& data, fc::EntityIndex index)
-        : m_source(source), m_data(data), m_index(index)
-    {}
+        : m_source(source)
+        , m_data(data)
+        , m_index(index)
+    {
+    }
 
     void setOwnUnit(step::InstanceId unit) { m_ownUnit = unit; }
 
@@ -95,7 +107,8 @@ public:
     /// What the file's own version says of the attribute being read; null when it is the model's version.
     void setFileAttribute(def::schema::Attribute const* attribute) { m_fileAttribute = attribute; }
 
-    void mismatch(fc::AttributeDescriptor const& attribute, std::string_view expected, StepValue const& found) override
+    void mismatch(fc::AttributeDescriptor const& attribute, std::string_view expected,
+                  StepValue const& found) override
     {
         auto const classOf = [this](step::InstanceId id) { return m_source.fileEntityOf(id); };
         if (m_fileAttribute && fitsFileVersion(found, *m_fileAttribute, classOf))
@@ -207,19 +220,23 @@ void FileSource::readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& e
         auto const unitSlot = static_cast<std::size_t>(reading.unitFileSlot);
         bool const hasUnit = reading.unitFileSlot != ClassMapping::noSlot && unitSlot < arguments.size();
         reader.setOwnUnit(hasUnit ? arguments[unitSlot].referenceId() : 0);
-        reader.setFileAttribute(isOtherVersion ? mapping.fileAttribute(reading.slot) : nullptr);
+        def::schema::Attribute const& fileAttribute = *mapping.fileAttribute(reading.slot);
+        if (isFileFormOfUnsetList(argument, fileAttribute))
+            continue;
+        reader.setFileAttribute(isOtherVersion ? &fileAttribute : nullptr);
         fc::AttributeDescriptor const& attribute = *entityClass.attributes[reading.slot];
         auto const& operations = *attribute.operations;
         if (!reading.changesValueForm)
             operations.read(entity.attribute(reading.slot), attribute, argument, reader);
         else
             operations.read(entity.attribute(reading.slot), attribute,
-                            toModelForm(argument, *mapping.fileAttribute(reading.slot), attribute, *m_file), reader);
+                            toModelForm(argument, fileAttribute, attribute, *m_file), reader);
     }
     m_arguments = std::move(arguments);
 }
 
-FileSource::ClassReading const& FileSource::readingOf(fc::EntityIndex index, fc::EntityClass const& entityClass)
+FileSource::ClassReading const& FileSource::readingOf(fc::EntityIndex index,
+                                                      fc::EntityClass const& entityClass)
 {
     auto& reading = m_readings[m_file->classOf(index)];
     if (!reading)
@@ -227,7 +244,8 @@ FileSource::ClassReading const& FileSource::readingOf(fc::EntityIndex index, fc:
     return *reading;
 }
 
-FileSource::ClassReading FileSource::makeReading(ClassMapping const& mapping, fc::EntityClass const& entityClass)
+FileSource::ClassReading FileSource::makeReading(ClassMapping const& mapping,
+                                                 fc::EntityClass const& entityClass)
 {
     ClassReading readings;
     for (unsigned int slot = 0; slot < entityClass.attributes.size(); ++slot) {
@@ -261,7 +279,8 @@ void FileSource::check(fc::EntityIndex index, fc::Data& data)
     Reader reader(*this, data, index);
     if (!mappingOf(index)) {
         if (!m_file->keywordOf(index).empty())
-            reader.tell("expected a class of " + m_version.fileSchema().name() + ", found " + std::string(m_file->keywordOf(index)));
+            reader.tell("expected a class of " + m_version.fileSchema().name() + ", found " +
+                        std::string(m_file->keywordOf(index)));
         checkReferences(index);
         m_told[index] = true;
         return;

@@ -10,8 +10,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <set>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -67,7 +67,8 @@ private:
     using ClassReading = std::vector<SlotReading>;
 
     [[nodiscard]] ClassReading const& readingOf(fc::EntityIndex index, fc::EntityClass const& entityClass);
-    [[nodiscard]] static ClassReading makeReading(ClassMapping const& mapping, fc::EntityClass const& entityClass);
+    [[nodiscard]] static ClassReading makeReading(ClassMapping const& mapping,
+                                                  fc::EntityClass const& entityClass);
     void readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity);
     void checkReferences(fc::EntityIndex index);
     /// A property made of properties, and the like, that is a part of one of its parts.

@@ -63,7 +63,10 @@ bool hasLostAnEnd(fc::FcBase const& relation, bool isCreated)
 class IfcFile::Writer final : public fc::AttributeWriter
 {
 public:
-    explicit Writer(IfcFile const& file) : m_file(file) {}
+    explicit Writer(IfcFile const& file)
+        : m_file(file)
+    {
+    }
 
     void setOwnUnit(step::InstanceId unit) { m_ownUnit = unit; }
 
@@ -79,18 +82,23 @@ public:
     }
 
     /// The attribute at a slot as the file's version has it. No value when it has no form for it.
-    std::optional<StepValue> value(fc::FcBase const& entity, unsigned int slot, def::schema::Attribute const& fileAttribute)
+    std::optional<StepValue> value(fc::FcBase const& entity, unsigned int slot,
+                                   def::schema::Attribute const& fileAttribute)
     {
         fc::EntityClass const& entityClass = entity.getEntityClass();
         fc::AttributeDescriptor const& attribute = *entityClass.attributes[slot];
         setOwnUnit(0);
         if (auto const unitSlot = ownUnitSlot(entityClass, slot)) {
             fc::AttributeDescriptor const& unit = *entityClass.attributes[*unitSlot];
-            unit.operations->visitReferences(entity.attribute(*unitSlot), [this](fc::ReferenceBase const& reference) {
-                setOwnUnit(idOf(reference));
-            });
+            unit.operations->visitReferences(
+                entity.attribute(*unitSlot),
+                [this](fc::ReferenceBase const& reference) { setOwnUnit(idOf(reference)); });
         }
-        return toFileForm(attribute.operations->write(entity.attribute(slot), attribute, *this), fileAttribute);
+        auto value =
+            toFileForm(attribute.operations->write(entity.attribute(slot), attribute, *this), fileAttribute);
+        return value && value->kind() == StepValue::Kind::Reference
+                   ? permittedReference(entity, slot, fileAttribute)
+                   : value;
     }
 
     /// The arguments of a new record.
@@ -120,10 +128,46 @@ public:
             else
                 notStored.push_back(m_file.nameOf(entity, slot));
         }
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            if (values[i].isUnset())
+                values[i] = toFileFormOfUnset(*fileAttributes[i]);
+        }
         return values;
     }
 
 private:
+    /// The entity that an attribute refers to. Where the file's version does not let it refer there, what
+    /// that entity itself refers to by the same attribute: older versions know no chains of classification
+    /// codes.
+    std::optional<StepValue> permittedReference(fc::FcBase const& entity, unsigned int slot,
+                                                def::schema::Attribute const& fileAttribute)
+    {
+        // Longer chains lead back to where they began.
+        constexpr int mostSteps = 100;
+        auto index = referenceOf(entity, slot);
+        for (int step = 0; step < mostSteps && index; ++step) {
+            def::schema::Entity const* const fileClass = m_file.fileClassOf(*index);
+            if (!fileClass || takesClass(fileAttribute, *fileClass))
+                return StepValue::reference(m_file.idOf(*index));
+            auto const next = m_file.m_data->entity(*index);
+            bool const isOfSameClass = next && &next->getEntityClass() == &entity.getEntityClass();
+            index = isOfSameClass ? referenceOf(*next, slot) : std::nullopt;
+        }
+        return std::nullopt;
+    }
+
+    static std::optional<fc::EntityIndex> referenceOf(fc::FcBase const& entity, unsigned int slot)
+    {
+        std::optional<fc::EntityIndex> index;
+        fc::AttributeDescriptor const& attribute = *entity.getEntityClass().attributes[slot];
+        attribute.operations->visitReferences(entity.attribute(slot),
+                                              [&index](fc::ReferenceBase const& reference) {
+                                                  if (reference.isSet())
+                                                      index = reference.index();
+                                              });
+        return index;
+    }
+
     IfcFile const& m_file;
     step::InstanceId m_ownUnit = 0;
 };
@@ -161,8 +205,11 @@ OpenResult IfcFile::index(step::StepOpenResult opened, Progress const& progress)
 }
 
 IfcFile::IfcFile(std::shared_ptr<fc::Data> data, FileSource& source)
-    : m_data(std::move(data)), m_source(source), m_nextClass(FcRoot::idFirst)
-{}
+    : m_data(std::move(data))
+    , m_source(source)
+    , m_nextClass(FcRoot::idFirst)
+{
+}
 
 IfcFile::~IfcFile() = default;
 
@@ -228,7 +275,8 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromId(step::InstanceId id) const
     step::RecordIndex const record = m_source.file().indexOf(id);
     if (record != step::StepFile::noRecord)
         return m_data->entity(record);
-    auto const found = std::find_if(m_newIds.begin(), m_newIds.end(), [id](auto const& entry) { return entry.second == id; });
+    auto const found = std::find_if(m_newIds.begin(), m_newIds.end(),
+                                    [id](auto const& entry) { return entry.second == id; });
     return found == m_newIds.end() ? nullptr : m_data->entity(found->first);
 }
 
@@ -265,7 +313,8 @@ void IfcFile::findGlobalIds(unsigned int lastClass) const
         if (index >= m_source.count())
             continue;
         int const slot = m_source.mappingOf(index)->fileSlot(0);
-        auto const span = slot >= 0 ? parser.argumentSpan(index, static_cast<std::size_t>(slot)) : std::nullopt;
+        auto const span =
+            slot >= 0 ? parser.argumentSpan(index, static_cast<std::size_t>(slot)) : std::nullopt;
         if (span && span->size() >= 2)
             m_globalIds.emplace(span->substr(1, span->size() - 2), index);
     }
@@ -277,6 +326,14 @@ std::string IfcFile::nameOf(fc::FcBase const& entity, unsigned int slot) const
     name += " #" + std::to_string(idOf(entity.getIndex())) + ".";
     name += entity.getEntityClass().attributes[slot]->name;
     return name;
+}
+
+def::schema::Entity const* IfcFile::fileClassOf(fc::EntityIndex index) const
+{
+    ClassMapping const* const mapping = index < m_source.count()
+                                            ? m_source.mappingOf(index)
+                                            : m_source.version().forNewObject(m_data->classNumber(index));
+    return mapping ? &mapping->fileEntity() : nullptr;
 }
 
 void IfcFile::giveIds()
@@ -303,7 +360,8 @@ void IfcFile::patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::v
             continue;
         int const fileSlot = mapping.fileSlot(slot);
         auto const place = static_cast<std::size_t>(fileSlot);
-        auto const value = fileSlot >= 0 ? writer.value(*entity, slot, *mapping.fileAttribute(slot)) : std::nullopt;
+        auto const value =
+            fileSlot >= 0 ? writer.value(*entity, slot, *mapping.fileAttribute(slot)) : std::nullopt;
         auto const before = fileSlot >= 0 ? parser.argumentSpan(index, place) : std::nullopt;
         if (value && before)
             texts.emplace_back(place, respelled(*before, *value));
@@ -314,7 +372,8 @@ void IfcFile::patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::v
         notStored.push_back(std::string(entity->getEntityName()) + " #" + std::to_string(idOf(index)));
 }
 
-void IfcFile::patchAddition(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored)
+void IfcFile::patchAddition(step::StepPatch& patch, fc::EntityIndex index,
+                            std::vector<std::string>& notStored)
 {
     auto const entity = m_data->entity(index);
     ClassMapping const* const mapping = m_source.version().forNewObject(m_data->classNumber(index));

@@ -17,6 +17,10 @@
 #include <unordered_map>
 #include <vector>
 
+namespace qev::ifc::def::schema {
+class Entity;
+}
+
 namespace qev::ifc {
 
 class FileSource;
@@ -108,6 +112,8 @@ private:
     step::StepPatch makePatch(std::vector<std::string>& notStored);
     void patchChanges(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored);
     void patchAddition(step::StepPatch& patch, fc::EntityIndex index, std::vector<std::string>& notStored);
+    /// The class by which an entity stands in the file; null when it has none there.
+    [[nodiscard]] def::schema::Entity const* fileClassOf(fc::EntityIndex index) const;
     /// "IfcWall #12.Name", for messages.
     [[nodiscard]] std::string nameOf(fc::FcBase const& entity, unsigned int slot) const;
     void giveIds();
