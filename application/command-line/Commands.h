@@ -91,6 +91,27 @@ struct ImportOptions
     std::filesystem::path output;
 };
 
+struct ButtonsOptions
+{
+    std::filesystem::path file;
+    Format format = Format::Text;
+    std::string globalId;
+};
+
+struct ClickOptions
+{
+    std::filesystem::path file;
+    std::filesystem::path output;
+    std::string globalId;
+    /// The row, and the key of its button; some buttons have an empty one.
+    std::string path;
+    std::string button;
+    /// The rows to choose in the lists that open, and the code of a classification, in turn.
+    std::vector<std::string> choices;
+    /// What to type into the popup of bounds, or of a table; none where there is no such popup.
+    std::vector<std::string> values;
+};
+
 ExitCode runInfo(InfoOptions const& options);
 ExitCode runSave(SaveOptions const& options);
 ExitCode runObjects(ObjectsOptions const& options);
@@ -100,5 +121,7 @@ ExitCode runSet(SetOptions const& options);
 ExitCode runEntity(EntityOptions const& options);
 ExitCode runList(ListOptions const& options);
 ExitCode runImport(ImportOptions const& options);
+ExitCode runButtons(ButtonsOptions const& options);
+ExitCode runClick(ClickOptions const& options);
 
 } // namespace qev::application

@@ -48,6 +48,14 @@ std::vector<fc::EntityIndex> findObjects(ifc::IfcFile const& file, ObjectSelecti
     return places;
 }
 
+std::shared_ptr<fc::FcBase> findObject(ifc::IfcFile const& file, std::string const& globalId)
+{
+    auto entity = file.entityFromGlobalId(globalId);
+    if (!entity)
+        std::cerr << "qev-ifc: there is no object with the GlobalId " << globalId << '\n';
+    return entity;
+}
+
 void releaseIfMany(fc::Data& data, std::size_t held)
 {
     constexpr std::size_t mostObjects = 20'000;

@@ -3,6 +3,7 @@
 #include "Format/Ifc/Model/IfcFile.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,9 @@ struct ObjectSelection
 /// The places of the selected objects: in the order of the global ids, or by class and then as in the file.
 /// What cannot be found is told on the error stream.
 std::vector<fc::EntityIndex> findObjects(ifc::IfcFile const& file, ObjectSelection const& selection);
+
+/// The entity with this global id; null, and told on the error stream, when there is none.
+std::shared_ptr<fc::FcBase> findObject(ifc::IfcFile const& file, std::string const& globalId);
 
 /// Lets go of what nobody holds any more, once there are so many objects beside \p held of them that they
 /// take some ten megabytes. Neighbours share types and relations, which are read again after each release.

@@ -77,6 +77,8 @@ struct CommandLine
     EntityOptions entity;
     ListOptions list;
     ImportOptions importTable;
+    ButtonsOptions buttons;
+    ClickOptions click;
     bool showReports = false;
     std::vector<std::filesystem::path> definitions;
     std::vector<std::filesystem::path> classifications;
@@ -84,6 +86,9 @@ struct CommandLine
     std::function<ExitCode()> run;
 
     void addTo(CLI::App& app);
+
+private:
+    void addEditor(CLI::App& app);
 };
 
 void CommandLine::addTo(CLI::App& app)
@@ -167,15 +172,42 @@ void CommandLine::addTo(CLI::App& app)
     addOutput(*command, importTable.output);
     command->callback([this] { run = [this] { return runImport(importTable); }; });
 
+    addEditor(app);
+
     app.add_flag("--reports", showReports, "print reports of programming errors on the error stream");
     app.add_option("--definitions", definitions,
                    "property-set definitions in the standard's XML form, a file or a folder; may be given "
                    "several times");
-    app.add_option("--classifications", classifications,
-                   "systems of classification: a table of codes (.csv), an IFC file with classifications, or a "
-                   "folder; may be given several times");
+    app.add_option(
+        "--classifications", classifications,
+        "systems of classification: a table of codes (.csv), an IFC file with classifications, or a "
+        "folder; may be given several times");
     addDisplay(app, display);
     app.require_subcommand(1);
+}
+
+/// The commands of the object editor.
+void CommandLine::addEditor(CLI::App& app)
+{
+    auto* command = app.add_subcommand("buttons", "the rows of the object editor and their buttons");
+    addFile(*command, buttons.file);
+    addFormat(*command, buttons.format);
+    command->add_option("--object", buttons.globalId, "the GlobalId of the object")->required();
+    command->callback([this] { run = [this] { return runButtons(buttons); }; });
+
+    command = app.add_subcommand("click", "press a button of the object editor, answer what opens, and save");
+    addFile(*command, click.file);
+    addOutput(*command, click.output);
+    command->add_option("--object", click.globalId, "the GlobalId of the object")->required();
+    command->add_option("--path", click.path, "the row, as buttons prints it")->required();
+    command->add_option("--button", click.button, "the key of the button; \"\" for an empty one")->required();
+    command->add_option("--choose", click.choices,
+                        "what to choose in the lists that open, one after the other, and what to tick: the "
+                        "text of a row, or its number from 0; and the code of a classification");
+    command->add_option("--values", click.values,
+                        "what to type: lower bound, upper bound and set point, or the two values of each row "
+                        "of a table; \"\" for none");
+    command->callback([this] { run = [this] { return runClick(click); }; });
 }
 
 /// Reads the schemas that every grid needs while the file is read.
