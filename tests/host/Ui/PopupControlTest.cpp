@@ -70,6 +70,19 @@ TEST_F(PopupControlTest, AStoredSizeReplacesTheSizeAndNotThePlace)
     EXPECT_EQ(control->getSettings(), (ListControlSettings{{10, 20}, {1}}));
 }
 
+TEST_F(PopupControlTest, AStoredEntryWithoutASizeKeepsTheSizeThereIs)
+{
+    dialog->storeSettings("Popup", {"ListControl", std::nullopt, std::nullopt});
+    EXPECT_EQ(open()->getSize(), Size(500, 300));
+}
+
+TEST_F(PopupControlTest, WithoutAParentThereIsNothingStored)
+{
+    auto const placement = popup->getControlPlacement(nullptr, std::nullopt, Position{1, 1});
+    EXPECT_EQ(placement.placement, (WindowPlacement{1, 1, 501, 301}));
+    EXPECT_FALSE(placement.listSettings);
+}
+
 TEST_F(PopupControlTest, ASettingsNameReplacesTheId)
 {
     dialog->storeSettings("Shared", {"ListControl", Size{640, 480}, std::nullopt});
@@ -89,10 +102,19 @@ TEST_F(PopupControlTest, ANewPlacementEndsThePresentControlAndTakesItsSize)
     EXPECT_EQ(popup->getControl(), nullptr);
 }
 
+TEST_F(PopupControlTest, ANewControlStandsBesideTheCursorToo)
+{
+    open(Position{5, 6});
+    backend->setCursorPosition(Position{300, 400});
+    auto const placement = popup->getControlPlacement(dialog, std::nullopt, std::nullopt);
+    EXPECT_EQ(placement.placement, (WindowPlacement{301, 401, 801, 701}));
+}
+
 TEST_F(PopupControlTest, ClosingHidesStoresAndTells)
 {
     auto const control = open();
     control->setPlacement({0, 0, 320, 240});
+    control->loadSettings(ListControlSettings{{10, 20}, {1}});
     EXPECT_TRUE(popup->close());
     EXPECT_FALSE(control->isVisible());
     EXPECT_EQ(closedCount, 1);
@@ -100,6 +122,41 @@ TEST_F(PopupControlTest, ClosingHidesStoresAndTells)
     ASSERT_TRUE(stored);
     EXPECT_EQ(stored->typeName, "ListControl");
     EXPECT_EQ(stored->size, Size(320, 240));
+    EXPECT_EQ(stored->listSettings, (ListControlSettings{{10, 20}, {1}}));
+}
+
+TEST_F(PopupControlTest, TheHandlersOfTheCloseRunInTheOrderTheyCame)
+{
+    std::string order;
+    popup->closed.iHandlerAdd([&order] { order += "first "; });
+    popup->closed.iHandlerAdd([&order] { order += "second"; });
+    open();
+    EXPECT_TRUE(popup->close());
+    EXPECT_EQ(order, "first second");
+}
+
+TEST_F(PopupControlTest, WithoutAnIdClosingTellsAndStoresNothing)
+{
+    popup = std::make_unique<ListPopup>(std::nullopt);
+    popup->closed.iHandlerAdd([this] { ++closedCount; });
+    open();
+    EXPECT_TRUE(popup->close());
+    EXPECT_EQ(closedCount, 1);
+    EXPECT_TRUE(dialog->getAllStoredSettings().empty());
+}
+
+TEST_F(PopupControlTest, BelowAWindowThatIsNoDialogClosingTellsAndStoresNothing)
+{
+    auto const owner = Window::create<Window>(dialog, 0, 0, {0, 0, 700, 500});
+    auto const control =
+        Window::create<ListControl>(owner, popup->getStyleFlags() | 0x24U, 0, {10, 10, 60, 60});
+    popup->setControl(control);
+    popup->onControlCreated(std::nullopt);
+    owner->show();
+    control->show();
+    EXPECT_TRUE(popup->close());
+    EXPECT_EQ(closedCount, 1);
+    EXPECT_TRUE(dialog->getAllStoredSettings().empty());
 }
 
 TEST_F(PopupControlTest, ASecondCloseIsHarmless)
@@ -179,6 +236,14 @@ TEST_F(PopupControlTest, LosingTheFocusToAnotherWindowClosesThePopup)
     EXPECT_EQ(closedCount, 1);
 }
 
+TEST_F(PopupControlTest, LosingTheFocusToNoWindowClosesThePopup)
+{
+    auto const control = open();
+    backend->setFocusedWindow(nullptr);
+    EXPECT_FALSE(control->isVisible());
+    EXPECT_EQ(closedCount, 1);
+}
+
 TEST_F(PopupControlTest, AHandlerOfTheCloseMayEndThePopup)
 {
     auto const control = open();
@@ -188,7 +253,7 @@ TEST_F(PopupControlTest, AHandlerOfTheCloseMayEndThePopup)
     EXPECT_FALSE(control->hasInterface());
 }
 
-TEST_F(PopupControlTest, TheAborterClosesEveryPopup)
+TEST_F(PopupControlTest, TheAborterFindsTheOpenPopupAndClosesIt)
 {
     auto const control = open();
     EXPECT_EQ(PopupControlAborter::current().getOpenPopup(), control);
@@ -197,6 +262,22 @@ TEST_F(PopupControlTest, TheAborterClosesEveryPopup)
     EXPECT_EQ(PopupControlAborter::current().getOpenPopup(), nullptr);
     EXPECT_FALSE(PopupControlAborter::current().abort());
     EXPECT_EQ(closedCount, 1);
+}
+
+TEST_F(PopupControlTest, TheAborterClosesAllPopupsWhereverTheFocusIs)
+{
+    ListPopup first(std::nullopt);
+    ListPopup second(std::nullopt);
+    for (auto* const each : {&first, &second}) {
+        // A popup that does not hear of its focus stays as another one opens.
+        each->setControl(
+            Window::create<ListControl>(dialog, each->getStyleFlags() | 0x24U, 0, {0, 0, 50, 50}));
+        each->getControl()->show();
+    }
+    createGrid()->setFocus();
+    EXPECT_TRUE(PopupControlAborter::current().abort());
+    EXPECT_FALSE(first.getControl()->isVisible());
+    EXPECT_FALSE(second.getControl()->isVisible());
 }
 
 TEST_F(PopupControlTest, APopupMayEndAnotherOneWhenAllAreToClose)
@@ -223,13 +304,14 @@ TEST_F(PopupControlTest, ReportsAControlThatWasNotMade)
                        "qev::ui::PopupControl<ListControl>::onControlCreated", popupPath);
 }
 
-TEST_F(PopupControlTest, ReportsSettingsWithoutAnId)
+TEST_F(PopupControlTest, ReportsSettingsWithoutAnIdAndGoesOn)
 {
     popup = std::make_unique<ListPopup>(std::nullopt);
+    open();
     popup->storeSettings();
     test::expectReport("Only to be called when id is set.",
                        "qev::ui::PopupControl<ListControl>::storeSettings", popupPath);
-    EXPECT_EQ(popup->getStoredSettings(dialog), std::nullopt);
+    EXPECT_NE(popup->getStoredSettings(dialog), std::nullopt);
     test::expectReport("Only to be called when popup id is set.",
                        "qev::ui::PopupControl<ListControl>::getStoredSettings", popupPath);
 }
