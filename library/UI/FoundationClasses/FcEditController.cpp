@@ -235,7 +235,7 @@ void FcEditController::followReference(FcPropertyWrapper const& wrapper, Propert
 
 // --- Around a change of the model -------------------------------------------------------------------
 
-std::unique_ptr<FcEditController::ListPopup>
+std::unique_ptr<FcEditController::ListPopupControl>
 FcEditController::createListPopupControl(std::string popupId, std::shared_ptr<Owner> const& owner,
                                          std::optional<qev::ui::Position> position)
 {
@@ -243,7 +243,7 @@ FcEditController::createListPopupControl(std::string popupId, std::shared_ptr<Ow
         reportInController("createListPopupControl", "Could not get owner.");
         return nullptr;
     }
-    auto popup = std::make_unique<ListPopup>(std::move(popupId));
+    auto popup = std::make_unique<ListPopupControl>(std::move(popupId));
     auto const parent = owner->getPopupParentWindow();
     auto const placement = popup->getControlPlacement(parent, popupSettingsId, position);
     popup->setControl(qev::ui::Window::create<qev::ui::ListControl>(

@@ -93,7 +93,7 @@ protected:
 
 private:
     using Wrapper = propertyinterface::FcPropertyWrapper;
-    using ListPopup = qev::ui::PopupControl<qev::ui::ListControl>;
+    using ListPopupControl = qev::ui::PopupControl<qev::ui::ListControl>;
     using Objects = std::vector<std::shared_ptr<core::kernel::FcObjectDefinition>>;
 
     /// The objects that answer for \p id. Empty, with a report, when one of them is no \p T.
@@ -103,7 +103,7 @@ private:
     [[nodiscard]] std::vector<std::shared_ptr<Wrapper>> getWritableWrappers() const;
 
     /// Null, with a report, without an owner.
-    [[nodiscard]] static std::unique_ptr<ListPopup>
+    [[nodiscard]] static std::unique_ptr<ListPopupControl>
     createListPopupControl(std::string popupId, std::shared_ptr<Owner> const& owner,
                            std::optional<qev::ui::Position> position = std::nullopt);
 
