@@ -31,8 +31,9 @@ EditBoundedValuePropertyPopupController::EditBoundedValuePropertyPopupController
     if (!holdsOneObject(m_objects, name))
         return;
     auto const& property = *m_objects.front();
-    for (auto const* const key : {"LowerBoundValue", "UpperBoundValue", "SetPointValue"})
-        m_labels.push_back(fc::localize(key, "IfcPropertyBoundedValue"));
+    // The dictionaries have these texts under the attribute, and the entity behind it.
+    for (auto const* const attribute : {"LowerBoundValue", "UpperBoundValue", "SetPointValue"})
+        m_labels.push_back(fc::localize(attribute, "IfcPropertyBoundedValue"));
     m_values = {property.LowerBoundValue.get(), property.UpperBoundValue.get(), property.SetPointValue.get()};
 }
 

@@ -215,6 +215,10 @@ TEST_F(AddPropertyPopupControllerTest, SetsWithoutANameHaveNoRows)
     show(unnamed);
     EXPECT_EQ(list->getRowCount(), 0u);
     EXPECT_EQ(controller->getPsetName(), "");
+    auto const behindUnnamed = sets({"Pset_Toy", "Pset_Toy"});
+    behindUnnamed.front()->Name = std::nullopt;
+    show(behindUnnamed);
+    EXPECT_EQ(list->getRowCount(), 0u);
 }
 
 TEST_F(AddPropertyPopupControllerTest, ReportsSetsOfSeveralNames)
@@ -262,11 +266,16 @@ TEST_F(AddPropertyPopupControllerTest, ReportsUnknownColumns)
     EXPECT_EQ(list->getText(3, 2), "");
 }
 
-TEST_F(AddPropertyPopupControllerTest, ReportsThatThereIsNoControl)
+TEST_F(AddPropertyPopupControllerTest, ReportsThatThereIsNoControlAndKeepsNoCallback)
 {
-    AddPropertyPopupController unattached(sets({"Pset_Toy"}), schema.get());
-    unattached.show(nullptr);
+    controller = std::make_unique<AddPropertyPopupController>(sets({"Pset_Toy"}), schema.get());
+    controller->show([this](std::vector<Def const*> const&) { chosen.emplace_back(); });
     expectPopupReport("Not attached to any control yet.", className, "show");
+
+    controller->attachToControl(makePopup());
+    window.lock()->show();
+    EXPECT_TRUE(list->activate(0, 0));
+    EXPECT_THAT(chosen, IsEmpty());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "UI/FoundationClasses/Controllers/AddPsetPopupController.h"
 
 #include "Format/Ifc/Schema/SchemaLoader.h"
+#include "library/kit/TranslationScope.h"
 #include "PopupFixture.h"
 
 namespace {
@@ -77,6 +78,16 @@ TEST_F(AddPsetPopupControllerTest, HasAColumnOfNamesAndOneOfDescriptions)
                             "  Pset_Toy | What a toy has\n");
     EXPECT_TRUE(isOpen());
     EXPECT_TRUE(list->hasFocus());
+}
+
+TEST_F(AddPsetPopupControllerTest, TextsAreLookedUpUnderTheNameAlone)
+{
+    TranslationScope texts;
+    texts.add("Pset_Toy", "Spielzeug");
+    texts.add("Pset_Toy_Description", "Was es hat");
+    show({model.wall("W1")}, setFor("Pset_Toy", {}));
+    EXPECT_EQ(list->getText(0, 0), "Spielzeug");
+    EXPECT_EQ(list->getText(0, 1), "Was es hat");
 }
 
 TEST_F(AddPsetPopupControllerTest, SetsOfTheStandardStandBeforeOthersAndThenByName)

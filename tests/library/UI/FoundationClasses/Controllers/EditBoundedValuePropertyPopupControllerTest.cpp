@@ -161,6 +161,27 @@ TEST_F(EditBoundedValuePropertyPopupControllerTest, WithoutADefinitionTickingCop
     EXPECT_THAT(close(), ElementsAre(length(2), length(2), length(3)));
 }
 
+TEST_F(EditBoundedValuePropertyPopupControllerTest, ADefinitionOfAQuantityCountsAsNone)
+{
+    auto const property = boundedValue("Length", FcValue(), length(2), FcValue());
+    model.addSet(model.wall("W1"), "Qto_WallBaseQuantities")->HasProperties.addProperty(property);
+    show({property});
+    EXPECT_TRUE(list->clickCheckBox(0, 0));
+    EXPECT_THAT(close(), ElementsAre(length(2), length(2), FcValue()));
+}
+
+TEST_F(EditBoundedValuePropertyPopupControllerTest, TheOtherValuesDoNotHelpOutADefinitionWithoutAType)
+{
+    // The standard has a table of this name, which is of two types.
+    auto const property = boundedValue("LinearPath", FcValue(), length(2), FcValue());
+    model.addSet(model.wall("W1"), "Pset_ElementKinematics")->HasProperties.addProperty(property);
+    show({property});
+    fireEvent(window.lock()->onCheckBoxClicked, Item{0, 0}, CheckState::Checked);
+    expectPopupReport("Could not figure out the correct measure type for the value to set.", className,
+                      "handleCheckBoxClicked");
+    EXPECT_THAT(close(), ElementsAre(FcValue(), length(2), FcValue()));
+}
+
 TEST_F(EditBoundedValuePropertyPopupControllerTest, ReportsWhereNothingSaysTheType)
 {
     show({boundedValue("Width", FcValue(), FcValue(), FcValue())});
@@ -257,12 +278,18 @@ TEST_F(EditBoundedValuePropertyPopupControllerTest, ReportsAnUnknownColumn)
     expectPopupReport("Unknown column", className, "handleGetItemString");
 }
 
-TEST_F(EditBoundedValuePropertyPopupControllerTest, ReportsThatThereIsNoControl)
+TEST_F(EditBoundedValuePropertyPopupControllerTest, ReportsThatThereIsNoControlAndKeepsNoCallback)
 {
-    EditBoundedValuePropertyPopupController unattached({}, "");
-    expectPopupReport("Multi edit not supported yet.", className, className);
-    unattached.show(nullptr);
+    controller = std::make_unique<EditBoundedValuePropertyPopupController>(
+        Properties{boundedValue("Width", length(1), FcValue(), FcValue())}, "");
+    controller->show([this](Values values) { results.push_back(std::move(values)); });
     expectPopupReport("Not attached to any control yet.", className, "show");
+
+    controller->attachToControl(makePopup());
+    window.lock()->show();
+    turnElsewhere();
+    EXPECT_FALSE(isOpen());
+    EXPECT_THAT(results, IsEmpty());
 }
 
 } // namespace

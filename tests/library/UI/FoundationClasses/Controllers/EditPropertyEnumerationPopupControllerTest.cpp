@@ -120,6 +120,14 @@ TEST_F(EditPropertyEnumerationPopupControllerTest, UntickingTakesAllCopiesOfTheV
     EXPECT_THAT(results, ElementsAre(ElementsAre(label("oiled"))));
 }
 
+TEST_F(EditPropertyEnumerationPopupControllerTest, UntickingLeavesWhatOnlyReadsLikeTheValue)
+{
+    show({finish({label(" raw "), label("raw")})});
+    EXPECT_TRUE(list->clickCheckBox(2, 0));
+    turnElsewhere();
+    EXPECT_THAT(results, ElementsAre(ElementsAre(label(" raw "))));
+}
+
 TEST_F(EditPropertyEnumerationPopupControllerTest, AnyStateButCheckedUnticks)
 {
     show({finish({label("raw")})});
@@ -213,11 +221,17 @@ TEST_F(EditPropertyEnumerationPopupControllerTest, ReportsUnknownColumns)
     expectPopupReport("Unknown column", className, "handleGetItemString");
 }
 
-TEST_F(EditPropertyEnumerationPopupControllerTest, ReportsThatThereIsNoControl)
+TEST_F(EditPropertyEnumerationPopupControllerTest, ReportsThatThereIsNoControlAndKeepsNoCallback)
 {
-    EditPropertyEnumerationPopupController unattached({finish({})});
-    unattached.show(nullptr);
+    controller = std::make_unique<EditPropertyEnumerationPopupController>(Properties{finish({label("raw")})});
+    controller->show([this](Values values) { results.push_back(std::move(values)); });
     expectPopupReport("Not attached to any control yet.", className, "show");
+
+    controller->attachToControl(makePopup());
+    window.lock()->show();
+    turnElsewhere();
+    EXPECT_FALSE(isOpen());
+    EXPECT_THAT(results, IsEmpty());
 }
 
 } // namespace

@@ -161,6 +161,14 @@ TEST_F(EditPropertyTablePopupControllerTest, EndingTheEditBelowTheLastRowAppends
     EXPECT_THAT(close(), ElementsAre(Pair(seconds(3), length(0)), Pair(seconds(0), length(4))));
 }
 
+TEST_F(EditPropertyTablePopupControllerTest, ATextThatIsNoValueBelowTheLastRowAppendsARowWithoutIt)
+{
+    show({emptyPath()});
+    EXPECT_FALSE(list->commitText("soon"));
+    EXPECT_EQ(list->getRowCount(), 1u);
+    EXPECT_THAT(close(), ElementsAre(Pair(seconds(0), length(0))));
+}
+
 TEST_F(EditPropertyTablePopupControllerTest, LeavingTheEditBelowTheLastRowAppendsNone)
 {
     show({emptyPath()});
@@ -306,11 +314,17 @@ TEST_F(EditPropertyTablePopupControllerTest, ReportsAnUnknownColumn)
     expectPopupReport("Unknown column", className, "handleGetColumnHeaderString");
 }
 
-TEST_F(EditPropertyTablePopupControllerTest, ReportsThatThereIsNoControl)
+TEST_F(EditPropertyTablePopupControllerTest, ReportsThatThereIsNoControlAndKeepsNoCallback)
 {
-    EditPropertyTablePopupController unattached(model.data(), {lengths()}, "");
-    unattached.show(nullptr);
+    controller = std::make_unique<EditPropertyTablePopupController>(model.data(), Properties{lengths()}, "");
+    controller->show([this](Rows rows) { results.push_back(std::move(rows)); });
     expectPopupReport("Not attached to any control yet.", className, "show");
+
+    controller->attachToControl(makePopup());
+    window.lock()->show();
+    turnElsewhere();
+    EXPECT_FALSE(isOpen());
+    EXPECT_THAT(results, IsEmpty());
 }
 
 } // namespace
