@@ -7,9 +7,11 @@
 namespace qev::fc {
 
 AttributeBase::AttributeBase(FcBase* owner, unsigned int slot)
-    : m_ownerOffset(static_cast<std::uint16_t>(reinterpret_cast<char const*>(this) - reinterpret_cast<char const*>(owner)))
+    : m_ownerOffset(static_cast<std::uint16_t>(reinterpret_cast<char const*>(this) -
+                                               reinterpret_cast<char const*>(owner)))
     , m_slot(static_cast<std::uint16_t>(slot))
-{}
+{
+}
 
 FcBase& AttributeBase::owner() const
 {

@@ -26,7 +26,8 @@ bool readAs(T& value, ValueKind kind, std::string_view expected, AttributeDescri
     return false;
 }
 
-std::optional<EntityIndex> indexOf(AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+std::optional<EntityIndex> indexOf(AttributeDescriptor const& attribute, StepValue const& from,
+                                   AttributeReader& reader)
 {
     if (from.kind() != Kind::Reference) {
         reader.mismatch(attribute, "a reference", from);
@@ -87,8 +88,9 @@ SelectMember const* typeMember(SelectDescriptor const& select, std::string_view 
 }
 
 /// A member that is an aggregate of entities, such as a set of property sets.
-bool readSelectedReferences(SelectBase& select, SelectMember const& member, AttributeDescriptor const& attribute,
-                            StepValue const& list, AttributeReader& reader)
+bool readSelectedReferences(SelectBase& select, SelectMember const& member,
+                            AttributeDescriptor const& attribute, StepValue const& list,
+                            AttributeReader& reader)
 {
     std::vector<ReferenceBase> references;
     for (StepValue const& item : list.items()) {
@@ -104,9 +106,10 @@ bool readSelectedValue(SelectBase& select, AttributeDescriptor const& attribute,
     SelectMember const* const member = typeMember(select.descriptor(), from.textValue());
     if (member && member->kind == ValueKind::Reference && from.items().size() == 1)
         return readSelectedReferences(select, *member, attribute, from.items().front(), reader);
-    auto payload = member && from.items().size() == 1
-                       ? readPayload(member->name, member->kind, member->isAggregate, from.items().front(), reader)
-                       : std::nullopt;
+    auto payload =
+        member && from.items().size() == 1
+            ? readPayload(member->name, member->kind, member->isAggregate, from.items().front(), reader)
+            : std::nullopt;
     if (payload && select.setValue(member->name, std::move(*payload)))
         return true;
     reader.mismatch(attribute, "a value of " + std::string(select.descriptor().name), from);
@@ -126,7 +129,8 @@ StepValue writeReferences(std::vector<ReferenceBase> const& references, Attribut
 
 } // namespace
 
-bool read(std::string& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(std::string& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     return readAs(value, ValueKind::Text, "a text", attribute, from, reader);
 }
@@ -136,11 +140,13 @@ bool read(double& value, AttributeDescriptor const& attribute, StepValue const& 
     return readAs(value, ValueKind::Real, "a number", attribute, from, reader);
 }
 
-bool read(std::int64_t& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(std::int64_t& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     double number = 0.0;
     // Counts were plain numbers before IFC4X3, so older files may hold "4." or "4.5".
-    if (from.kind() == Kind::Real && readAs(number, ValueKind::Real, "a whole number", attribute, from, reader)) {
+    if (from.kind() == Kind::Real &&
+        readAs(number, ValueKind::Real, "a whole number", attribute, from, reader)) {
         if (std::abs(number) < 9.0e18) {
             value = static_cast<std::int64_t>(number);
             return true;
@@ -154,7 +160,8 @@ bool read(bool& value, AttributeDescriptor const& attribute, StepValue const& fr
     return readAs(value, ValueKind::Boolean, ".T. or .F.", attribute, from, reader);
 }
 
-bool read(Logical& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(Logical& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     return readAs(value, ValueKind::Logical, ".T., .F. or .U.", attribute, from, reader);
 }
@@ -164,7 +171,8 @@ bool read(Binary& value, AttributeDescriptor const& attribute, StepValue const& 
     return readAs(value, ValueKind::Binary, "a binary", attribute, from, reader);
 }
 
-bool read(ReferenceBase& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(ReferenceBase& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     auto reference = readReference(attribute, from, reader);
     if (reference)
@@ -172,7 +180,8 @@ bool read(ReferenceBase& value, AttributeDescriptor const& attribute, StepValue 
     return reference.has_value();
 }
 
-bool read(ReferenceListBase& list, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(ReferenceListBase& list, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     if (from.kind() != Kind::List) {
         reader.mismatch(attribute, "a list of references", from);
@@ -188,7 +197,8 @@ bool read(ReferenceListBase& list, AttributeDescriptor const& attribute, StepVal
     return true;
 }
 
-bool read(SelectBase& select, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(SelectBase& select, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     if (from.kind() == Kind::Typed)
         return readSelectedValue(select, attribute, from, reader);
@@ -201,12 +211,14 @@ bool read(SelectBase& select, AttributeDescriptor const& attribute, StepValue co
     return false;
 }
 
-bool read(FcValue& value, AttributeDescriptor const& attribute, StepValue const& from, AttributeReader& reader)
+bool read(FcValue& value, AttributeDescriptor const& attribute, StepValue const& from,
+          AttributeReader& reader)
 {
     auto const* const info = from.kind() == Kind::Typed ? valueTypeFromKeyword(from.textValue()) : nullptr;
-    auto payload = info && from.items().size() == 1
-                       ? readPayload(info->schemaName, info->kind, info->isAggregate, from.items().front(), reader)
-                       : std::nullopt;
+    auto payload =
+        info && from.items().size() == 1
+            ? readPayload(info->schemaName, info->kind, info->isAggregate, from.items().front(), reader)
+            : std::nullopt;
     if (payload && value.assign(info->schemaName, std::move(*payload)))
         return true;
     reader.mismatch(attribute, "a typed value such as IFCLABEL('text')", from);
@@ -276,8 +288,10 @@ StepValue write(SelectBase const& select, AttributeDescriptor const& attribute, 
     if (select.typeName().empty())
         return write(select.reference(), attribute, writer);
     if (!select.references().empty())
-        return StepValue::typed(str::toUpper(select.typeName()), writeReferences(select.references(), writer));
-    return StepValue::typed(str::toUpper(select.typeName()), writePayload(select.typeName(), select.payload(), writer));
+        return StepValue::typed(str::toUpper(select.typeName()),
+                                writeReferences(select.references(), writer));
+    return StepValue::typed(str::toUpper(select.typeName()),
+                            writePayload(select.typeName(), select.payload(), writer));
 }
 
 StepValue write(FcValue const& value, AttributeDescriptor const&, AttributeWriter const& writer)
@@ -285,7 +299,8 @@ StepValue write(FcValue const& value, AttributeDescriptor const&, AttributeWrite
     auto const* const info = value.typeInfo();
     if (!info)
         return {};
-    return StepValue::typed(str::toUpper(info->schemaName), writePayload(info->schemaName, value.payload(), writer));
+    return StepValue::typed(str::toUpper(info->schemaName),
+                            writePayload(info->schemaName, value.payload(), writer));
 }
 
 StepValue writeItem(std::optional<std::uint16_t> item, AttributeDescriptor const& attribute)

@@ -77,7 +77,9 @@ std::shared_ptr<Data> Data::create(std::unique_ptr<EntitySource> source)
     return std::shared_ptr<Data>(new Data(std::move(source)));
 }
 
-Data::Data(std::unique_ptr<EntitySource> source) : m_source(std::move(source)), m_changes(*this)
+Data::Data(std::unique_ptr<EntitySource> source)
+    : m_source(std::move(source))
+    , m_changes(*this)
 {
     if (!m_source)
         return;
@@ -210,7 +212,8 @@ void Data::setState(EntityIndex index, State state)
     bool const isDeletion = state == Deleted;
     if (m_deleted[index] == isDeletion)
         return;
-    // What refers from a deleted entity does not count, so the indexes are brought up to date while it is present.
+    // What refers from a deleted entity does not count, so the indexes are brought up to date while it is
+    // present.
     m_deleted[index] = false;
     FcBase const* const object = existingObject(index);
     for (unsigned int slot = 0; object && slot < object->getEntityClass().attributes.size(); ++slot)
@@ -234,7 +237,10 @@ std::vector<EntityIndex> Data::indicesFromId(unsigned int first, unsigned int la
     return indices;
 }
 
-std::size_t Data::countFromId(unsigned int first, unsigned int last) const { return indicesFromId(first, last).size(); }
+std::size_t Data::countFromId(unsigned int first, unsigned int last) const
+{
+    return indicesFromId(first, last).size();
+}
 
 std::pair<EntityIterator, EntityIterator> Data::rangeFromId(unsigned int first, unsigned int last)
 {
@@ -247,7 +253,8 @@ std::pair<EntityIterator, EntityIterator> Data::rangeFromId(unsigned int first, 
     return {EntityIterator(*this, indices, 0), EntityIterator(*this, indices, indices->size())};
 }
 
-void Data::visitReferences(EntityIndex index, unsigned int slot, std::function<void(EntityIndex)> const& visit) const
+void Data::visitReferences(EntityIndex index, unsigned int slot,
+                           std::function<void(EntityIndex)> const& visit) const
 {
     FcBase const* const object = existingObject(index);
     if (!object) {
@@ -261,7 +268,8 @@ void Data::visitReferences(EntityIndex index, unsigned int slot, std::function<v
     });
 }
 
-InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relationLast, unsigned int slot) const
+InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relationLast,
+                                 unsigned int slot) const
 {
     InverseKey const key{relationFirst, relationLast, slot};
     if (auto const found = m_inverseIndexes.find(key); found != m_inverseIndexes.end())
@@ -274,7 +282,8 @@ InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relati
         EntityIndex const relation = relations[i];
         if (i + ahead < relations.size() && !isCreated(relations[i + ahead]))
             m_source->expect(relations[i + ahead]);
-        visitReferences(relation, slot, [&](EntityIndex target) { references.emplace_back(target, relation); });
+        visitReferences(relation, slot,
+                        [&](EntityIndex target) { references.emplace_back(target, relation); });
     }
     return m_inverseIndexes.emplace(key, InverseIndex(std::move(references))).first->second;
 }
@@ -390,7 +399,8 @@ std::vector<EntityIndex> Data::touchedEntities() const
         if (!m_pages[page])
             continue;
         for (auto const& object : m_pages[page]->objects) {
-            if (object && (object->m_changedSlots != 0 || isCreated(object->m_index) || m_deleted[object->m_index]))
+            if (object &&
+                (object->m_changedSlots != 0 || isCreated(object->m_index) || m_deleted[object->m_index]))
                 touched.push_back(object->m_index);
         }
     }

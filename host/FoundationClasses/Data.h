@@ -47,12 +47,14 @@ public:
     [[nodiscard]] std::uint16_t classNumber(EntityIndex index) const;
     [[nodiscard]] bool isDeleted(EntityIndex index) const;
     [[nodiscard]] bool isCreated(EntityIndex index) const { return index >= m_sourceCount; }
-    /// The entity at a place, made of its record if need be. Null for a deleted entity and one without a class.
+    /// The entity at a place, made of its record if need be. Null for a deleted entity and one without a
+    /// class.
     [[nodiscard]] std::shared_ptr<FcBase> entity(EntityIndex index) const;
     /// The object at a place if there is one already.
     [[nodiscard]] FcBase* existingObject(EntityIndex index) const;
 
-    /// The places of all entities with a type number of \p first to \p last, ascending by class, then by place.
+    /// The places of all entities with a type number of \p first to \p last, ascending by class, then by
+    /// place.
     [[nodiscard]] std::vector<EntityIndex> indicesFromId(unsigned int first, unsigned int last) const;
     [[nodiscard]] std::size_t countFromId(unsigned int first, unsigned int last) const;
 
@@ -70,9 +72,11 @@ public:
         return {begin, end};
     }
 
-    /// The places of the entities of \p relationFirst to \p relationLast whose attribute at \p slot refers to \p target, ascending.
+    /// The places of the entities of \p relationFirst to \p relationLast whose attribute at \p slot refers to
+    /// \p target, ascending.
     [[nodiscard]] std::vector<EntityIndex> const& relating(EntityIndex target, unsigned int relationFirst,
-                                                           unsigned int relationLast, unsigned int slot) const;
+                                                           unsigned int relationLast,
+                                                           unsigned int slot) const;
     /// Tells whether any entity of the model refers to the one at \p target.
     [[nodiscard]] bool isReferenced(EntityIndex target) const;
     /// Deletes an entity that nothing refers to any more; false when something does.
@@ -96,8 +100,10 @@ public:
     EventHandlerContainer<void, void, std::vector<EntityIndex> const&> changed;
 
 protected:
-    [[nodiscard]] std::pair<EntityIterator, EntityIterator> rangeFromId(unsigned int first, unsigned int last);
-    [[nodiscard]] std::pair<EntityIterator, EntityIterator> rangeFromId(unsigned int first, unsigned int last) const;
+    [[nodiscard]] std::pair<EntityIterator, EntityIterator> rangeFromId(unsigned int first,
+                                                                        unsigned int last);
+    [[nodiscard]] std::pair<EntityIterator, EntityIterator> rangeFromId(unsigned int first,
+                                                                        unsigned int last) const;
 
 private:
     friend class AttributeBase;
@@ -109,7 +115,11 @@ private:
     {
         std::shared_ptr<FcBase> objects[pageSize];
     };
-    enum State : std::uint8_t { Present, Deleted };
+    enum State : std::uint8_t
+    {
+        Present,
+        Deleted
+    };
 
     explicit Data(std::unique_ptr<EntitySource> source);
 
@@ -123,7 +133,8 @@ private:
     [[nodiscard]] InverseIndex& inverseIndex(unsigned int relationFirst, unsigned int relationLast,
                                              unsigned int slot) const;
     void indexReferences(FcBase const& entity, unsigned int slot, bool add) const;
-    void visitReferences(EntityIndex index, unsigned int slot, std::function<void(EntityIndex)> const& visit) const;
+    void visitReferences(EntityIndex index, unsigned int slot,
+                         std::function<void(EntityIndex)> const& visit) const;
 
     std::unique_ptr<EntitySource> m_source;
     std::size_t m_sourceCount = 0;

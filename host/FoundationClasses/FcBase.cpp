@@ -7,8 +7,8 @@
 #include "FoundationClasses/Data.h"
 #include "FoundationClasses/FcVisitorBase.h"
 #include "FoundationClasses/FcVisitorBaseNonConst.h"
-#include "FoundationClasses/LocalValues.h"
 #include "FoundationClasses/Localize.h"
+#include "FoundationClasses/LocalValues.h"
 #include "FoundationClasses/TextReader.h"
 #include "Object/Property.h"
 
@@ -49,8 +49,9 @@ bool isSimple(AttributeDescriptor const& attribute)
 
 unsigned int slotFromName(EntityClass const& entityClass, std::string_view attribute)
 {
-    auto const found = std::find_if(entityClass.attributes.begin(), entityClass.attributes.end(),
-                                    [attribute](AttributeDescriptor const* candidate) { return candidate->name == attribute; });
+    auto const found = std::find_if(
+        entityClass.attributes.begin(), entityClass.attributes.end(),
+        [attribute](AttributeDescriptor const* candidate) { return candidate->name == attribute; });
     return static_cast<unsigned int>(found - entityClass.attributes.begin());
 }
 
@@ -79,7 +80,8 @@ void FcBase::accept(FcVisitorBase& visitor) const { visitor.visit(*this); }
 
 EntityClass const& FcBase::staticEntityClass()
 {
-    static constexpr EntityClass entityClass{"FcBase", "FCBASE", "", "", 0, idLast, true, nullptr, {}, 0, {}, nullptr};
+    static constexpr EntityClass entityClass{"FcBase", "FCBASE", "", "", 0,  idLast,
+                                             true,     nullptr,  {}, 0,  {}, nullptr};
     return entityClass;
 }
 
@@ -108,9 +110,15 @@ std::shared_ptr<FcBase> FcBase::copy(FcCopySettings settings) const
     return result;
 }
 
-AttributeBase& FcBase::attribute(unsigned int slot) { return getEntityClass().attributes[slot]->access(*this); }
+AttributeBase& FcBase::attribute(unsigned int slot)
+{
+    return getEntityClass().attributes[slot]->access(*this);
+}
 
-AttributeBase const& FcBase::attribute(unsigned int slot) const { return const_cast<FcBase*>(this)->attribute(slot); }
+AttributeBase const& FcBase::attribute(unsigned int slot) const
+{
+    return const_cast<FcBase*>(this)->attribute(slot);
+}
 
 bool FcBase::setAttributeFromString(std::string const& value, std::string const& name)
 {
@@ -144,10 +152,11 @@ void FcBase::forEachEntity(std::function<void(std::shared_ptr<FcBase> const&)> c
 {
     auto const attributes = getEntityClass().attributes;
     for (unsigned int slot = 0; slot < attributes.size(); ++slot) {
-        attributes[slot]->operations->visitReferences(attribute(slot), [&visit](ReferenceBase const& reference) {
-            if (auto const entity = reference.entity())
-                visit(entity);
-        });
+        attributes[slot]->operations->visitReferences(attribute(slot),
+                                                      [&visit](ReferenceBase const& reference) {
+                                                          if (auto const entity = reference.entity())
+                                                              visit(entity);
+                                                      });
     }
 }
 
@@ -187,7 +196,8 @@ FcBase::createQuantityPresentationLocal(object::PropertyId const& id) const
 
 std::string FcBase::getPropertyName(object::PropertyId const& id) const
 {
-    return localizeWithFallback(std::string(getEntityName()) + "." + id.text(), localizeWithFallback(id.text(), id.text()));
+    return localizeWithFallback(std::string(getEntityName()) + "." + id.text(),
+                                localizeWithFallback(id.text(), id.text()));
 }
 
 std::string FcBase::getPropertyDescription(object::PropertyId const& id) const
@@ -238,7 +248,8 @@ std::vector<std::shared_ptr<FcBase>> FcBase::relating(InverseDescriptor const& i
     std::vector<std::shared_ptr<FcBase>> result;
     if (!m_data)
         return result;
-    for (EntityIndex const index : m_data->relating(m_index, inverse.relationFirst, inverse.relationLast, inverse.slot)) {
+    for (EntityIndex const index :
+         m_data->relating(m_index, inverse.relationFirst, inverse.relationLast, inverse.slot)) {
         if (auto entity = m_data->entity(index))
             result.push_back(std::move(entity));
     }

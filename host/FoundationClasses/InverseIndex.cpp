@@ -39,7 +39,8 @@ std::vector<EntityIndex>& InverseIndex::changeable(EntityIndex target) const
     auto const [position, isNew] = m_lists.try_emplace(target);
     std::vector<EntityIndex>& list = position->second;
     if (isNew) {
-        auto reference = std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
+        auto reference =
+            std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
         for (; reference != m_references.end() && reference->first == target; ++reference)
             list.push_back(reference->second);
     }

@@ -40,14 +40,22 @@ LocalValue::Variant textOf(StepValue const& value, AttributeDescriptor const& de
 LocalValue::Variant variantOf(StepValue const& value, AttributeDescriptor const& descriptor)
 {
     switch (value.kind()) {
-    case Kind::Integer: return value.integerValue();
-    case Kind::Real: return value.realValue();
-    case Kind::Text: return textOf(value, descriptor);
-    case Kind::Binary: return value.textValue();
-    case Kind::Enumeration: return enumerationOf(value, descriptor.kind);
-    case Kind::Typed: return variantOf(value.items().front(), descriptor);
-    case Kind::List: return listOf(value, descriptor);
-    default: return std::monostate();
+    case Kind::Integer:
+        return value.integerValue();
+    case Kind::Real:
+        return value.realValue();
+    case Kind::Text:
+        return textOf(value, descriptor);
+    case Kind::Binary:
+        return value.textValue();
+    case Kind::Enumeration:
+        return enumerationOf(value, descriptor.kind);
+    case Kind::Typed:
+        return variantOf(value.items().front(), descriptor);
+    case Kind::List:
+        return listOf(value, descriptor);
+    default:
+        return std::monostate();
     }
 }
 
@@ -74,18 +82,27 @@ struct StepOfLocalValue
     using Result = std::optional<StepValue>;
 
     Result operator()(std::monostate) const { return std::nullopt; }
-    Result operator()(LocalValue::Unset) const { return descriptor.isOptional ? Result(StepValue()) : std::nullopt; }
+    Result operator()(LocalValue::Unset) const
+    {
+        return descriptor.isOptional ? Result(StepValue()) : std::nullopt;
+    }
     Result operator()(bool value) const { return StepValue::enumeration(value ? "T" : "F"); }
     Result operator()(double value) const { return StepValue::real(value); }
     Result operator()(std::int64_t value) const { return StepValue::integer(value); }
     Result operator()(std::string const& value) const
     {
         switch (descriptor.kind) {
-        case ValueKind::Enumeration: return StepValue::enumeration(value);
+        case ValueKind::Enumeration:
+            return StepValue::enumeration(value);
         case ValueKind::Logical:
-            return StepValue::enumeration(value == "true" ? "T" : value == "false" ? "F" : value == "unknown" ? "U" : value);
-        case ValueKind::Binary: return StepValue::binary(value);
-        default: return StepValue::text(value);
+            return StepValue::enumeration(value == "true"      ? "T"
+                                          : value == "false"   ? "F"
+                                          : value == "unknown" ? "U"
+                                                               : value);
+        case ValueKind::Binary:
+            return StepValue::binary(value);
+        default:
+            return StepValue::text(value);
         }
     }
     Result operator()(LocalValue::LogicalNumber value) const
@@ -145,7 +162,8 @@ LocalValue localValueOf(AttributeBase const& attribute, AttributeDescriptor cons
     return {{variantOf(value, descriptor), std::nullopt}};
 }
 
-bool assignLocalValue(AttributeBase& attribute, AttributeDescriptor const& descriptor, LocalValue const& value)
+bool assignLocalValue(AttributeBase& attribute, AttributeDescriptor const& descriptor,
+                      LocalValue const& value)
 {
     if (descriptor.kind == ValueKind::Reference || descriptor.kind == ValueKind::Select ||
         descriptor.kind == ValueKind::Value)

@@ -102,7 +102,8 @@ std::optional<Payload> readNumbers(ValueKind kind, StepValue const& value)
     for (StepValue const& item : value.items()) {
         if (!item.isNumber())
             return std::nullopt;
-        integers.push_back(item.kind() == Kind::Integer ? item.integerValue() : std::llround(item.realValue()));
+        integers.push_back(item.kind() == Kind::Integer ? item.integerValue()
+                                                        : std::llround(item.realValue()));
         reals.push_back(item.realValue());
     }
     return kind == ValueKind::Integer ? Payload(std::move(integers)) : Payload(std::move(reals));
@@ -147,7 +148,10 @@ struct StepOfPayload
         return StepValue::enumeration(value == Logical::True ? "T" : value == Logical::False ? "F" : "U");
     }
     StepValue operator()(std::int64_t value) const { return StepValue::integer(value); }
-    StepValue operator()(double value) const { return StepValue::real(writer.scaleOf(typeName).fromSi(value)); }
+    StepValue operator()(double value) const
+    {
+        return StepValue::real(writer.scaleOf(typeName).fromSi(value));
+    }
     StepValue operator()(std::string const& value) const { return StepValue::text(value); }
     StepValue operator()(Binary const& value) const { return StepValue::binary(value.digits); }
     StepValue operator()(std::vector<std::int64_t> const& values) const
@@ -171,19 +175,30 @@ struct StepOfPayload
 Payload defaultPayload(ValueKind kind, bool isAggregate)
 {
     if (isAggregate)
-        return kind == ValueKind::Integer ? Payload(std::vector<std::int64_t>()) : Payload(std::vector<double>());
+        return kind == ValueKind::Integer ? Payload(std::vector<std::int64_t>())
+                                          : Payload(std::vector<double>());
     switch (kind) {
-    case ValueKind::Boolean: return false;
-    case ValueKind::Logical: return Logical::Unknown;
-    case ValueKind::Integer: return std::int64_t{0};
-    case ValueKind::Real: return 0.0;
-    case ValueKind::Text: return std::string();
-    case ValueKind::Binary: return Binary{"0"};
-    default: return {};
+    case ValueKind::Boolean:
+        return false;
+    case ValueKind::Logical:
+        return Logical::Unknown;
+    case ValueKind::Integer:
+        return std::int64_t{0};
+    case ValueKind::Real:
+        return 0.0;
+    case ValueKind::Text:
+        return std::string();
+    case ValueKind::Binary:
+        return Binary{"0"};
+    default:
+        return {};
     }
 }
 
-std::optional<std::string> payloadText(Payload const& payload) { return std::visit(TextOfPayload(), payload); }
+std::optional<std::string> payloadText(Payload const& payload)
+{
+    return std::visit(TextOfPayload(), payload);
+}
 
 std::optional<double> payloadNumber(Payload const& payload)
 {
@@ -197,10 +212,12 @@ std::optional<double> payloadNumber(Payload const& payload)
 std::optional<Payload> parsePayload(ValueKind kind, bool isAggregate, std::string_view text)
 {
     if (isAggregate)
-        return kind == ValueKind::Integer ? parseList<std::int64_t>(text, parseInteger) : parseList<double>(text, parseReal);
+        return kind == ValueKind::Integer ? parseList<std::int64_t>(text, parseInteger)
+                                          : parseList<double>(text, parseReal);
     switch (kind) {
     case ValueKind::Boolean:
-    case ValueKind::Logical: return parseTruth(kind, text);
+    case ValueKind::Logical:
+        return parseTruth(kind, text);
     case ValueKind::Integer:
         if (auto const number = parseInteger(text))
             return Payload(*number);
@@ -209,14 +226,17 @@ std::optional<Payload> parsePayload(ValueKind kind, bool isAggregate, std::strin
         if (auto const number = parseReal(text))
             return Payload(*number);
         return std::nullopt;
-    case ValueKind::Text: return Payload(std::string(text));
-    case ValueKind::Binary: return isBinary(text) ? std::optional<Payload>(Binary{std::string(text)}) : std::nullopt;
-    default: return std::nullopt;
+    case ValueKind::Text:
+        return Payload(std::string(text));
+    case ValueKind::Binary:
+        return isBinary(text) ? std::optional<Payload>(Binary{std::string(text)}) : std::nullopt;
+    default:
+        return std::nullopt;
     }
 }
 
-std::optional<Payload> readPayload(std::string_view typeName, ValueKind kind, bool isAggregate, StepValue const& value,
-                                   AttributeReader const& reader)
+std::optional<Payload> readPayload(std::string_view typeName, ValueKind kind, bool isAggregate,
+                                   StepValue const& value, AttributeReader const& reader)
 {
     if (isAggregate)
         return readNumbers(kind, value);
@@ -231,7 +251,8 @@ std::optional<Payload> readPayload(std::string_view typeName, ValueKind kind, bo
         if (value.kind() == Kind::Enumeration && (value.textValue() == "U" || value.textValue() == "UNKNOWN"))
             return Payload(Logical::Unknown);
         return std::nullopt;
-    case ValueKind::Integer: return readInteger(value);
+    case ValueKind::Integer:
+        return readInteger(value);
     case ValueKind::Real:
         if (!value.isNumber())
             return std::nullopt;
@@ -244,7 +265,8 @@ std::optional<Payload> readPayload(std::string_view typeName, ValueKind kind, bo
         if (value.kind() != Kind::Binary)
             return std::nullopt;
         return Payload(Binary{value.textValue()});
-    default: return std::nullopt;
+    default:
+        return std::nullopt;
     }
 }
 

@@ -47,8 +47,10 @@ unsigned int classOf(ReferenceBase const& reference)
 } // namespace
 
 SelectBase::SelectBase(SelectDescriptor const& descriptor)
-    : m_descriptor(&descriptor), m_tag(static_cast<unsigned int>(descriptor.members.size()))
-{}
+    : m_descriptor(&descriptor)
+    , m_tag(static_cast<unsigned int>(descriptor.members.size()))
+{
+}
 
 SelectBase::SelectBase(SelectDescriptor const& descriptor, unsigned int tag, std::shared_ptr<FcBase> entity)
     : SelectBase(descriptor)

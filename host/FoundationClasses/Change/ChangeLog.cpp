@@ -10,7 +10,11 @@
 
 namespace qev::fc {
 
-ChangeLog::Step::Step(ChangeLog& log, std::string name) : m_log(log) { m_log.begin(std::move(name)); }
+ChangeLog::Step::Step(ChangeLog& log, std::string name)
+    : m_log(log)
+{
+    m_log.begin(std::move(name));
+}
 
 ChangeLog::Step::~Step() { m_log.end(); }
 
@@ -45,8 +49,9 @@ void ChangeLog::record(Change change)
 {
     Step const step(*this, std::string());
     std::vector<Change>& changes = m_open->changes;
-    // Of several changes of one attribute in one step, the value before the first is enough. An action on many
-    // objects that share a relation changes it as often as there are objects, so it pays to look back a little.
+    // Of several changes of one attribute in one step, the value before the first is enough. An action on
+    // many objects that share a relation changes it as often as there are objects, so it pays to look back a
+    // little.
     constexpr std::ptrdiff_t lookBack = 16;
     auto const recent = changes.end() - std::min<std::ptrdiff_t>(lookBack, std::ssize(changes));
     bool const isKnown = std::any_of(recent, changes.end(), [&change](Change const& other) {

@@ -39,7 +39,8 @@ public:
     /// A single unit; no value when the record is none or leads in circles.
     [[nodiscard]] std::optional<Unit> unitFromId(step::InstanceId id) const;
 
-    /// The unit type of a measure type: "LENGTHUNIT" of "IfcPositiveLengthMeasure"; empty for a type without a unit.
+    /// The unit type of a measure type: "LENGTHUNIT" of "IfcPositiveLengthMeasure"; empty for a type without
+    /// a unit.
     [[nodiscard]] static std::string unitTypeOf(std::string_view measureType);
 
 private:
@@ -47,8 +48,10 @@ private:
 
     void readAssignment(step::RecordIndex project);
     [[nodiscard]] std::optional<Unit> readUnit(step::InstanceId id, unsigned int depth) const;
-    [[nodiscard]] std::optional<Unit> readConversion(std::vector<step::StepValue> const& arguments, unsigned int depth) const;
-    [[nodiscard]] std::optional<Unit> readDerived(std::vector<step::StepValue> const& arguments, unsigned int depth) const;
+    [[nodiscard]] std::optional<Unit> readConversion(std::vector<step::StepValue> const& arguments,
+                                                     unsigned int depth) const;
+    [[nodiscard]] std::optional<Unit> readDerived(std::vector<step::StepValue> const& arguments,
+                                                  unsigned int depth) const;
     [[nodiscard]] std::vector<step::StepValue> argumentsOf(step::InstanceId id, std::string& keyword) const;
 
     step::StepFile const& m_file;

@@ -35,21 +35,21 @@ StepMessage inexactVersion(std::string const& name, VersionMapping::Version cons
 bool holdsNoEntity(fc::AttributeBase const& value, fc::AttributeDescriptor const& attribute)
 {
     bool isEmpty = true;
-    attribute.operations->visitReferences(value, [&isEmpty](fc::ReferenceBase const& reference) {
-        isEmpty = isEmpty && !reference.isSet();
-    });
+    attribute.operations->visitReferences(
+        value, [&isEmpty](fc::ReferenceBase const& reference) { isEmpty = isEmpty && !reference.isSet(); });
     return isEmpty;
 }
 
-/// Whether edits took away all entities at an end of a relation. A file must not have such a relation, and it says
-/// nothing; the model keeps it, for an undone edit brings the entities back.
+/// Whether edits took away all entities at an end of a relation. A file must not have such a relation, and it
+/// says nothing; the model keeps it, for an undone edit brings the entities back.
 bool hasLostAnEnd(fc::FcBase const& relation, bool isCreated)
 {
     auto const attributes = relation.getEntityClass().attributes;
     for (unsigned int slot = 0; slot < attributes.size(); ++slot) {
         auto const& attribute = *attributes[slot];
-        bool const isEnd = attribute.depth > 0 && !attribute.isOptional &&
-                           (attribute.kind == fc::ValueKind::Reference || attribute.kind == fc::ValueKind::Select);
+        bool const isEnd =
+            attribute.depth > 0 && !attribute.isOptional &&
+            (attribute.kind == fc::ValueKind::Reference || attribute.kind == fc::ValueKind::Select);
         bool const isEdited = isCreated || (relation.changedSlots() >> slot & 1) != 0;
         if (isEnd && isEdited && holdsNoEntity(relation.attribute(slot), attribute))
             return true;

@@ -19,7 +19,8 @@ using Kind = StepValue::Kind;
 bool isSameNumber(double a, double b)
 {
     // A product with the factor and a quotient by it are off by at most half a unit in the last place each.
-    double const tolerance = 4.0 * std::numeric_limits<double>::epsilon() * std::max(std::abs(a), std::abs(b));
+    double const tolerance =
+        4.0 * std::numeric_limits<double>::epsilon() * std::max(std::abs(a), std::abs(b));
     return a == b || std::abs(a - b) <= tolerance;
 }
 
@@ -37,7 +38,8 @@ bool isSame(StepValue const& a, StepValue const& b)
     return true;
 }
 
-/// Where the token that begins at \p position ends, so that nothing inside a text or comment is taken for structure.
+/// Where the token that begins at \p position ends, so that nothing inside a text or comment is taken for
+/// structure.
 std::size_t skipOpaque(std::string_view text, std::size_t position)
 {
     char const c = text[position];
@@ -92,7 +94,8 @@ std::string withOldSpelling(std::string_view before, StepValue const& after)
     std::string text = "(";
     for (std::size_t i = 0; i < after.items().size(); ++i) {
         text += i > 0 ? "," : "";
-        text += i < elements.size() ? withOldSpelling(elements[i], after.items()[i]) : step::StepWriter::value(after.items()[i]);
+        text += i < elements.size() ? withOldSpelling(elements[i], after.items()[i])
+                                    : step::StepWriter::value(after.items()[i]);
     }
     return text + ")";
 }

@@ -65,15 +65,17 @@ public:
     /// has of the system and its references is used again.
     /// \returns the system's classification, null when there are no codes or this object is in no model.
     std::shared_ptr<resource::externalreference::FcClassification>
-    classify(std::shared_ptr<classification::ClassificationInterface> const& system, std::vector<std::string> const& codes);
+    classify(std::shared_ptr<classification::ClassificationInterface> const& system,
+             std::vector<std::string> const& codes);
     /// The reference of this object into the system, null when it has none.
     [[nodiscard]] std::shared_ptr<resource::externalreference::FcClassificationReference const>
     getClassification(classification::ClassificationInterface const& system) const;
 
-    /// The item of the predefined type, this object's own or else its type object's; "NOTDEFINED" when neither has one.
+    /// The item of the predefined type, this object's own or else its type object's; "NOTDEFINED" when
+    /// neither has one.
     [[nodiscard]] std::string predefinedTypeDerived() const;
-    /// The user's own type text: the object's ObjectType, the type's ElementType and so on; this object's own or
-    /// else its type object's.
+    /// The user's own type text: the object's ObjectType, the type's ElementType and so on; this object's own
+    /// or else its type object's.
     [[nodiscard]] std::optional<std::string> userDefinedTypeDerived() const;
 
     /// The object's own predefined type; null or empty when there is none.
@@ -88,8 +90,10 @@ protected:
     [[nodiscard]] std::optional<std::string> ownUserDefinedType() const;
 
 private:
-    [[nodiscard]] std::shared_ptr<FcBase> findSet(std::string_view name, unsigned int first, unsigned int last) const;
-    void attachNewSet(Data& data, std::shared_ptr<FcPropertySetDefinition> const& set, std::string const& name);
+    [[nodiscard]] std::shared_ptr<FcBase> findSet(std::string_view name, unsigned int first,
+                                                  unsigned int last) const;
+    void attachNewSet(Data& data, std::shared_ptr<FcPropertySetDefinition> const& set,
+                      std::string const& name);
     void detachFromRelations(std::shared_ptr<FcPropertySetDefinition> const& set);
 };
 

@@ -27,8 +27,9 @@ void FcPropertySetDefinition::deletePset(Data& data)
             data.entityDelete(relation);
             continue;
         }
-        relation->RelatingPropertyDefinition.edit(
-            [&kept](auto& definition) { definition.setReferences("IfcPropertySetDefinitionSet", std::move(kept)); });
+        relation->RelatingPropertyDefinition.edit([&kept](auto& definition) {
+            definition.setReferences("IfcPropertySetDefinitionSet", std::move(kept));
+        });
     }
     for (auto const& reference : DefinesType()) {
         if (auto const type = reference.lock())

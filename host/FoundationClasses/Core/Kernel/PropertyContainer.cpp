@@ -10,7 +10,10 @@ namespace qev::fc::core::kernel {
 
 using resource::property::FcProperty;
 
-std::vector<std::shared_ptr<FcProperty>> const& PropertyContainer::getProperties() const { return get().get(); }
+std::vector<std::shared_ptr<FcProperty>> const& PropertyContainer::getProperties() const
+{
+    return get().get();
+}
 
 bool PropertyContainer::removeProperty(std::string const& name)
 {

@@ -15,8 +15,8 @@ bool FcElementQuantity::hasProperty(std::string_view name) const
                        [name](auto const& quantity) { return quantity->Name.get() == name; });
 }
 
-std::unique_ptr<unit::QuantityPresentationBase>
-FcElementQuantity::createQuantityPresentationFor(resource::quantity::FcPhysicalSimpleQuantity const& quantity) const
+std::unique_ptr<unit::QuantityPresentationBase> FcElementQuantity::createQuantityPresentationFor(
+    resource::quantity::FcPhysicalSimpleQuantity const& quantity) const
 {
     return quantity.createQuantityPresentation();
 }

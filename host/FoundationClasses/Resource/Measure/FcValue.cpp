@@ -20,7 +20,8 @@ Family const& familyOf(auto const& value)
 }
 
 template <class Family>
-std::optional<typename Family::Types> typeFromName(std::span<ValueTypeInfo const> table, std::string_view ValueTypeInfo::*field,
+std::optional<typename Family::Types> typeFromName(std::span<ValueTypeInfo const> table,
+                                                   std::string_view ValueTypeInfo::*field,
                                                    std::string_view name)
 {
     for (std::size_t i = 0; i < table.size(); ++i) {
@@ -56,13 +57,19 @@ std::optional<object::PropertyValue> plainValue(object::PropertyValue const& val
 
 } // namespace
 
-FcDerivedMeasureValue const& FcValue::derivedMeasureValue() const { return familyOf<FcDerivedMeasureValue>(m_value); }
+FcDerivedMeasureValue const& FcValue::derivedMeasureValue() const
+{
+    return familyOf<FcDerivedMeasureValue>(m_value);
+}
 
 FcMeasureValue const& FcValue::measureValue() const { return familyOf<FcMeasureValue>(m_value); }
 
 FcSimpleValue const& FcValue::simpleValue() const { return familyOf<FcSimpleValue>(m_value); }
 
-FcSimpleValue& FcValue::simpleValue() { return const_cast<FcSimpleValue&>(std::as_const(*this).simpleValue()); }
+FcSimpleValue& FcValue::simpleValue()
+{
+    return const_cast<FcSimpleValue&>(std::as_const(*this).simpleValue());
+}
 
 ValueTypeInfo const* FcValue::typeInfo() const
 {
@@ -165,7 +172,8 @@ object::PropertyValue FcValue::getAsPropertyValue() const
     Payload const& content = payload();
     if (auto const* const truth = std::get_if<bool>(&content))
         return object::PropertyValue(*truth);
-    if (auto const* const integer = std::get_if<std::int64_t>(&content); integer && std::in_range<int>(*integer))
+    if (auto const* const integer = std::get_if<std::int64_t>(&content);
+        integer && std::in_range<int>(*integer))
         return object::PropertyValue(static_cast<int>(*integer));
     if (auto const* const real = std::get_if<double>(&content))
         return object::PropertyValue(*real);

@@ -50,7 +50,8 @@ void FcProperty::deleteProperty(Data& data, bool deleteEmptySets)
 }
 
 std::unique_ptr<unit::QuantityPresentationBase>
-FcProperty::createQuantityPresentationFor(measure::FcValue const& value, std::optional<std::string> const& setName) const
+FcProperty::createQuantityPresentationFor(measure::FcValue const& value,
+                                          std::optional<std::string> const& setName) const
 {
     std::unique_ptr<unit::QuantityPresentationBase> presentation;
     if (setName)

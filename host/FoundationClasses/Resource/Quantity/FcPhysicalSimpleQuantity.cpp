@@ -14,7 +14,8 @@ std::unique_ptr<unit::QuantityPresentationBase> FcPhysicalSimpleQuantity::create
     return nullptr;
 }
 
-std::unique_ptr<unit::QuantityPresentationBase> FcPhysicalSimpleQuantity::presentationOf(char const* measure) const
+std::unique_ptr<unit::QuantityPresentationBase>
+FcPhysicalSimpleQuantity::presentationOf(char const* measure) const
 {
     auto presentation = unit::createPresentationForMeasure(measure);
     if (presentation)
