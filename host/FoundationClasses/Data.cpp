@@ -258,7 +258,8 @@ void Data::visitReferences(EntityIndex index, unsigned int slot,
 {
     FcBase const* const object = existingObject(index);
     if (!object) {
-        m_source->forEachReference(index, slot, visit);
+        if (index < m_sourceCount)
+            m_source->forEachReference(index, slot, visit);
         return;
     }
     auto const& operations = *object->getEntityClass().attributes[slot]->operations;
@@ -268,6 +269,21 @@ void Data::visitReferences(EntityIndex index, unsigned int slot,
     });
 }
 
+std::optional<std::string> Data::attributeText(EntityIndex index, unsigned int slot) const
+{
+    if (isDeleted(index) || classNumber(index) == 0)
+        return std::nullopt;
+    std::optional<std::string> text;
+    bool const isRecord = index < m_sourceCount && !existingObject(index);
+    if (isRecord && m_source->readText(index, slot, text))
+        return text;
+    auto const object = entity(index);
+    if (!object)
+        return std::nullopt;
+    AttributeDescriptor const& descriptor = *object->getEntityClass().attributes[slot];
+    return descriptor.operations->text(object->attribute(slot), descriptor);
+}
+
 InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relationLast,
                                  unsigned int slot) const
 {
@@ -275,16 +291,14 @@ InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relati
     if (auto const found = m_inverseIndexes.find(key); found != m_inverseIndexes.end())
         return found->second;
     std::vector<std::pair<EntityIndex, EntityIndex>> references;
-    std::vector<EntityIndex> const relations = indicesFromId(relationFirst, relationLast);
-    // So many further on, a record has come from memory when its turn comes.
-    constexpr std::size_t ahead = 8;
-    for (std::size_t i = 0; i < relations.size(); ++i) {
-        EntityIndex const relation = relations[i];
-        if (i + ahead < relations.size() && !isCreated(relations[i + ahead]))
-            m_source->expect(relations[i + ahead]);
-        visitReferences(relation, slot,
-                        [&](EntityIndex target) { references.emplace_back(target, relation); });
-    }
+    std::vector<EntityIndex> relations = indicesFromId(relationFirst, relationLast);
+    auto const records = std::partition(relations.begin(), relations.end(),
+                                        [this](EntityIndex relation) { return existingObject(relation); });
+    for (auto relation = relations.begin(); relation != records; ++relation)
+        visitReferences(*relation, slot,
+                        [&](EntityIndex target) { references.emplace_back(target, *relation); });
+    if (m_source)
+        m_source->appendReferences({records, relations.end()}, slot, references);
     return m_inverseIndexes.emplace(key, InverseIndex(std::move(references))).first->second;
 }
 

@@ -11,8 +11,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -71,6 +74,15 @@ public:
         auto const [begin, end] = rangeFromId(T::idFirst, T::idLast);
         return {begin, end};
     }
+
+    /// Calls \p visit with the place of each entity that the attribute at \p slot of the one at \p index
+    /// refers to, in stored order and deleted ones included. Makes no object; a record may name entities of a
+    /// class that the attribute does not allow, which an object would leave out.
+    void visitReferences(EntityIndex index, unsigned int slot,
+                         std::function<void(EntityIndex)> const& visit) const;
+    /// The attribute at \p slot of the entity at \p index as text, as `FcBase::getAttributeAsString` has it.
+    /// Makes no object where the record tells. No value for an unset attribute and for a deleted entity.
+    [[nodiscard]] std::optional<std::string> attributeText(EntityIndex index, unsigned int slot) const;
 
     /// The places of the entities of \p relationFirst to \p relationLast whose attribute at \p slot refers to
     /// \p target, ascending.
@@ -133,8 +145,6 @@ private:
     [[nodiscard]] InverseIndex& inverseIndex(unsigned int relationFirst, unsigned int relationLast,
                                              unsigned int slot) const;
     void indexReferences(FcBase const& entity, unsigned int slot, bool add) const;
-    void visitReferences(EntityIndex index, unsigned int slot,
-                         std::function<void(EntityIndex)> const& visit) const;
 
     std::unique_ptr<EntitySource> m_source;
     std::size_t m_sourceCount = 0;

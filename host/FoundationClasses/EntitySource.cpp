@@ -16,7 +16,14 @@ void EntitySource::appendRecordsOfClass(std::uint16_t number, std::vector<Entity
     }
 }
 
-void EntitySource::expect(EntityIndex) const {}
+void EntitySource::appendReferences(std::span<EntityIndex const> records, unsigned int slot,
+                                    std::vector<std::pair<EntityIndex, EntityIndex>>& references) const
+{
+    for (EntityIndex const record : records)
+        forEachReference(record, slot, [&](EntityIndex target) { references.emplace_back(target, record); });
+}
+
+bool EntitySource::readText(EntityIndex, unsigned int, std::optional<std::string>&) const { return false; }
 
 AttributeReader::~AttributeReader() = default;
 AttributeWriter::~AttributeWriter() = default;

@@ -6,6 +6,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace qev::fc {
@@ -32,8 +36,13 @@ public:
     /// \p slot is a slot of the class in this model, not of the file's own version.
     virtual void forEachReference(EntityIndex index, unsigned int slot,
                                   std::function<void(EntityIndex)> const& visit) const = 0;
-    /// A hint that the record will be asked for a few records from now. Here it does nothing.
-    virtual void expect(EntityIndex index) const;
+    /// Appends a pair of target and record for each such reference of each of \p records. A source that knows
+    /// better than asking for one record after the other does better.
+    virtual void appendReferences(std::span<EntityIndex const> records, unsigned int slot,
+                                  std::vector<std::pair<EntityIndex, EntityIndex>>& references) const;
+    /// Takes the text of an attribute from the record, without making an object. No value for an unset one.
+    /// \returns false when only the object tells; here always.
+    virtual bool readText(EntityIndex index, unsigned int slot, std::optional<std::string>& text) const;
 };
 
 } // namespace qev::fc

@@ -117,6 +117,85 @@ TEST_F(ReadModel, FindsRelationsWithoutMakingObjectsOfAll)
     EXPECT_EQ(data->objectCount(), 0u);
 }
 
+unsigned int nameSlot() { return fc::slotFromName(FcPropertySet::staticEntityClass(), "Name"); }
+
+std::vector<EntityIndex> relatedObjects(Data const& data)
+{
+    std::vector<EntityIndex> places;
+    data.visitReferences(1, fc::slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects"),
+                         [&places](EntityIndex place) { places.push_back(place); });
+    return places;
+}
+
+TEST_F(ReadModel, TellsReferencesAndTextsWithoutMakingObjects)
+{
+    EXPECT_THAT(relatedObjects(*data), ElementsAre(0u, 4u));
+    EXPECT_EQ(data->attributeText(2, nameSlot()), "Pset_X");
+    EXPECT_EQ(data->attributeText(1, nameSlot()), std::nullopt);
+    EXPECT_EQ(data->objectCount(), 0u);
+}
+
+TEST_F(ReadModel, TellsReferencesAndTextsThatWereChanged)
+{
+    at<FcRelDefinesByProperties>(1)->RelatedObjects.edit([this](auto& objects) {
+        objects.erase(at<FcWall>(0));
+        objects.push_back(at<FcWall>(0));
+    });
+    at<FcPropertySet>(2)->Name = "Pset_Y";
+    EXPECT_THAT(relatedObjects(*data), ElementsAre(4u, 0u));
+    EXPECT_EQ(data->attributeText(2, nameSlot()), "Pset_Y");
+
+    data->changes().undo();
+    data->changes().undo();
+    EXPECT_THAT(relatedObjects(*data), ElementsAre(0u, 4u));
+    EXPECT_EQ(data->attributeText(2, nameSlot()), "Pset_X");
+}
+
+TEST_F(ReadModel, TellsTextsOfWhatIsPresentOnly)
+{
+    auto const created = std::make_shared<FcPropertySet>();
+    created->Name = "Pset_New";
+    data->entityAdd(created, false);
+    EXPECT_EQ(data->attributeText(created->getIndex(), nameSlot()), "Pset_New");
+
+    data->entityDelete(created);
+    data->entityDelete(at<FcPropertySet>(2));
+    EXPECT_EQ(data->attributeText(created->getIndex(), nameSlot()), std::nullopt);
+    EXPECT_EQ(data->attributeText(2, nameSlot()), std::nullopt);
+    EXPECT_EQ(data->attributeText(5, nameSlot()), std::nullopt);
+    EXPECT_EQ(data->attributeText(fc::noEntity, nameSlot()), std::nullopt);
+
+    data->changes().undo();
+    EXPECT_EQ(data->attributeText(2, nameSlot()), "Pset_X");
+}
+
+std::vector<std::string> namesOfSets(FcWall const& wall)
+{
+    std::vector<std::string> names;
+    wall.forEachAttachedSetName([&names](unsigned int, std::optional<std::string> const& name) {
+        names.push_back(name.value_or("-"));
+        return true;
+    });
+    return names;
+}
+
+TEST_F(ReadModel, TellsTheNamesOfSetsWithoutMakingObjectsOfThem)
+{
+    auto const wall = at<FcWall>(0);
+    EXPECT_THAT(namesOfSets(*wall), ElementsAre("Pset_X"));
+    EXPECT_EQ(data->objectCount(), 1u);
+
+    at<FcPropertySet>(2)->Name = "Pset_Y";
+    EXPECT_THAT(namesOfSets(*wall), ElementsAre("Pset_Y"));
+    EXPECT_TRUE(wall->deletePropertySetDefinition("Pset_Y"));
+    EXPECT_THAT(namesOfSets(*wall), IsEmpty());
+    EXPECT_THAT(namesOfSets(*at<FcWall>(4)), ElementsAre("Pset_Y"));
+
+    data->changes().undo();
+    data->changes().undo();
+    EXPECT_THAT(namesOfSets(*wall), ElementsAre("Pset_X"));
+}
+
 TEST_F(ReadModel, RecordsWithoutAClassThatHasObjectsAreNobody)
 {
     EXPECT_EQ(data->entity(5), nullptr);
@@ -208,6 +287,27 @@ TEST(BrokenRecords, ReferencesOfTheWrongKindAreLeftOutAndTold)
                 ElementsAre("HasProperties: a reference to IfcProperty",
                             "HasProperties: a reference to an existing record", "Name: a text",
                             "NominalValue: a typed value such as IFCLABEL('text')"));
+}
+
+TEST(BrokenRecords, ATextThatIsNoneIsWhatTheObjectMakesOfIt)
+{
+    auto const data = Data::create(std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
+        {FcPropertySet::idFirst, {{"Name", StepValue::integer(7)}}},
+    }));
+    EXPECT_EQ(data->attributeText(0, nameSlot()), std::nullopt);
+    EXPECT_EQ(data->objectCount(), 1u);
+}
+
+TEST(BrokenRecords, WhatIsNoSetIsNoneOfAnObject)
+{
+    auto const data = Data::create(std::make_unique<FakeSource>(std::vector<FakeSource::Record>{
+        {FcWall::idFirst, {{"Name", text("W1")}}},
+        {FcRelDefinesByProperties::idFirst,
+         {{"RelatedObjects", references({1})}, {"RelatingPropertyDefinition", StepValue::reference(1)}}},
+        {FcRelDefinesByProperties::idFirst,
+         {{"RelatedObjects", references({1})}, {"RelatingPropertyDefinition", StepValue::reference(99)}}},
+    }));
+    EXPECT_THAT(namesOfSets(*fc::entityCast<FcWall>(data->entity(0))), IsEmpty());
 }
 
 TEST(BrokenRecords, APropertyThatHoldsItselfIsReadAndFreed)

@@ -73,10 +73,25 @@ void FakeSource::read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity)
 void FakeSource::forEachReference(fc::EntityIndex index, unsigned int slot,
                                   std::function<void(fc::EntityIndex)> const& visit) const
 {
+    if (auto const* const value = find(index, slot))
+        visitReferences(*value, visit);
+}
+
+bool FakeSource::readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const
+{
+    auto const* const value = find(index, slot);
+    bool const isKnown = !value || value->kind() == step::StepValue::Kind::Text;
+    if (isKnown)
+        text = value ? std::optional(value->textValue()) : std::nullopt;
+    return isKnown;
+}
+
+step::StepValue const* FakeSource::find(fc::EntityIndex index, unsigned int slot) const
+{
     auto const* const entityClass = fc::entityClassFromNumber(m_records[index].classNumber);
-    auto const found = m_records[index].values.find(std::string(entityClass->attributes[slot]->name));
-    if (found != m_records[index].values.end())
-        visitReferences(found->second, visit);
+    auto const& values = m_records[index].values;
+    auto const found = values.find(std::string(entityClass->attributes[slot]->name));
+    return found == values.end() ? nullptr : &found->second;
 }
 
 } // namespace qev::test

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,7 @@ public:
     void read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity) override;
     void forEachReference(fc::EntityIndex index, unsigned int slot,
                           std::function<void(fc::EntityIndex)> const& visit) const override;
+    bool readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const override;
 
     /// How often each record became an object.
     [[nodiscard]] std::vector<unsigned int> const& reads() const { return m_reads; }
@@ -35,6 +37,9 @@ public:
     [[nodiscard]] std::vector<std::string> const& mismatches() const { return m_mismatches; }
 
 private:
+    /// The value at a slot; null when it is unset.
+    [[nodiscard]] step::StepValue const* find(fc::EntityIndex index, unsigned int slot) const;
+
     std::vector<Record> m_records;
     std::vector<unsigned int> m_reads;
     std::vector<std::string> m_mismatches;

@@ -274,6 +274,34 @@ void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
     });
 }
 
+void FileSource::appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
+                                  std::vector<std::pair<fc::EntityIndex, fc::EntityIndex>>& references) const
+{
+    // So many further on, a record has come from memory when its turn comes.
+    constexpr std::size_t ahead = 8;
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        fc::EntityIndex const record = records[i];
+        if (i + ahead < records.size())
+            expect(records[i + ahead]);
+        forEachReference(record, slot,
+                         [&](fc::EntityIndex target) { references.emplace_back(target, record); });
+    }
+}
+
+bool FileSource::readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const
+{
+    ClassMapping const* const mapping = mappingOf(index);
+    int const fileSlot = mapping ? mapping->fileSlot(slot) : ClassMapping::noSlot;
+    if (fileSlot < 0 || mapping->changesValueForm(slot))
+        return false;
+    // Whatever else stands there is for the reading of the whole record, which tells what is wrong.
+    auto const value = m_parser.parseArgument(index, static_cast<std::size_t>(fileSlot));
+    if (!value || (!value->isUnset() && value->kind() != StepValue::Kind::Text))
+        return false;
+    text = value->isUnset() ? std::nullopt : std::optional(value->textValue());
+    return true;
+}
+
 void FileSource::check(fc::EntityIndex index, fc::Data& data)
 {
     Reader reader(*this, data, index);

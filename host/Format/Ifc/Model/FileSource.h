@@ -40,8 +40,14 @@ public:
     void read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity) override;
     void forEachReference(fc::EntityIndex index, unsigned int slot,
                           std::function<void(fc::EntityIndex)> const& visit) const override;
-    void expect(fc::EntityIndex index) const override { m_file->expect(index); }
+    void
+    appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
+                     std::vector<std::pair<fc::EntityIndex, fc::EntityIndex>>& references) const override;
+    bool readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const override;
     void appendRecordsOfClass(std::uint16_t number, std::vector<fc::EntityIndex>& records) const override;
+
+    /// A hint that the record will be asked for a few records from now.
+    void expect(fc::EntityIndex index) const { m_file->expect(index); }
 
     [[nodiscard]] step::StepFile& file() { return *m_file; }
     [[nodiscard]] step::StepFile const& file() const { return *m_file; }

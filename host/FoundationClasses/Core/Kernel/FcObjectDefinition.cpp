@@ -29,6 +29,22 @@ std::vector<EntityIndex> const& setRelations(FcObjectDefinition const& object)
                 : none;
 }
 
+/// Calls \p visit with the places of the sets in the relation at \p relation. False when it ended the work.
+bool visitSetPlaces(Data const& data, EntityIndex relation, std::function<bool(EntityIndex)> const& visit)
+{
+    static unsigned int const slot =
+        slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatingPropertyDefinition");
+    bool goesOn = true;
+    data.visitReferences(relation, slot, [&](EntityIndex set) {
+        unsigned int const number = data.classNumber(set);
+        bool const isSet =
+            number >= FcPropertySetDefinition::idFirst && number <= FcPropertySetDefinition::idLast;
+        if (goesOn && isSet && !data.isDeleted(set))
+            goesOn = visit(set);
+    });
+    return goesOn;
+}
+
 std::shared_ptr<FcRelDefinesByProperties> relationAt(Data const& data, EntityIndex index)
 {
     return entityCast<FcRelDefinesByProperties>(data.entity(index));
@@ -100,6 +116,26 @@ void FcObjectDefinition::forEachAttachedSet(SetVisitor const& visit) const
         return;
     for (auto const& set : own->get()) {
         if (!visit(set))
+            return;
+    }
+}
+
+void FcObjectDefinition::forEachAttachedSetName(
+    std::function<bool(unsigned int classNumber, std::optional<std::string> const& name)> const& visit) const
+{
+    if (isOfClass<FcTypeObject>(*this)) {
+        forEachAttachedSet([&visit](std::shared_ptr<FcBase> const& set) {
+            return visit(set->getIdFirst(), static_cast<FcPropertySetDefinition const&>(*set).Name.get());
+        });
+        return;
+    }
+    static unsigned int const slot = slotFromName(FcPropertySetDefinition::staticEntityClass(), "Name");
+    for (EntityIndex const relation : setRelations(*this)) {
+        Data const& data = *getData();
+        bool const goesOn = visitSetPlaces(data, relation, [&](EntityIndex set) {
+            return visit(data.classNumber(set), data.attributeText(set, slot));
+        });
+        if (!goesOn)
             return;
     }
 }

@@ -56,6 +56,11 @@ public:
     /// Calls \p visit with each of them, in the same order, until it returns false. \p visit must not attach
     /// or detach sets.
     void forEachAttachedSet(std::function<bool(std::shared_ptr<FcBase> const&)> const& visit) const;
+    /// Calls \p visit with the class number and the name of each of them, in the same order, until it returns
+    /// false. The sets of an object, and the relations to them, that nobody has asked for yet stay records.
+    void forEachAttachedSetName(
+        std::function<bool(unsigned int classNumber, std::optional<std::string> const& name)> const& visit)
+        const;
 
     /// Detaches the set of this name from this object; the set and its relation go with their last
     /// object. False when there is no such set.

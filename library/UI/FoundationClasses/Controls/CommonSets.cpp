@@ -7,13 +7,13 @@
 #include "FoundationClasses/Core/Kernel/FcQuantitySet.h"
 #include "UI/FoundationClasses/Controls/ObjectSets.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace qev::fc::ui {
 
 using core::kernel::FcObjectDefinition;
 using core::kernel::FcPropertySet;
-using core::kernel::FcPropertySetDefinition;
 using core::kernel::FcQuantitySet;
 
 namespace {
@@ -24,26 +24,42 @@ void reportFrom(std::string_view operation, std::string_view text)
                    "UI/FoundationClasses/Controls/PropertySetControl");
 }
 
-PropertySetDefinitionType typeOf(FcPropertySetDefinition const& set)
+template <class Set>
+bool isClassOf(unsigned int classNumber)
 {
-    if (isOfClass<FcPropertySet>(set))
+    return Set::idFirst <= classNumber && classNumber <= Set::idLast;
+}
+
+PropertySetDefinitionType typeFromClass(unsigned int classNumber)
+{
+    if (isClassOf<FcPropertySet>(classNumber))
         return PropertySetDefinitionType::PropertySet;
-    if (isOfClass<FcQuantitySet>(set))
+    if (isClassOf<FcQuantitySet>(classNumber))
         return PropertySetDefinitionType::QuantitySet;
     reportFrom("getXmlSets::<lambda_2>::operator ()", "Unknown property set definition type.");
     return PropertySetDefinitionType::Unknown;
 }
 
-/// The sets that \p object has beside \p known, which go before its own of the same name.
-CommonSets::SetInfos ownInfos(FcObjectDefinition const& object, CommonSets::SetInfos const& known)
+struct OwnSet
 {
-    CommonSets::SetInfos infos;
-    for (auto const& set : ownSets(object)) {
-        auto const& name = set->Name.get();
-        if (name && !known.contains(*name) && !infos.contains(*name))
-            infos.emplace(*name, PropertySetDefinitionInfo(*name, typeOf(*set)));
-    }
-    return infos;
+    std::string name;
+    PropertySetDefinitionType type;
+};
+
+bool isAmong(std::vector<OwnSet> const& sets, std::string const& name)
+{
+    return std::any_of(sets.begin(), sets.end(), [&name](OwnSet const& set) { return set.name == name; });
+}
+
+/// The sets that \p object has beside \p known, which go before its own of the same name; each name once.
+std::vector<OwnSet> ownSetsBeside(CommonSets::SetInfos const& known, FcObjectDefinition const& object)
+{
+    std::vector<OwnSet> sets;
+    forEachOwnSet(object, [&](unsigned int classNumber, std::string const& name) {
+        if (!known.contains(name) && !isAmong(sets, name))
+            sets.push_back({name, typeFromClass(classNumber)});
+    });
+    return sets;
 }
 
 } // namespace
@@ -71,7 +87,8 @@ CommonSets::SetInfos CommonSets::of(std::vector<std::shared_ptr<FcBase>> const& 
             return {};
         if (!common) {
             common = kind.infos;
-            common->merge(ownInfos(object, kind.infos));
+            for (auto const& set : ownSetsBeside(kind.infos, object))
+                common->emplace(set.name, PropertySetDefinitionInfo(set.name, set.type));
             if (common->empty())
                 return {};
         }
@@ -94,11 +111,11 @@ bool CommonSets::narrow(SetInfos& common, FcObjectDefinition const& object, Obje
     bool const areOwnSetsAsked = !kind.missing.empty() || kind.infos.empty() || assert::Assert::isEnabled();
     if (!areOwnSetsAsked)
         return true;
-    auto const own = ownInfos(object, kind.infos);
+    auto const own = ownSetsBeside(kind.infos, object);
     if (own.empty() && kind.infos.empty())
         return false;
     for (auto const& name : kind.missing) {
-        if (!own.contains(name))
+        if (!isAmong(own, name))
             common.erase(name);
     }
     return true;

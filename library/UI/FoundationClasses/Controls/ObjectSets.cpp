@@ -3,16 +3,15 @@
 #include "Core/String/Ascii.h"
 #include "Format/Ifc/Schema/Xml/SetDef.h"
 #include "FoundationClasses/Core/Kernel/FcObject.h"
-#include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
 
+#include <optional>
 #include <string_view>
 
 namespace qev::fc::ui {
 
 using core::kernel::FcObject;
 using core::kernel::FcObjectDefinition;
-using core::kernel::FcPropertySetDefinition;
 using core::kernel::FcTypeObject;
 
 namespace {
@@ -45,11 +44,16 @@ bool isForOtherPredefinedType(ifc::def::xml::SetDef const& set, std::string cons
     return isTied;
 }
 
-std::vector<std::shared_ptr<FcPropertySetDefinition const>> ownSets(FcObjectDefinition const& object)
+void forEachOwnSet(FcObjectDefinition const& object,
+                   std::function<void(unsigned int classNumber, std::string const& name)> const& visit)
 {
     if (!isOfClass<FcObject>(object) && !isOfClass<FcTypeObject>(object))
-        return {};
-    return object.getPropertySetDefinitions<FcPropertySetDefinition>();
+        return;
+    object.forEachAttachedSetName([&visit](unsigned int classNumber, std::optional<std::string> const& name) {
+        if (name)
+            visit(classNumber, *name);
+        return true;
+    });
 }
 
 } // namespace qev::fc::ui

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <string>
-#include <vector>
 
 namespace qev::fc::core::kernel {
 class FcObjectDefinition;
-class FcPropertySetDefinition;
-} // namespace qev::fc::core::kernel
+}
 namespace qev::ifc::def::xml {
 class SetDef;
 }
@@ -23,9 +21,9 @@ namespace qev::fc::ui {
 [[nodiscard]] bool isForOtherPredefinedType(ifc::def::xml::SetDef const& set, std::string const& className,
                                             std::string const& predefinedType);
 
-/// The sets that \p object itself has: an occurrence by its relations, a type by its list. Others have none.
-/// No entry is null.
-[[nodiscard]] std::vector<std::shared_ptr<core::kernel::FcPropertySetDefinition const>>
-ownSets(core::kernel::FcObjectDefinition const& object);
+/// Calls \p visit with the type number and the name of each set that \p object itself has: an occurrence by
+/// its relations, a type by its list. Others have none. A set without a name does not count.
+void forEachOwnSet(core::kernel::FcObjectDefinition const& object,
+                   std::function<void(unsigned int classNumber, std::string const& name)> const& visit);
 
 } // namespace qev::fc::ui

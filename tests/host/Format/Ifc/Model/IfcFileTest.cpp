@@ -93,6 +93,40 @@ TEST(IfcFile, ReadsAttributesOfAnEntity)
     EXPECT_EQ(wall->Description.get(), std::nullopt);
 }
 
+TEST(IfcFile, TellsNamesOfSetsFromTheirRecords)
+{
+    std::string const records =
+        "#5=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
+        "#6=IFCPROPERTYSET('3YvctVUKr0kugbFTf53O9L',$,'R\\X2\\00E4\\X0\\ume, #5',$,());\n"
+        "#7=IFCPROPERTYSET('5YvctVUKr0kugbFTf53O9L',$,$,$,());\n"
+        "#8=IFCPROPERTYSET('6YvctVUKr0kugbFTf53O9L',$,7,$,());\n"
+        "#9=IFCPROPERTYSET('7YvctVUKr0kugbFTf53O9L'";
+    auto const data = open(records + ");\n")->data();
+    unsigned int const slot = fc::slotFromName(FcPropertySet::staticEntityClass(), "Name");
+    EXPECT_EQ(data->attributeText(1, slot), "R\xC3\xA4ume, #5");
+    EXPECT_EQ(data->attributeText(2, slot), std::nullopt);
+    EXPECT_EQ(data->objectCount(), 0u);
+    // What the record does not tell for sure, the object does.
+    EXPECT_EQ(data->attributeText(3, slot), std::nullopt);
+    EXPECT_EQ(data->attributeText(4, slot), std::nullopt);
+    EXPECT_EQ(data->objectCount(), 2u);
+}
+
+TEST(IfcFile, TellsNamesOfSetsInAListOfThem)
+{
+    auto const file = open(wallWithSet + "#10=IFCPROPERTYSET('8YvctVUKr0kugbFTf53O9L',$,'B',$,());\n"
+                                         "#11=IFCELEMENTQUANTITY('9YvctVUKr0kugbFTf53O9L',$,'A',$,$,());\n"
+                                         "#12=IFCRELDEFINESBYPROPERTIES('AYvctVUKr0kugbFTf53O9L',$,$,$,(#5),"
+                                         "IFCPROPERTYSETDEFINITIONSET((#10,#11)));\n");
+    std::vector<std::string> names;
+    wallOf(*file)->forEachAttachedSetName([&names](unsigned int, std::optional<std::string> const& name) {
+        names.push_back(name.value_or("-"));
+        return true;
+    });
+    EXPECT_THAT(names, testing::ElementsAre("Pset_WallCommon", "B", "A"));
+    EXPECT_EQ(file->data()->objectCount(), 1u);
+}
+
 TEST(IfcFile, MakesOnlyTheObjectsThatAreAskedFor)
 {
     auto const file = open(wallWithSet);

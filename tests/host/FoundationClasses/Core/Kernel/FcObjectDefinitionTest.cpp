@@ -205,6 +205,60 @@ TEST(ObjectSets, AreVisitedInTheirOrderUntilTheVisitorHasEnough)
     }
 }
 
+std::vector<std::string> namesOfAttachedSets(FcObjectDefinition const& object, std::size_t most = 100)
+{
+    std::vector<std::string> names;
+    object.forEachAttachedSetName([&](unsigned int classNumber, std::optional<std::string> const& name) {
+        names.push_back(std::string(fc::entityClassFromNumber(classNumber)->name) + " " + name.value_or("-"));
+        return names.size() < most;
+    });
+    return names;
+}
+
+TEST(NamesOfObjectSets, StandInTheOrderOfTheSets)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    model.addSet(wall, "Pset_B");
+    attachSets(model, {wall}, {model.add<FcPropertySet>("Pset_C"), model.add<FcPropertySet>("Pset_A")});
+    model.addQuantities(wall, "Qto_A");
+    model.addSet(wall, "Nameless")->Name = std::nullopt;
+    model.shareSet(model.add<FcPropertySet>("Pset_B"), wall);
+
+    EXPECT_THAT(namesOfAttachedSets(*wall),
+                ElementsAre("IfcPropertySet Pset_B", "IfcPropertySet Pset_C", "IfcPropertySet Pset_A",
+                            "IfcElementQuantity Qto_A", "IfcPropertySet -", "IfcPropertySet Pset_B"));
+    EXPECT_THAT(namesOfAttachedSets(*wall, 2), ElementsAre("IfcPropertySet Pset_B", "IfcPropertySet Pset_C"));
+}
+
+TEST(NamesOfObjectSets, LeaveOutDeletedSets)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    auto const first = model.add<FcPropertySet>("Pset_A");
+    attachSets(model, {wall}, {first, model.add<FcPropertySet>("Pset_B")});
+    model.data()->entityDelete(first);
+
+    EXPECT_THAT(namesOfAttachedSets(*wall), ElementsAre("IfcPropertySet Pset_B"));
+}
+
+TEST(NamesOfObjectSets, OfATypeAreThoseOfItsList)
+{
+    Model model;
+    auto const type = model.wallType("WT1");
+    model.addSet(type, "Pset_B");
+    model.addSet(type, "Pset_A");
+    auto const loose = std::make_shared<FcPropertySet>();
+    loose->Name = "Pset_C";
+    auto const looseType = std::make_shared<fc::shared::sharedbldgelements::FcWallType>();
+    looseType->HasPropertySets.edit([&loose](auto& sets) { sets.emplace().push_back(loose); });
+
+    EXPECT_THAT(namesOfAttachedSets(*type), ElementsAre("IfcPropertySet Pset_B", "IfcPropertySet Pset_A"));
+    EXPECT_THAT(namesOfAttachedSets(*type, 1), ElementsAre("IfcPropertySet Pset_B"));
+    EXPECT_THAT(namesOfAttachedSets(*looseType), ElementsAre("IfcPropertySet Pset_C"));
+    EXPECT_THAT(namesOfAttachedSets(*std::make_shared<fc::shared::sharedbldgelements::FcWall>()), IsEmpty());
+}
+
 TEST(DeleteObjectSet, TellsWhetherThereWasOne)
 {
     Model model;
