@@ -10,6 +10,8 @@
 #include "FoundationClasses/Resource/Quantity/FcPhysicalComplexQuantity.h"
 
 #include <algorithm>
+#include <future>
+#include <system_error>
 #include <utility>
 
 namespace qev::ifc {
@@ -260,11 +262,16 @@ FileSource::ClassReading FileSource::makeReading(ClassMapping const& mapping,
     return readings;
 }
 
+int FileSource::fileSlotOf(fc::EntityIndex index, unsigned int slot) const
+{
+    ClassMapping const* const mapping = mappingOf(index);
+    return mapping ? mapping->fileSlot(slot) : ClassMapping::noSlot;
+}
+
 void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
                                   std::function<void(fc::EntityIndex)> const& visit) const
 {
-    ClassMapping const* const mapping = mappingOf(index);
-    int const fileSlot = mapping ? mapping->fileSlot(slot) : ClassMapping::noSlot;
+    int const fileSlot = fileSlotOf(index, slot);
     if (fileSlot < 0)
         return;
     m_parser.forEachReference(index, static_cast<std::size_t>(fileSlot), [this, &visit](step::InstanceId id) {
@@ -275,24 +282,60 @@ void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
 }
 
 void FileSource::appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
-                                  std::vector<std::pair<fc::EntityIndex, fc::EntityIndex>>& references) const
+                                  References& references) const
 {
-    // So many further on, a record has come from memory when its turn comes.
-    constexpr std::size_t ahead = 8;
+    // Fewer are read before a thread has begun.
+    constexpr std::size_t few = 4096;
+    if (records.size() < few) {
+        readReferences(records, slot, references);
+        return;
+    }
+    // The records lie apart, and nearly all of the time goes into waiting for them to come from memory. Two
+    // threads wait half as long.
+    m_file->prepareReading();
+    auto const half = records.subspan(records.size() / 2);
+    References further;
+    std::future<void> helper;
+    try {
+        helper = std::async(std::launch::async, [&] { readReferences(half, slot, further); });
+    } catch (std::system_error const&) {
+        // Without a thread to spare, this one reads the rest as well.
+    }
+    readReferences(records.first(records.size() / 2), slot, references);
+    if (helper.valid())
+        helper.get();
+    else
+        readReferences(half, slot, further);
+    references.insert(references.end(), further.begin(), further.end());
+}
+
+void FileSource::readReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
+                                References& references) const
+{
+    std::vector<step::InstanceId> ids;
+    std::vector<fc::EntityIndex> referring;
     for (std::size_t i = 0; i < records.size(); ++i) {
-        fc::EntityIndex const record = records[i];
-        if (i + ahead < records.size())
-            expect(records[i + ahead]);
-        forEachReference(record, slot,
-                         [&](fc::EntityIndex target) { references.emplace_back(target, record); });
+        m_file->expectNext(records, i);
+        int const fileSlot = fileSlotOf(records[i], slot);
+        if (fileSlot < 0)
+            continue;
+        m_parser.forEachReference(records[i], static_cast<std::size_t>(fileSlot),
+                                  [&](step::InstanceId id) { ids.push_back(id); });
+        referring.resize(ids.size(), records[i]);
+    }
+    auto const targets = m_file->indicesOf(ids);
+    references.reserve(references.size() + targets.size());
+    for (std::size_t i = 0; i < targets.size(); ++i) {
+        if (targets[i] != step::StepFile::noRecord)
+            references.emplace_back(targets[i], referring[i]);
     }
 }
 
 bool FileSource::readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const
 {
-    ClassMapping const* const mapping = mappingOf(index);
-    int const fileSlot = mapping ? mapping->fileSlot(slot) : ClassMapping::noSlot;
-    if (fileSlot < 0 || mapping->changesValueForm(slot))
+    int const fileSlot = fileSlotOf(index, slot);
+    bool const isOtherVersion = &m_version.fileSchema() != &m_version.modelSchema();
+    if (fileSlot < 0 || (isOtherVersion && mappingOf(index)->changesValueForm(slot)))
         return false;
     // Whatever else stands there is for the reading of the whole record, which tells what is wrong.
     auto const value = m_parser.parseArgument(index, static_cast<std::size_t>(fileSlot));

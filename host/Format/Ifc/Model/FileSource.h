@@ -24,6 +24,9 @@ namespace qev::ifc {
 class HOSTIFCMODEL_EXPORT FileSource final : public fc::EntitySource
 {
 public:
+    /// Pairs of target and record.
+    using References = std::vector<std::pair<fc::EntityIndex, fc::EntityIndex>>;
+
     /// \p file is indexed with `keywordTable(version)`.
     FileSource(std::unique_ptr<step::StepFile> file, VersionSchema const& version);
     ~FileSource() override;
@@ -40,14 +43,10 @@ public:
     void read(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity) override;
     void forEachReference(fc::EntityIndex index, unsigned int slot,
                           std::function<void(fc::EntityIndex)> const& visit) const override;
-    void
-    appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
-                     std::vector<std::pair<fc::EntityIndex, fc::EntityIndex>>& references) const override;
+    void appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
+                          References& references) const override;
     bool readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const override;
     void appendRecordsOfClass(std::uint16_t number, std::vector<fc::EntityIndex>& records) const override;
-
-    /// A hint that the record will be asked for a few records from now.
-    void expect(fc::EntityIndex index) const { m_file->expect(index); }
 
     [[nodiscard]] step::StepFile& file() { return *m_file; }
     [[nodiscard]] step::StepFile const& file() const { return *m_file; }
@@ -76,6 +75,11 @@ private:
     [[nodiscard]] static ClassReading makeReading(ClassMapping const& mapping,
                                                   fc::EntityClass const& entityClass);
     void readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity);
+    /// The slot of the file that a slot of the model is read from; negative when the file has none.
+    [[nodiscard]] int fileSlotOf(fc::EntityIndex index, unsigned int slot) const;
+    /// Several threads may do so at a time once the file is prepared for it.
+    void readReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
+                        References& references) const;
     void checkReferences(fc::EntityIndex index);
     /// A property made of properties, and the like, that is a part of one of its parts.
     [[nodiscard]] bool containsItself(fc::EntityIndex index) const;

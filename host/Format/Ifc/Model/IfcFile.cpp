@@ -8,7 +8,6 @@
 #include "Format/Ifc/Step/StepWriter.h"
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeWriter.h"
-#include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcRelationship.h"
 #include "FoundationClasses/Core/Kernel/FcRoot.h"
 
@@ -18,7 +17,6 @@ namespace qev::ifc {
 
 namespace {
 
-using fc::core::kernel::FcObjectDefinition;
 using fc::core::kernel::FcRelationship;
 using fc::core::kernel::FcRoot;
 using step::StepMessage;
@@ -207,7 +205,6 @@ OpenResult IfcFile::index(step::StepOpenResult opened, Progress const& progress)
 IfcFile::IfcFile(std::shared_ptr<fc::Data> data, FileSource& source)
     : m_data(std::move(data))
     , m_source(source)
-    , m_nextClass(FcRoot::idFirst)
 {
 }
 
@@ -282,12 +279,8 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromId(step::InstanceId id) const
 
 std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalId) const
 {
-    // Mostly it is an object that is asked for, and sets and relations are many.
-    for (unsigned int const lastClass : {FcObjectDefinition::idLast, FcRoot::idLast}) {
-        findGlobalIds(lastClass);
-        if (auto const found = m_globalIds.find(globalId); found != m_globalIds.end())
-            return m_data->entity(found->second);
-    }
+    if (auto const place = placeOfGlobalId(globalId))
+        return m_data->entity(*place);
     for (fc::EntityIndex const index : m_data->touchedEntities()) {
         auto entity = m_data->entity(index);
         if (auto const root = fc::entityCast<FcRoot>(entity); root && root->GlobalId.get() == globalId)
@@ -296,28 +289,31 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalI
     return nullptr;
 }
 
-void IfcFile::findGlobalIds(unsigned int lastClass) const
+std::optional<fc::EntityIndex> IfcFile::placeOfGlobalId(std::string_view globalId) const
 {
-    if (m_nextClass > lastClass)
-        return;
+    if (auto const found = m_globalIds.find(globalId); found != m_globalIds.end())
+        return found->second;
+    // Mostly it is an object that is asked for, and sets and relations, which come last, are many.
+    if (!m_rooted)
+        m_rooted = m_data->indicesFromId(FcRoot::idFirst, FcRoot::idLast);
     step::StepRecordParser const parser(m_source.file());
-    auto const places = m_data->indicesFromId(m_nextClass, lastClass);
-    m_globalIds.reserve(m_globalIds.size() + places.size());
-    m_nextClass = lastClass + 1;
-    // So many further on, a record has come from memory when its turn comes.
-    constexpr std::size_t ahead = 8;
-    for (std::size_t i = 0; i < places.size(); ++i) {
-        fc::EntityIndex const index = places[i];
-        if (i + ahead < places.size() && places[i + ahead] < m_source.count())
-            m_source.expect(places[i + ahead]);
+    std::vector<fc::EntityIndex> const& places = *m_rooted;
+    while (m_nextRooted < places.size()) {
+        m_source.file().expectNext(places, m_nextRooted);
+        fc::EntityIndex const index = places[m_nextRooted++];
         if (index >= m_source.count())
             continue;
         int const slot = m_source.mappingOf(index)->fileSlot(0);
         auto const span =
             slot >= 0 ? parser.argumentSpan(index, static_cast<std::size_t>(slot)) : std::nullopt;
-        if (span && span->size() >= 2)
-            m_globalIds.emplace(span->substr(1, span->size() - 2), index);
+        if (!span || span->size() < 2)
+            continue;
+        std::string_view const found = span->substr(1, span->size() - 2);
+        m_globalIds.emplace(found, index);
+        if (found == globalId)
+            return index;
     }
+    return std::nullopt;
 }
 
 std::string IfcFile::nameOf(fc::FcBase const& entity, unsigned int slot) const

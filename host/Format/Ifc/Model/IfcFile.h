@@ -117,7 +117,8 @@ private:
     /// "IfcWall #12.Name", for messages.
     [[nodiscard]] std::string nameOf(fc::FcBase const& entity, unsigned int slot) const;
     void giveIds();
-    void findGlobalIds(unsigned int lastClass) const;
+    /// The record with this global id as it stands in the file; the first, when several have it.
+    [[nodiscard]] std::optional<fc::EntityIndex> placeOfGlobalId(std::string_view globalId) const;
 
     std::shared_ptr<fc::Data> m_data;
     FileSource& m_source;
@@ -127,9 +128,12 @@ private:
     /// Ids of entities that were created since the file was read. Once given, an id stays.
     std::map<fc::EntityIndex, step::InstanceId> m_newIds;
     step::InstanceId m_nextId = 0;
-    /// Places by global id as it stands in the bytes of the file, of the classes before `m_nextClass`.
+    /// The places of all entities with a global id, once somebody asked for one, and the first of them that
+    /// is not in `m_globalIds` yet: reading ends with the one that was asked for.
+    mutable std::optional<std::vector<fc::EntityIndex>> m_rooted;
+    mutable std::size_t m_nextRooted = 0;
+    /// Places by global id as it stands in the bytes of the file.
     mutable std::unordered_map<std::string_view, fc::EntityIndex> m_globalIds;
-    mutable unsigned int m_nextClass;
 };
 
 } // namespace qev::ifc

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Core/Platform/Prefetch.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -28,6 +30,14 @@ public:
         Chunk const& chunk = m_chunks[index >> chunkBits];
         std::size_t const at = index & (chunkSize - 1);
         return chunk.wide != nullptr ? chunk.wide[at] : chunk.base + chunk.offsets[at];
+    }
+    /// A hint that the number at \p index will be asked for soon.
+    void expect(std::size_t index) const
+    {
+        Chunk const& chunk = m_chunks[index >> chunkBits];
+        std::size_t const at = index & (chunkSize - 1);
+        platform::prefetch(chunk.wide != nullptr ? reinterpret_cast<char const*>(chunk.wide.get() + at)
+                                                 : reinterpret_cast<char const*>(chunk.offsets.get() + at));
     }
     [[nodiscard]] std::size_t size() const { return m_size; }
     [[nodiscard]] std::size_t memory() const;

@@ -1,5 +1,7 @@
 #include "Format/Ifc/Step/RecordLookup.h"
 
+#include "Core/Platform/Prefetch.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -9,6 +11,7 @@ void RecordLookup::build(CompactColumn const& ids, bool ascending)
 {
     std::size_t const count = ids.size();
     m_table.clear();
+    m_shift = 0;
     if (count == 0) {
         m_kind = Kind::Empty;
         return;
@@ -41,7 +44,7 @@ void RecordLookup::buildAscending(CompactColumn const& ids)
     m_table.assign(ranges + 1, static_cast<RecordIndex>(count));
     std::size_t nextRange = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        auto const range = static_cast<std::size_t>((ids[i] - m_lowest) >> m_shift);
+        std::size_t const range = tablePlace(ids[i]);
         while (nextRange <= range)
             m_table[nextRange++] = static_cast<RecordIndex>(i);
     }
@@ -77,7 +80,7 @@ RecordIndex RecordLookup::find(CompactColumn const& ids, InstanceId id) const
     std::size_t low = 0;
     std::size_t high = m_table.size();
     if (m_kind == Kind::Ascending) {
-        auto const range = static_cast<std::size_t>((id - m_lowest) >> m_shift);
+        std::size_t const range = tablePlace(id);
         low = m_table[range];
         high = m_table[range + 1];
     }
@@ -94,6 +97,35 @@ RecordIndex RecordLookup::find(CompactColumn const& ids, InstanceId id) const
         return StepFile::noRecord;
     RecordIndex const record = sorted ? m_table[low] : static_cast<RecordIndex>(low);
     return ids[record] == id ? record : StepFile::noRecord;
+}
+
+void RecordLookup::expectTable(InstanceId id) const
+{
+    bool const isPlaceKnown = m_kind == Kind::Ascending || m_kind == Kind::Dense;
+    if (isPlaceKnown && id >= m_lowest && id <= m_highest)
+        platform::prefetch(reinterpret_cast<char const*>(m_table.data() + tablePlace(id)));
+}
+
+void RecordLookup::expectIds(CompactColumn const& ids, InstanceId id) const
+{
+    if (m_kind == Kind::Ascending && id >= m_lowest && id <= m_highest)
+        ids.expect(m_table[tablePlace(id)]);
+}
+
+std::vector<RecordIndex> RecordLookup::find(CompactColumn const& ids,
+                                            std::span<InstanceId const> wanted) const
+{
+    constexpr std::size_t ahead = 8;
+    std::vector<RecordIndex> records;
+    records.reserve(wanted.size());
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (i + 2 * ahead < wanted.size())
+            expectTable(wanted[i + 2 * ahead]);
+        if (i + ahead < wanted.size())
+            expectIds(ids, wanted[i + ahead]);
+        records.push_back(find(ids, wanted[i]));
+    }
+    return records;
 }
 
 } // namespace qev::step

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace qev::step {
@@ -20,6 +21,10 @@ public:
 
     /// The first record with this id, else `StepFile::noRecord`.
     [[nodiscard]] RecordIndex find(CompactColumn const& ids, InstanceId id) const;
+    /// The same for many ids, in their order: the memory for those further on comes while the present ones
+    /// are looked up.
+    [[nodiscard]] std::vector<RecordIndex> find(CompactColumn const& ids,
+                                                std::span<InstanceId const> wanted) const;
     [[nodiscard]] bool isBuilt() const { return m_kind != Kind::None; }
     [[nodiscard]] InstanceId highestId() const { return m_highest; }
     [[nodiscard]] std::size_t memory() const { return m_table.capacity() * sizeof(RecordIndex); }
@@ -37,6 +42,13 @@ private:
     void buildAscending(CompactColumn const& ids);
     void buildDense(CompactColumn const& ids);
     void buildSorted(CompactColumn const& ids);
+    /// Where `find` begins for an id between the lowest and the highest, where that tells from the id alone.
+    [[nodiscard]] std::size_t tablePlace(InstanceId id) const
+    {
+        return static_cast<std::size_t>((id - m_lowest) >> m_shift);
+    }
+    void expectTable(InstanceId id) const;
+    void expectIds(CompactColumn const& ids, InstanceId id) const;
 
     Kind m_kind = Kind::None;
     InstanceId m_lowest = 0;

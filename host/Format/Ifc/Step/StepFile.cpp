@@ -247,7 +247,8 @@ std::string_view StepFile::argumentsOf(RecordIndex record) const { return extent
 
 StepRecordExtent StepFile::extentOf(RecordIndex record) const
 {
-    StepScanner& scanner = m_private->scanner;
+    // A copy, for several threads may read records.
+    StepScanner scanner = m_private->scanner;
     std::size_t const begin = positionOf(record);
     StepScanner::RecordHead const head = scanner.readHead(begin);
     StepScanner::RecordEnd const end = scanner.findEnd(head.arguments);
@@ -273,6 +274,13 @@ RecordIndex StepFile::indexOf(InstanceId id) const
 {
     return m_private->lookup().find(m_private->columns.ids, id);
 }
+
+std::vector<RecordIndex> StepFile::indicesOf(std::span<InstanceId const> ids) const
+{
+    return m_private->lookup().find(m_private->columns.ids, ids);
+}
+
+void StepFile::prepareReading() const { static_cast<void>(m_private->lookup()); }
 
 bool StepFile::isDuplicate(RecordIndex record) const
 {
@@ -317,12 +325,20 @@ std::size_t StepFile::positionOf(RecordIndex record) const
     return static_cast<std::size_t>(m_private->columns.positions[record]);
 }
 
-void StepFile::expect(RecordIndex record) const
+void StepFile::expectNext(std::span<RecordIndex const> records, std::size_t position) const
 {
-    // Records that are asked for one after the other by their class lie apart, and most take two or three lines.
+    // Records that are asked for one after the other by their class lie apart, and most take two or three
+    // lines. A hint takes effect when some more records have had their turn.
     constexpr std::size_t cacheLine = 64;
     constexpr std::size_t lines = 3;
-    std::size_t const begin = positionOf(record);
+    constexpr std::size_t ahead = 8;
+    CompactColumn const& positions = m_private->columns.positions;
+    auto const isRecord = [&](std::size_t at) { return at < records.size() && records[at] < recordCount(); };
+    if (isRecord(position + 2 * ahead))
+        positions.expect(records[position + 2 * ahead]);
+    if (!isRecord(position + ahead))
+        return;
+    std::size_t const begin = positionOf(records[position + ahead]);
     for (std::size_t line = 0; line < lines; ++line)
         platform::prefetch(m_private->bytes.data() + begin + line * cacheLine);
 }

@@ -38,7 +38,7 @@ struct StepRecordExtent;
 ///
 /// Broken records do not end the reading: it goes on at the next record, and `messages` tells.
 /// Look-up tables are made when first needed, inside const operations too; use one file from one
-/// thread at a time.
+/// thread at a time. After `prepareReading` several threads may take records apart and look up ids.
 class HOSTSTEP_EXPORT StepFile
 {
 public:
@@ -95,8 +95,13 @@ public:
     /// the arguments, the closing parenthesis and the rest. Empty for a record of several keywords.
     [[nodiscard]] std::string_view argumentsOf(RecordIndex record) const;
 
+    /// Makes what `extentOf`, `classOf` and `indexOf` need, so that several threads may call them and read
+    /// records with `StepRecordParser`.
+    void prepareReading() const;
     /// The record with this id; the first, when several have it. `noRecord` without one.
     [[nodiscard]] RecordIndex indexOf(InstanceId id) const;
+    /// The same for many ids, in their order.
+    [[nodiscard]] std::vector<RecordIndex> indicesOf(std::span<InstanceId const> ids) const;
     /// Whether an earlier record has the same id, so that no reference leads to this one.
     [[nodiscard]] bool isDuplicate(RecordIndex record) const;
     /// Records of a class in the order of the file. Valid until the next `index`.
@@ -115,8 +120,9 @@ public:
     [[nodiscard]] std::uint64_t lineOf(std::size_t position) const;
     [[nodiscard]] std::uint64_t lineOfRecord(RecordIndex record) const;
     [[nodiscard]] std::size_t positionOf(RecordIndex record) const;
-    /// A hint that the record will be asked for a few records from now: its bytes are brought near.
-    void expect(RecordIndex record) const;
+    /// A hint for who asks for \p records one after the other and has come to the one at \p position: those a
+    /// little further on are brought near. What is no record of the file does not matter.
+    void expectNext(std::span<RecordIndex const> records, std::size_t position) const;
 
     /// Just behind the last complete record of the last DATA section, or behind the section's
     /// head when it has none: where new records go. 0 without a DATA section.

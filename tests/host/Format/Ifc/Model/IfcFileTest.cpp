@@ -127,6 +127,27 @@ TEST(IfcFile, TellsNamesOfSetsInAListOfThem)
     EXPECT_EQ(file->data()->objectCount(), 1u);
 }
 
+TEST(IfcFile, FindsTheRelationsOfVeryManyObjects)
+{
+    // Enough of them to be read by two threads; every second one is of two walls, one of which is missing.
+    constexpr unsigned int count = 6000;
+    std::string records;
+    for (unsigned int i = 0; i < count; ++i) {
+        std::string const wall = "#" + std::to_string(10 * i + 1);
+        std::string const related = i % 2 == 0 ? wall : wall + "," + wall + "9999999";
+        records += wall + "=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n#" +
+                   std::to_string(10 * i + 2) +
+                   "=IFCRELDEFINESBYPROPERTIES('4YvctVUKr0kugbFTf53O9L',$,$,$,(" + related + "),$);\n";
+    }
+    auto const file = open(records);
+    using Relation = fc::core::kernel::FcRelDefinesByProperties;
+    unsigned int const slot = fc::slotFromName(Relation::staticEntityClass(), "RelatedObjects");
+    for (fc::EntityIndex i = 0; i < count; ++i)
+        ASSERT_THAT(file->data()->relating(2 * i, Relation::idFirst, Relation::idLast, slot),
+                    testing::ElementsAre(2 * i + 1));
+    EXPECT_EQ(file->data()->objectCount(), 0u);
+}
+
 TEST(IfcFile, MakesOnlyTheObjectsThatAreAskedFor)
 {
     auto const file = open(wallWithSet);
@@ -147,7 +168,10 @@ TEST(IfcFile, FindsAnObjectByItsGlobalId)
 {
     auto const file = open(wallWithSet);
     EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), file->entityFromId(5));
+    EXPECT_EQ(file->entityFromGlobalId("3YvctVUKr0kugbFTf53O9L"), file->entityFromId(6));
     EXPECT_EQ(file->entityFromGlobalId("unknown"), nullptr);
+    EXPECT_EQ(file->entityFromGlobalId("0YvctVUKr0kugbFTf53O9L"), file->entityFromId(1));
+    EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), file->entityFromId(5));
 }
 
 TEST(IfcFile, WithoutAnEditTheTextIsTheSame)

@@ -4,12 +4,15 @@
 
 #include <gmock/gmock.h>
 
+#include <future>
+
 namespace qev::step {
 namespace {
 
 using test::openRecords;
 using test::openText;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
@@ -158,6 +161,64 @@ TEST(StepFile, FindsRecordsByIdInAnyOrder)
     EXPECT_EQ(file->indexOf(3), StepFile::noRecord);
     EXPECT_EQ(file->highestId(), 18446744073709551615U);
     EXPECT_THAT(test::messageTexts(*file), IsEmpty());
+}
+
+TEST(StepFile, FindsManyRecordsByTheirIdsAtOnce)
+{
+    // Ids in ascending order, in another order without and with gaps between them.
+    for (auto const& [factor, isBackwards] :
+         {std::pair<InstanceId, bool>(3, false), {1, true}, {1000, true}}) {
+        constexpr InstanceId count = 500;
+        std::string records;
+        for (InstanceId i = 1; i <= count; ++i) {
+            InstanceId const number = isBackwards ? count + 1 - i : i;
+            records += "#" + std::to_string(number * factor) + "=IFCWALL();\n";
+        }
+        auto const file = openRecords(records);
+        std::vector<InstanceId> ids = {0, ~InstanceId{0}};
+        for (InstanceId i = 0; i <= count * factor + 1; i += 1 + i % 5)
+            ids.push_back(i * 7919 % (count * factor + 2));
+        std::vector<RecordIndex> expected;
+        for (InstanceId const id : ids)
+            expected.push_back(file->indexOf(id));
+        EXPECT_THAT(file->indicesOf(ids), ElementsAreArray(expected));
+        EXPECT_EQ(expected[1], StepFile::noRecord);
+        EXPECT_EQ(file->indicesOf({}), std::vector<RecordIndex>());
+    }
+    EXPECT_THAT(openRecords("")->indicesOf(std::vector<InstanceId>{1}), ElementsAre(StepFile::noRecord));
+}
+
+TEST(StepFile, MayBeReadBySeveralThreads)
+{
+    constexpr RecordIndex count = 20000;
+    std::string records;
+    for (RecordIndex i = 1; i <= count; ++i)
+        records += "#" + std::to_string(i) + "=IFCWALL('a;b',(#" + std::to_string(count + 1 - i) + "));\n";
+    auto const file = openRecords(records);
+    file->prepareReading();
+    auto const sumOfTargets = [&file] {
+        std::uint64_t sum = 0;
+        for (RecordIndex i = 0; i < count; ++i)
+            StepRecordParser(*file).forEachReference(
+                i, 1, [&](InstanceId id) { sum += std::uint64_t{file->indexOf(id)} * i; });
+        return sum;
+    };
+    auto other = std::async(std::launch::async, sumOfTargets);
+    std::uint64_t const sum = sumOfTargets();
+    EXPECT_EQ(other.get(), sum);
+    EXPECT_GT(sum, 0U);
+}
+
+TEST(StepFile, HintsOfWhatComesNextMayNameWhatIsNotThere)
+{
+    auto const file = openRecords("#1=IFCWALL();\n#2=IFCWALL();\n");
+    std::vector<RecordIndex> const records(20, 1);
+    std::vector<RecordIndex> const others(20, StepFile::noRecord);
+    for (std::size_t i = 0; i < 25; ++i) {
+        file->expectNext(records, i);
+        file->expectNext(others, i);
+    }
+    EXPECT_EQ(file->recordCount(), 2U);
 }
 
 TEST(StepFile, ListsAndCountsRecordsByClass)
