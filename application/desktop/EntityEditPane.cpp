@@ -7,6 +7,7 @@
 #include "Ui/Qt/QtBackend.h"
 #include "Ui/Qt/QtDialog.h"
 #include "Ui/Qt/QtText.h"
+#include "Ui/Window/Controls/ListControl/ListControl.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -104,6 +105,28 @@ void EntityEditPane::refresh()
     m_isStale = true;
     if (isVisible())
         showObjects();
+}
+
+QVariantMap EntityEditPane::getPopupSizes() const
+{
+    QVariantMap sizes;
+    for (auto const& [id, settings] : m_dialog->getAllStoredSettings())
+        if (settings.size)
+            sizes[toQString(id)] =
+                QSize(static_cast<int>(settings.size->first), static_cast<int>(settings.size->second));
+    return sizes;
+}
+
+void EntityEditPane::setPopupSizes(QVariantMap const& sizes)
+{
+    for (auto const& [id, value] : sizes.asKeyValueRange()) {
+        auto const size = value.toSize();
+        if (!size.isEmpty())
+            m_dialog->storeSettings(ui::fromQString(id), {ui::ListControl::getClassName(),
+                                                          ui::Size(static_cast<unsigned int>(size.width()),
+                                                                   static_cast<unsigned int>(size.height())),
+                                                          std::nullopt});
+    }
 }
 
 ui::QtPropertyGrid* EntityEditPane::getGrid() const

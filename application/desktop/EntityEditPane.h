@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QUrl>
+#include <QVariantMap>
 #include <QWidget>
 #include <vector>
 
@@ -39,6 +40,11 @@ public:
     void setObjects(std::vector<fc::EntityIndex> objects);
     /// Shows what the model says now.
     void refresh();
+
+    /// The sizes that the user gave the popups, by their ids.
+    [[nodiscard]] QVariantMap getPopupSizes() const;
+    /// Gives the popups the sizes of `getPopupSizes`, of this run or another.
+    void setPopupSizes(QVariantMap const& sizes);
 
     /// Who opens files and addresses; the desktop unless set.
     void setOpenFunction(OpenFunction function) { m_open = std::move(function); }

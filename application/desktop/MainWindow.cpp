@@ -103,6 +103,7 @@ void MainWindow::restoreWindow()
     restoreGeometry(settings.value("window/geometry").toByteArray());
     restoreState(settings.value("window/state").toByteArray());
     m_properties->setGridLayout(settings.value("window/grid").toByteArray());
+    m_editor->setPopupSizes(settings.value("window/popups").toMap());
     showList(settings.value("window/list").toBool());
     if (settings.value("window/editor").toBool())
         showEditor();
@@ -115,6 +116,7 @@ void MainWindow::storeWindow() const
     settings.setValue("window/geometry", saveGeometry());
     settings.setValue("window/state", saveState());
     settings.setValue("window/grid", m_properties->getGridLayout());
+    settings.setValue("window/popups", m_editor->getPopupSizes());
     settings.setValue("window/list", m_views->currentWidget() == m_list);
     settings.setValue("window/editor", m_views->currentWidget() == m_editor);
     m_viewActions.store();

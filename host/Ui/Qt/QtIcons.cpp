@@ -33,8 +33,12 @@ void addDrawing(QIcon& icon, std::string const& path)
         return;
     QSvgRenderer renderer(QByteArray(drawing.data(), static_cast<qsizetype>(drawing.size())));
     auto const size = renderer.defaultSize().width();
-    for (auto const scale : {2, 3, 4})
-        icon.addPixmap(draw(renderer, size * scale / 2));
+    for (auto const scale : {2, 3, 4}) {
+        auto const pixmap = draw(renderer, size * scale / 2);
+        icon.addPixmap(pixmap);
+        // Left to itself, Qt tints the icons of selected rows until they can hardly be told from the row.
+        icon.addPixmap(pixmap, QIcon::Selected);
+    }
 }
 
 QIcon& getCached(std::string const& key, std::function<void(QIcon&)> const& make)

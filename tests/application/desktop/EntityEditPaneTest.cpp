@@ -151,6 +151,19 @@ TEST_F(EntityEditPaneTest, AddingASetAsksInTwoPopupsAndShowsIt)
     EXPECT_TRUE(window->isWindowModified());
 }
 
+TEST_F(EntityEditPaneTest, PopupsHaveTheSizeOfTheLastRun)
+{
+    pane.setPopupSizes({{"FcEditController_PopupControl", QSize(640, 420)}, {"broken", "no size"}});
+    EXPECT_EQ(pane.getPopupSizes(), (QVariantMap{{"FcEditController_PopupControl", QSize(640, 420)}}));
+    window->selectObject(entrance);
+    clickButton("PropertySets", 0);
+    std::vector<QSize> sizes;
+    for (auto* const widget : QApplication::topLevelWidgets())
+        if (dynamic_cast<ui::QtListControl*>(widget) && widget->isVisible())
+            sizes.push_back(widget->size());
+    EXPECT_THAT(sizes, ElementsAre(QSize(640, 420)));
+}
+
 TEST_F(EntityEditPaneTest, TheEditorIsInFrontAgainInTheNextRun)
 {
     window->storeWindow();
