@@ -1,6 +1,5 @@
 #include "EditorSession.h"
 
-#include "UI/FoundationClasses/Property/PropertySettings.h"
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 #include "Ui/Window/Controls/PopupControl/PopupControlAborter.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
@@ -9,16 +8,6 @@
 namespace qev::application {
 
 namespace {
-
-/// A drop list takes one value; the popup, which these settings give to enumerations, takes several.
-class EnumerationPopups final : public fc::ui::PropertySettings
-{
-public:
-    [[nodiscard]] bool isUserEditableEnumeration(std::string_view, std::string_view) const override
-    {
-        return true;
-    }
-};
 
 std::vector<EditorSessionRow> describe(std::vector<std::shared_ptr<ui::PropertyGridRow>> const& rows)
 {
@@ -32,13 +21,12 @@ std::vector<EditorSessionRow> describe(std::vector<std::shared_ptr<ui::PropertyG
 } // namespace
 
 EditorSession::EditorSession()
-    : m_settingsBefore(fc::ui::PropertySettings::setInstance(std::make_shared<EnumerationPopups>()))
-    , m_backend(ui::HeadlessBackend::install())
+    : m_backend(ui::HeadlessBackend::install())
     , m_session(m_backend->createDialog({800, 600}), requests())
 {
 }
 
-EditorSession::~EditorSession() { fc::ui::PropertySettings::setInstance(m_settingsBefore); }
+EditorSession::~EditorSession() = default;
 
 EntityEditSession::Requests EditorSession::requests()
 {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "EntityEditSession.h"
-#include "UI/FoundationClasses/Property/PropertySettingsInterface.h"
 #include "Ui/Headless/HeadlessBackend.h"
 #include "Ui/PropertyGrid/PropertyGridRowRecord.h"
 
@@ -64,7 +63,6 @@ private:
     [[nodiscard]] ui::HeadlessPropertyGrid& grid() const;
     [[nodiscard]] std::shared_ptr<ui::PropertyGridRow> gridRow(std::string const& path) const;
 
-    std::shared_ptr<fc::ui::PropertySettingsInterface> m_settingsBefore;
     std::shared_ptr<ui::HeadlessBackend> m_backend;
     std::vector<std::string> m_openedReferences;
     EntityEditSession m_session;

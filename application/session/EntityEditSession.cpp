@@ -4,6 +4,7 @@
 #include "Edit/PropertyGridControlObjectEditorContext.h"
 #include "UI/FoundationClasses/FcEditController.h"
 #include "UI/FoundationClasses/FcObjectEditor.h"
+#include "UI/FoundationClasses/Property/PropertySettings.h"
 #include "UI/FoundationClasses/PropertyInterface/FcPropertyWrapper.h"
 
 #include <algorithm>
@@ -16,6 +17,18 @@ namespace {
 using fc::ui::edit::FcEditController;
 using fc::ui::edit::FcObjectEditor;
 using fc::ui::propertyinterface::FcPropertyWrapper;
+
+/// An enumerated property may have several values. A drop list takes one; the popup that these settings give
+/// to enumerations takes all.
+class EnumerationPopups final : public fc::ui::PropertySettings
+{
+public:
+    [[nodiscard]] bool isUserEditableEnumeration(std::string_view /*setName*/,
+                                                 std::string_view /*propertyName*/) const override
+    {
+        return true;
+    }
+};
 
 /// The controller of this program: what the library does with clicks is all it wants.
 class EntityEditController final : public FcEditController
@@ -41,13 +54,14 @@ ui::WindowPlacement getClientArea(ui::Dialog const& dialog)
 } // namespace
 
 EntityEditSession::EntityEditSession(std::shared_ptr<ui::Dialog> dialog, Requests requests)
-    : m_dialog(std::move(dialog))
+    : m_settingsBefore(fc::ui::PropertySettings::setInstance(std::make_shared<EnumerationPopups>()))
+    , m_dialog(std::move(dialog))
     , m_grid(ui::Window::create<ui::PropertyGridControl>(m_dialog, 0, 0, getClientArea(*m_dialog), gridId))
     , m_editor(ui::edit::PropertyGridObjectEditor::create(m_grid, m_dialog, makeProgram(std::move(requests))))
 {
 }
 
-EntityEditSession::~EntityEditSession() = default;
+EntityEditSession::~EntityEditSession() { fc::ui::PropertySettings::setInstance(m_settingsBefore); }
 
 void EntityEditSession::show(std::shared_ptr<fc::Data> data,
                              std::vector<std::shared_ptr<fc::FcBase>> entities)

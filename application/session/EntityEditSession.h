@@ -2,6 +2,7 @@
 
 #include "Edit/PropertyGridObjectEditor.h"
 #include "FoundationClasses/Data.h"
+#include "UI/FoundationClasses/Property/PropertySettingsInterface.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
 #include "Ui/Window/Dialog.h"
 
@@ -58,6 +59,7 @@ public:
 private:
     [[nodiscard]] ui::edit::EditorProgram makeProgram(Requests requests);
 
+    std::shared_ptr<fc::ui::PropertySettingsInterface> m_settingsBefore;
     std::shared_ptr<ui::Dialog> m_dialog;
     std::shared_ptr<ui::PropertyGridControl> m_grid;
     std::shared_ptr<fc::Data> m_data;
