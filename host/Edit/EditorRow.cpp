@@ -27,9 +27,14 @@ std::string getButtonText(PropertyButton const& button)
     if (!button.tooltip.empty())
         return button.tooltip;
     auto const name = button.image ? button.image->name : button.key;
-    constexpr std::array<std::string_view, 4> known = {"add", "delete", "edit", "open"};
-    return std::find(known.begin(), known.end(), name) == known.end() ? name
-                                                                      : localize("Button_" + name, "Ui");
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 4> known = {
+        {{"add", "Button_add"},
+         {"delete", "Button_delete"},
+         {"edit", "Button_edit"},
+         {"open", "Button_open"}}};
+    auto const text = std::find_if(known.begin(), known.end(),
+                                   [&name](auto const& imageAndText) { return imageAndText.first == name; });
+    return text == known.end() ? name : localize(text->second, "Ui");
 }
 
 std::vector<PropertyGridRowButton> makeButtons(ShownObject const& object, object::PropertyId const& id)
