@@ -184,7 +184,6 @@ std::vector<SampleFile> ownFiles()
 
 INSTANTIATE_TEST_SUITE_P(Samples, QtGridEdit, testing::ValuesIn(ownFiles()),
                          [](auto const& file) { return file.param.name; });
-});
 
 TEST_P(QtGridEdit, TypedTextsChangeOneRecordEachAndComeBackAfterSaving)
 {
