@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iostream>
+#include <functional>
 #include <set>
 
 namespace {
@@ -157,6 +157,30 @@ protected:
         return lines;
     }
 
+    /// Calls \p edit for one row of each object that has such a row; there has to be one at all.
+    void editEach(PropertyGridEditor editor,
+                  std::function<void(std::string const& object, Path const& names)> const& edit)
+    {
+        std::size_t edits = 0;
+        for (auto const& object : objects()) {
+            select(object);
+            auto const rows = rowsWith(editor);
+            if (rows.empty())
+                continue;
+            edit(object, rows.front());
+            ++edits;
+        }
+        EXPECT_GT(edits, 0u) << "there is no row to edit";
+    }
+
+    static void expectOneRecordChanged(RecordChanges const& changes)
+    {
+        EXPECT_EQ(changes.changed.size(), 1u);
+        EXPECT_THAT(changes.added, IsEmpty());
+        EXPECT_THAT(changes.removed, IsEmpty());
+        EXPECT_TRUE(changes.isRestSame);
+    }
+
     void expectSavedAndReopenedTheSame(std::string const& object)
     {
         auto const rows = shownRows();
@@ -187,89 +211,56 @@ INSTANTIATE_TEST_SUITE_P(Samples, QtGridEdit, testing::ValuesIn(ownFiles()),
 
 TEST_P(QtGridEdit, TypedTextsChangeOneRecordEachAndComeBackAfterSaving)
 {
-    std::size_t edits = 0;
-    for (auto const& object : objects()) {
-        select(object);
-        auto const rows = rowsWith(PropertyGridEditor::Text);
-        if (rows.empty())
-            continue;
-        replaceText(rows.front(), "Typed by hand");
-        EXPECT_EQ(value(row(rows.front())), "Typed by hand");
-        ++edits;
+    editEach(PropertyGridEditor::Text, [this](std::string const& object, Path const& names) {
+        replaceText(names, "Typed by hand");
+        EXPECT_EQ(value(row(names)), "Typed by hand");
         auto const saved = window->getSession().getFile()->toText();
         auto const changes = RecordChanges::between(before, saved);
-        EXPECT_EQ(changes.changed.size(), 1u);
-        EXPECT_THAT(changes.added, IsEmpty());
-        EXPECT_THAT(changes.removed, IsEmpty());
-        EXPECT_TRUE(changes.isRestSame);
+        expectOneRecordChanged(changes);
         expectSavedAndReopenedTheSame(object);
         before = readFile(path);
         EXPECT_TRUE(before == saved);
-    }
-    std::cout << "    " << edits << " texts\n";
+    });
 }
 
 TEST_P(QtGridEdit, ANumberTakesNumbersAndRefusesTheRest)
 {
-    std::size_t edits = 0;
-    for (auto const& object : objects()) {
-        select(object);
-        auto const rows = rowsWith(PropertyGridEditor::Number);
-        if (rows.empty())
-            continue;
-        auto const shown = value(row(rows.front()));
-        replaceText(rows.front(), "none");
+    editEach(PropertyGridEditor::Number, [this](std::string const& object, Path const& names) {
+        auto const shown = value(row(names));
+        replaceText(names, "none");
         EXPECT_NE(view().getMessage(), "") << "the refusal is told";
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         settle();
-        EXPECT_EQ(value(row(rows.front())), shown);
+        EXPECT_EQ(value(row(names)), shown);
         EXPECT_TRUE(window->getSession().getFile()->toText() == before);
 
-        replaceText(rows.front(), shown.find('7') == 0 ? "8" : "7");
-        EXPECT_NE(value(row(rows.front())), shown);
-        ++edits;
+        replaceText(names, shown.find('7') == 0 ? "8" : "7");
+        EXPECT_NE(value(row(names)), shown);
         auto const changes = RecordChanges::between(before, window->getSession().getFile()->toText());
-        EXPECT_EQ(changes.changed.size(), 1u);
-        EXPECT_THAT(changes.added, IsEmpty());
-        EXPECT_TRUE(changes.isRestSame);
+        expectOneRecordChanged(changes);
         expectSavedAndReopenedTheSame(object);
         before = readFile(path);
-    }
-    std::cout << "    " << edits << " numbers\n";
+    });
 }
 
 TEST_P(QtGridEdit, SpaceTurnsACheckBoxAndUndoTurnsItBack)
 {
-    std::size_t edits = 0;
-    for (auto const& object : objects()) {
-        select(object);
-        auto const rows = rowsWith(PropertyGridEditor::CheckBox);
-        if (rows.empty())
-            continue;
-        press(rows.front(), Qt::Key_Space);
-        ++edits;
+    editEach(PropertyGridEditor::CheckBox, [this](std::string const& /*object*/, Path const& names) {
+        press(names, Qt::Key_Space);
         auto const changes = RecordChanges::between(before, window->getSession().getFile()->toText());
-        EXPECT_EQ(changes.changed.size(), 1u);
-        EXPECT_TRUE(changes.isRestSame);
+        expectOneRecordChanged(changes);
         QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
         settle();
         EXPECT_TRUE(window->getSession().getFile()->toText() == before);
-    }
-    std::cout << "    " << edits << " check boxes\n";
+    });
 }
 
 TEST_P(QtGridEdit, DelTakesAValueAwayAndUndoBringsItBack)
 {
-    std::size_t edits = 0;
-    for (auto const& object : objects()) {
-        select(object);
-        auto const rows = rowsWith(PropertyGridEditor::Text);
-        if (rows.empty())
-            continue;
+    editEach(PropertyGridEditor::Text, [this](std::string const& /*object*/, Path const& names) {
         auto const shown = shownRows();
-        press(rows.front(), Qt::Key_Delete);
+        press(names, Qt::Key_Delete);
         EXPECT_NE(shownRows(), shown);
-        ++edits;
         auto const changes = RecordChanges::between(before, window->getSession().getFile()->toText());
         EXPECT_FALSE(changes.removed.empty());
         EXPECT_THAT(changes.added, IsEmpty());
@@ -278,8 +269,7 @@ TEST_P(QtGridEdit, DelTakesAValueAwayAndUndoBringsItBack)
         settle();
         EXPECT_TRUE(window->getSession().getFile()->toText() == before);
         EXPECT_EQ(shownRows(), shown);
-    }
-    std::cout << "    " << edits << " values taken away\n";
+    });
 }
 
 TEST_P(QtGridEdit, AValueInAnUnusedSetMakesTheSetAndDelTakesItAway)
@@ -320,7 +310,7 @@ TEST_P(QtGridEdit, AValueInAnUnusedSetMakesTheSetAndDelTakesItAway)
         window->getProperties().setUnusedShown(false);
         settle();
     }
-    std::cout << "    " << edits << " sets made\n";
+    EXPECT_GT(edits, 0u) << "no set could be made";
 }
 
 } // namespace
