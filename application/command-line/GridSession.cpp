@@ -4,8 +4,8 @@
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
+#include "RowInputCheck.h"
 #include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter.h"
-#include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatterStrategyInterface.h"
 #include "UI/FoundationClasses/Property/PropertyInterface.h"
 #include "UI/FoundationClasses/Set/PropertySetDefinition.h"
 
@@ -24,8 +24,7 @@ constexpr int gridId = 101;
 
 /// Listens while the control builds its rows: rows of attributes carry no hint of their own of what they
 /// show.
-class GridSession::Recorder final : public fc::ui::PropertySetDefinitionFilterInterface,
-                                    public fc::ui::PropertyGridControlPropertyFormatterStrategyInterface
+class GridSession::Recorder final : public fc::ui::PropertySetDefinitionFilterInterface, public RowStrategy
 {
 public:
     /// The attributes of one object or type, as their rows come into being.
@@ -43,6 +42,7 @@ public:
     void clear() { m_groups.clear(); }
     [[nodiscard]] std::vector<AttributeGroup> const& attributeGroups() const { return m_groups; }
 
+    using RowStrategy::setObject;
     void setObject(std::shared_ptr<fc::FcBase>) override {}
     bool isSetIncluded(std::string const& setName) const override
     {
@@ -57,43 +57,12 @@ public:
         return !m_filter || m_filter(setName, propertyName);
     }
 
-    std::optional<bool> wantCustomButtonProperties() const override { return std::nullopt; }
-    std::optional<bool> wantButton(std::string const&, std::string const&) const override
-    {
-        return std::nullopt;
-    }
-    void onButtonClicked(std::string const&, std::string const&) override {}
-    void setObject(std::shared_ptr<fc::Data>, std::shared_ptr<fc::FcBase>) override {}
     void onPropertyCreated(std::string const&, std::string const& propertyName,
                            ui::PropertyGridProperty&) override
     {
         if (m_isAttributeGroup)
             m_groups.back().names.push_back(propertyName);
     }
-    std::optional<Alignment> getAlignment(std::string const&, std::string const&) const override
-    {
-        return std::nullopt;
-    }
-    std::optional<EmptyLineState> getEmptyLineState(std::string const&, std::string const&) const override
-    {
-        return std::nullopt;
-    }
-    std::optional<HorizontalLineState> getHorizontalLineState(std::string const&,
-                                                              std::string const&) const override
-    {
-        return std::nullopt;
-    }
-    std::optional<bool> wantBoldFontStyleForNameAndValue(std::string const&,
-                                                         std::string const&) const override
-    {
-        return std::nullopt;
-    }
-    std::optional<unsigned int> getPropertyNameIndentationInCharacters(std::string const&,
-                                                                       std::string const&) const override
-    {
-        return std::nullopt;
-    }
-    std::optional<std::vector<std::string>> getPropertySetOrder() const override { return std::nullopt; }
 
 private:
     RowFilter m_filter;
@@ -110,6 +79,7 @@ GridSession::GridSession(std::shared_ptr<fc::Data> data, bool showUnused, RowFil
 {
     auto const formatter = std::make_shared<fc::ui::PropertyGridControlPropertyFormatter>();
     formatter->addStrategy(m_recorder);
+    formatter->addStrategy(std::make_shared<RowInputCheck>());
     m_control = std::make_shared<fc::ui::PropertySetGridControl>(
         ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_data, m_dialog,
         m_recorder,

@@ -3,12 +3,14 @@
 #include "Core/Localization/Dictionaries.h"
 #include "FilledDialog.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
+#include "FoundationClasses/Resource/Measure/FcValue.h"
 #include "ObjectLabel.h"
+#include "RowInputCheck.h"
 #include "ShowAllFilter.h"
 #include "Texts.h"
 #include "UI/FoundationClasses/Controls/Formatters/PropertyGridControlPropertyFormatter.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControl.h"
-#include "UI/FoundationClasses/Property/PropertyInterface.h"
+#include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
 #include "Ui/Qt/QtBackend.h"
@@ -25,9 +27,24 @@ namespace qev::application {
 
 namespace {
 
+using fc::ui::PropertyInterface;
 using fc::ui::PropertySetGridControl;
 using GridFormatters =
     fc::ui::PropertySetControlFormatters<fc::ui::PropertyGridControlPropertyFormatterInterface>;
+
+/// Shows in \p row what \p property holds.
+void showValue(ui::PropertyGridRow& row, PropertyInterface const& property)
+{
+    using ValueKind = ui::PropertyGridRowState::ValueKind;
+    if (auto const* const truth = dynamic_cast<fc::ui::FcPropertyBooleanType const*>(&property))
+        row.setCheckState(truth->getBooleanValue() == "1" ? ui::CheckState::Checked
+                                                          : ui::CheckState::Unchecked);
+    auto const* const single = dynamic_cast<fc::ui::FcPropertySingleValue const*>(&property);
+    if (row.getState().valueKind == ValueKind::Text)
+        row.setText(property.getValue());
+    else if (row.getState().valueKind == ValueKind::Number && single)
+        row.setNumber(single->getFcValue().valueAsDoubleGet());
+}
 
 } // namespace
 
@@ -157,6 +174,7 @@ void PropertyPane::createControl()
 {
     auto const formatter = std::make_shared<fc::ui::PropertyGridControlPropertyFormatter>();
     formatter->addStrategy(std::make_shared<UnsetHint>(ui::fromQString(getText("Row_NotSet"))));
+    formatter->addStrategy(std::make_shared<RowInputCheck>());
     m_control = std::make_shared<PropertySetGridControl>(
         ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_session.getData(),
         m_dialog, std::make_shared<ShowAllFilter>(), GridFormatters{nullptr, formatter},
@@ -164,7 +182,7 @@ void PropertyPane::createControl()
     m_control->init(0, std::nullopt, true);
     setUnusedShown(m_isUnusedShown);
     m_dialog->onSizeChanged(m_dialog->getClientAreaSize());
-    showAttributesAsTheyAre();
+    keepRowsTrue();
     auto* const grid = getGrid();
     if (!m_gridLayout.isEmpty())
         grid->restoreLayout(m_gridLayout);
@@ -172,16 +190,34 @@ void PropertyPane::createControl()
         [this](QModelIndex const&) { fireEvents(onCurrentRowChanged); });
 }
 
-void PropertyPane::showAttributesAsTheyAre()
+void PropertyPane::keepRowsTrue()
 {
+    // Sets of an object may share one property, which then stands in more rows than the edited one.
+    m_control->propertyChangedHandlers.iHandlerAdd([this](auto& event, std::string const& setName,
+                                                          std::string const& propertyName,
+                                                          std::set<std::size_t> const& objects) {
+        showValues(propertyName);
+        qev::forwardEvent(event, setName, propertyName, objects);
+    });
     m_control->getPropertyGridControl()->onPropertyChanged.iHandlerAdd(
-        [this](auto& event, ui::PropertyGridProperty& property) {
+        [this](auto& event, ui::PropertyGridProperty& row) {
             // Attributes let their items be chosen, and the choice does not reach the model: their rows
             // belong to no property.
-            if (!property.getUserData())
+            if (!row.getUserData())
                 QTimer::singleShot(0, this, [this] { showSelection(); });
-            qev::forwardEvent(event, property);
+            qev::forwardEvent(event, row);
         });
+}
+
+void PropertyPane::showValues(std::string const& propertyName)
+{
+    for (auto const& group : getGrid()->getModel()->getRows()) {
+        for (auto const& row : group->getChildren()) {
+            auto const* const property = static_cast<PropertyInterface const*>(row->getUserData());
+            if (property && property->getName() == propertyName)
+                showValue(*row, *property);
+        }
+    }
 }
 
 } // namespace qev::application

@@ -55,8 +55,10 @@ public:
 private:
     void showHint(QString const& hint);
     void createControl();
-    /// Puts the value of the model back into rows of attributes after an input to them.
-    void showAttributesAsTheyAre();
+    /// Shows what the model holds in rows that an input has left behind it.
+    void keepRowsTrue();
+    /// Lets the rows of all properties of that name show what the model holds.
+    void showValues(std::string const& propertyName);
 
     std::shared_ptr<ui::QtBackend> m_backend;
     InspectorSession& m_session;

@@ -20,6 +20,7 @@
 #include <QGroupBox>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <utility>
 #include <vector>
 
@@ -264,12 +265,13 @@ bool QtBackend::isDescendant(WindowHandle const& window, WindowHandle const& anc
 
 void QtBackend::showMessage(MessageBox::Message message)
 {
-    auto* const box = new QMessageBox(toQtIcon(message.icon), toQString(message.title),
-                                      toQString(message.text), QMessageBox::Ok, findMessageParent());
-    box->setAttribute(Qt::WA_DeleteOnClose);
+    // The window above may go while the message is up, and takes it along.
+    QPointer const box(new QMessageBox(toQtIcon(message.icon), toQString(message.title),
+                                       toQString(message.text), QMessageBox::Ok, findMessageParent()));
+    box->exec();
+    delete box;
     if (message.onClosed)
-        QObject::connect(box, &QDialog::finished, box, [onClosed = message.onClosed] { onClosed(); });
-    box->open();
+        message.onClosed();
 }
 
 std::optional<std::size_t> QtBackend::showPopupMenu(PopupMenu const& menu, Position const& position)

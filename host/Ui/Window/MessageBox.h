@@ -37,7 +37,8 @@ public:
         std::function<void()> onClosed;
     };
 
-    /// Shows a message with one button. Without a back end nobody can see it: \p onClosed is called at once.
+    /// Shows a message with one button, and returns once it is closed; events go on meanwhile. Without a back
+    /// end nobody can see it: \p onClosed is called at once.
     static void vShowOk(std::string_view text, std::string_view title, Icon icon, DefaultButton defaultButton,
                         std::function<void()> onClosed);
 };

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <stdexcept>
 #include <system_error>
@@ -17,17 +18,17 @@ bool startsHexadecimal(char const* first, char const* last)
 
 double parseMagnitude(char const* first, char const* last)
 {
-    auto format = std::chars_format::general;
-    if (startsHexadecimal(first, last)) {
+    bool const isHexadecimal = startsHexadecimal(first, last);
+    if (isHexadecimal)
         first += 2;
-        format = std::chars_format::hex;
-    }
-    // A second sign is no number, though the conversion below would take it.
-    if (first == last || *first == '-')
-        throw std::invalid_argument("not a number");
     double number = 0;
-    auto const result = std::from_chars(first, last, number, format);
-    if (result.ec == std::errc::invalid_argument)
+    auto result = std::from_chars_result{first, std::errc::invalid_argument};
+    // A second sign is no number, though the conversion would take it.
+    if (first != last && *first != '-')
+        result = std::from_chars(first, last, number,
+                                 isHexadecimal ? std::chars_format::hex : std::chars_format::general);
+    // Without digits behind its "0x" the number is the zero of the prefix.
+    if (result.ec == std::errc::invalid_argument && !isHexadecimal)
         throw std::invalid_argument("not a number");
     if (result.ec == std::errc::result_out_of_range)
         throw std::out_of_range("number out of range");
@@ -57,6 +58,16 @@ double leadingNumber(std::string const& text)
         ++first;
     double const magnitude = parseMagnitude(first, last);
     return isNegative ? -magnitude : magnitude;
+}
+
+std::optional<double> leadingNumberBelow(std::string const& text, double limit)
+{
+    try {
+        double const number = leadingNumber(text);
+        return std::abs(number) < limit ? std::optional(number) : std::nullopt;
+    } catch (std::invalid_argument const&) {
+        return std::nullopt;
+    }
 }
 
 } // namespace qev::fc::ui

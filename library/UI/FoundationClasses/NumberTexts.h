@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace qev::fc::ui {
@@ -14,5 +15,11 @@ namespace qev::fc::ui {
 /// \throws std::invalid_argument when there is no number, std::out_of_range for one that `double` cannot
 /// hold.
 [[nodiscard]] double leadingNumber(std::string const& text);
+
+/// The number at the start of \p text when it is finite and its absolute value below \p limit; nothing for
+/// other texts.
+///
+/// \throws std::out_of_range for a number that `double` cannot hold.
+[[nodiscard]] std::optional<double> leadingNumberBelow(std::string const& text, double limit);
 
 } // namespace qev::fc::ui

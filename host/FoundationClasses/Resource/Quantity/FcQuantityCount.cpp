@@ -10,7 +10,8 @@ double FcQuantityCount::getValue() const { return static_cast<double>(CountValue
 
 void FcQuantityCount::setValue(double value)
 {
-    constexpr double limit = 9.0e18;
+    // The first whole number beyond 64 bits.
+    constexpr double limit = 9223372036854775808.0;
     if (std::abs(value) < limit)
         CountValue = static_cast<std::int64_t>(value);
 }

@@ -31,21 +31,17 @@ std::optional<std::string> nameOf(FcMaterialDefinition const& material)
     return name ? name : material.getAttributeAsString("LayerSetName");
 }
 
-void append(std::vector<FcValue> const& values, std::string& text)
-{
-    for (auto const& value : values) {
-        if (!text.empty())
-            text += ", ";
-        text += value.getAsString(false).value_or("");
-    }
-}
-
 template <class Series>
 std::string listValuesOf(Series const& series)
 {
     std::string text;
-    for (auto const& moment : series.Values->get())
-        append(moment->ListValues, text);
+    char const* separator = "";
+    for (auto const& moment : series.Values->get()) {
+        for (auto const& value : moment->ListValues.get()) {
+            text += separator + value.getAsString(false).value_or("");
+            separator = ", ";
+        }
+    }
     return text;
 }
 

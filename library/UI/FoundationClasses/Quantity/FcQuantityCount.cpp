@@ -9,9 +9,6 @@ using ModelQuantity = resource::quantity::FcQuantityCount;
 
 namespace {
 
-/// The first whole number that the model cannot hold.
-constexpr double limit = 9223372036854775808.0;
-
 std::string textOf(ModelQuantity const& quantity) { return std::to_string(quantity.CountValue.get()); }
 
 } // namespace

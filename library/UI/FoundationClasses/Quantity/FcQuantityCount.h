@@ -8,6 +8,9 @@ namespace qev::fc::ui {
 class QEVFOUNDATIONCLASSESUI_EXPORT FcQuantityCount : public FcQuantityBase
 {
 public:
+    /// The first whole number that the model cannot hold.
+    static constexpr double limit = 9223372036854775808.0;
+
     FcQuantityCount(ifc::def::qto::QuantityDef const& definition, QuantitySet& set);
     ~FcQuantityCount() override;
 

@@ -6,8 +6,10 @@
 #include "UI/FoundationClasses/Property/ObjectDefinitions.h"
 
 #include <cmath>
-#include <stdexcept>
+#include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace qev::fc::ui {
 
@@ -67,22 +69,16 @@ template <class Quantity>
 
 /// Stores the number at the start of \p text in the quantity of that name, which is made if need be.
 ///
-/// False, with the quantity as it was, for a text without a number and for a number that is not finite or not
-/// below \p limit.
+/// False, with the quantity as it was, for a text without a number that is below \p limit.
 template <class Quantity>
 [[nodiscard]] bool storeQuantity(core::productextension::FcElementQuantity& set, std::string const& name,
                                  std::string const& text, double limit = HUGE_VAL)
 {
     auto const quantity = findOrAddQuantity<Quantity>(set, name);
-    try {
-        double const number = leadingNumber(text);
-        if (!(std::abs(number) < limit))
-            return false;
-        quantity->setValue(number);
-        return true;
-    } catch (std::invalid_argument const&) {
-        return false;
-    }
+    auto const number = leadingNumberBelow(text, limit);
+    if (number)
+        quantity->setValue(*number);
+    return number.has_value();
 }
 
 } // namespace qev::fc::ui

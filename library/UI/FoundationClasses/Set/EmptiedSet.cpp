@@ -5,13 +5,16 @@
 
 namespace qev::fc::ui {
 
-void deleteEmptiedSet(core::kernel::FcObjectDefinition& object, core::kernel::FcPropertySetDefinition& set,
-                      Data& data)
+using core::kernel::FcPropertySetDefinition;
+
+void deleteEmptiedSet(core::kernel::FcObjectDefinition& object, FcPropertySetDefinition& set, Data& data)
 {
     auto const name = set.Name.get();
     if (!name)
         return;
-    object.deletePropertySetDefinition(*name);
+    // A property set and a quantity set of an object may have one name, which finds the first.
+    if (object.getPropertySetDefinitionNonConst<FcPropertySetDefinition>(*name).get() == &set)
+        object.deletePropertySetDefinition(*name);
     // Objects that share the set keep it then, without any entry, which no set may be.
     set.deletePset(data);
 }

@@ -127,20 +127,37 @@ TEST_F(QtBackendTest, FocusIsToldToTheWindowAroundTheWidget)
     EXPECT_THAT(told, ElementsAre(true, false));
 }
 
-TEST_F(QtBackendTest, MessageCallsBackWhenItIsClosed)
+TEST_F(QtBackendTest, MessageKeepsItsCallerUntilItIsClosed)
 {
-    bool closed = false;
+    std::vector<std::string> steps;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->text(), "Text");
+        steps.push_back("seen");
+        box->accept();
+    });
     MessageBox::vShowOk("Text", "Title", MessageBox::Icon::Warning, MessageBox::DefaultButton::First,
-                        [&] { closed = true; });
-    QPointer<QMessageBox> box;
-    for (auto* const widget : QApplication::topLevelWidgets())
-        if (auto* const candidate = qobject_cast<QMessageBox*>(widget))
-            box = candidate;
-    ASSERT_FALSE(box.isNull());
-    EXPECT_EQ(box->text(), "Text");
-    EXPECT_FALSE(closed);
-    box->accept();
-    EXPECT_TRUE(closed);
+                        [&] { steps.push_back("closed"); });
+    steps.push_back("back");
+    EXPECT_THAT(steps, ElementsAre("seen", "closed", "back"));
+}
+
+TEST_F(QtBackendTest, MessageEndsWithTheWindowBelowIt)
+{
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    QTimer::singleShot(0, qApp, [&] {
+        ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(QApplication::activeModalWidget()->parentWidget(), window.get());
+        window.reset();
+    });
+    bool isClosed = false;
+    MessageBox::vShowOk("Text", "Title", MessageBox::Icon::Warning, MessageBox::DefaultButton::First,
+                        [&] { isClosed = true; });
+    EXPECT_TRUE(isClosed);
+    EXPECT_EQ(window, nullptr);
 }
 
 TEST_F(QtBackendTest, MenuGivesTheChosenEntry)

@@ -4,6 +4,7 @@
 #include "FoundationClasses/Resource/Measure/FcValue.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyBooleanType.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyEnumeratedValue.h"
+#include "UI/FoundationClasses/Property/ValueCheck.h"
 
 #include <exception>
 #include <string>
@@ -58,13 +59,12 @@ std::optional<PropertyOrQuantityValue> editedValue(ListControl::LabelEditEndPara
 
 bool wouldTakeEdit(ListControl::LabelEditEndParams const& params, PropertyInterface const& property)
 {
-    auto const* const single = dynamic_cast<FcPropertySingleValue const*>(&property);
     if (typeid(property) == typeid(FcPropertyBooleanType))
-        return canHoldTruth(single->getFcValue());
+        return canHoldTruth(dynamic_cast<FcPropertyBooleanType const&>(property).getFcValue());
     // What lets exceptions pass refuses the value, as the edit itself does.
     try {
         auto const value = editedValue(params, property);
-        return value && (!single || single->wouldTake(*value));
+        return value && wouldTake(property, *value);
     } catch (std::exception const&) {
         return false;
     }
