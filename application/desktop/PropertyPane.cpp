@@ -193,12 +193,10 @@ void PropertyPane::createControl()
 void PropertyPane::keepRowsTrue()
 {
     // Sets of an object may share one property, which then stands in more rows than the edited one.
-    m_control->propertyChangedHandlers.iHandlerAdd([this](auto& event, std::string const& setName,
-                                                          std::string const& propertyName,
-                                                          std::set<std::size_t> const& objects) {
-        showValues(propertyName);
-        qev::forwardEvent(event, setName, propertyName, objects);
-    });
+    m_control->propertyChangedHandlers.iHandlerAdd(
+        [this](std::string const&, std::string const& propertyName, std::set<std::size_t> const&) {
+            showValues(propertyName);
+        });
     m_control->getPropertyGridControl()->onPropertyChanged.iHandlerAdd(
         [this](auto& event, ui::PropertyGridProperty& row) {
             // Attributes let their items be chosen, and the choice does not reach the model: their rows

@@ -70,6 +70,19 @@ TEST_F(FcPropertyBaseTest, ClearingTheLastPropertyRemovesTheSet)
     EXPECT_THAT(wall->attachedSets(), IsEmpty());
 }
 
+TEST_F(FcPropertyBaseTest, AQuantitySetOfThatNameStaysWhenThePropertySetGoes)
+{
+    auto const quantities = model.addQuantities(wall, "Pset", {{"Length", 2.0}});
+    auto const shown = show({wall});
+
+    EXPECT_FALSE(shown["Count"].updateValue(*model.data(), text("many")));
+    EXPECT_THAT(wall->attachedSets(), ElementsAre(quantities));
+    EXPECT_TRUE(shown["Code"].updateValue(*model.data(), text("A")));
+    EXPECT_THAT(wall->attachedSets(), SizeIs(2));
+    EXPECT_TRUE(shown["Code"].updateValue(*model.data(), text("")));
+    EXPECT_THAT(wall->attachedSets(), ElementsAre(quantities));
+}
+
 TEST_F(FcPropertyBaseTest, ClearingAnAbsentPropertyLeavesAnEmptySet)
 {
     model.addSet(wall, "Pset");

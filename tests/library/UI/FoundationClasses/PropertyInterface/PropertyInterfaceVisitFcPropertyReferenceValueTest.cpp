@@ -141,6 +141,20 @@ TEST_F(ReferenceValueRow, ShowsTheValuesOfATimeSeries)
     EXPECT_EQ(row().value("Name"), PropertyValue(Text("7")));
 }
 
+TEST_F(ReferenceValueRow, SeparatesEmptyValuesOfATimeSeriesToo)
+{
+    using namespace fc::resource::datetime;
+    referTo<FcRegularTimeSeries>()->Values.edit([](auto& moments) {
+        auto const first = std::make_shared<FcTimeSeriesValue>();
+        first->ListValues = std::vector{label(""), label("b")};
+        auto const second = std::make_shared<FcTimeSeriesValue>();
+        second->ListValues = std::vector{label("")};
+        moments.push_back(first);
+        moments.push_back(second);
+    });
+    EXPECT_EQ(row().value("Name"), PropertyValue(Text(", b, ")));
+}
+
 TEST_F(ReferenceValueRow, ReportsReferencesThatAreNotShown)
 {
     referTo<fc::resource::actor::FcPostalAddress>();

@@ -104,6 +104,8 @@ TEST_F(Quantities, NumbersAreReadAsTheStandardLibraryReadsThem)
     EXPECT_EQ(stored("+1e2"), "100.000000");
     EXPECT_EQ(stored("-.5"), "-0.500000");
     EXPECT_EQ(stored("0x10"), "16.000000");
+    EXPECT_EQ(stored("0xg"), "0.000000");
+    EXPECT_EQ(stored("0x-1"), "0.000000");
 }
 
 TEST_F(Quantities, ARefusedFirstTextLeavesAQuantityOfZero)
@@ -128,6 +130,30 @@ TEST_F(Quantities, WhatTheModelCannotHoldIsRefused)
 
     EXPECT_EQ(shown["Area"].getValue(), "2.000000");
     EXPECT_EQ(shown["Count"].getValue(), "2");
+}
+
+TEST_F(Quantities, ACountTakesWhatItsWholeNumberCanHold)
+{
+    model.addQuantities(wall, "Qto", {{"Count", 2.0, QuantityKind::Count}});
+    auto const shown = show({wall});
+
+    EXPECT_TRUE(shown["Count"].updateValue(*model.data(), text("9100000000000000000")));
+    EXPECT_EQ(shown["Count"].getValue(), "9100000000000000000");
+    EXPECT_TRUE(shown["Count"].updateValue(*model.data(), text("-9223372036854774784")));
+    EXPECT_EQ(shown["Count"].getValue(), "-9223372036854774784");
+    EXPECT_FALSE(shown["Count"].updateValue(*model.data(), text("9223372036854775808")));
+}
+
+TEST_F(Quantities, ClearingTheLastQuantityLeavesAPropertySetOfThatName)
+{
+    model.addSet(wall, "Qto", {{"Area", label("2")}});
+    model.addQuantities(wall, "Qto", {{"Area", 2.0, QuantityKind::Area}});
+
+    EXPECT_TRUE(show({wall})["Area"].updateValue(*model.data(), text("")));
+
+    using core::kernel::FcPropertySet;
+    ASSERT_THAT(wall->attachedSets(), SizeIs(1));
+    EXPECT_NE(wall->getPropertySetDefinitionNonConst<FcPropertySet>("Qto"), nullptr);
 }
 
 TEST_F(Quantities, EqualTextsAreOneValueAndAMissingQuantityLeavesNone)
