@@ -39,7 +39,6 @@ public:
     EditorProperty(ShownObjects const& objects, ObjectPropertyEditControllerBase const& controller,
                    PropertyId id);
 
-    [[nodiscard]] PropertyId const& getId() const { return m_id; }
     /// The label that the first object gives; the last segment of the id where it gives none.
     [[nodiscard]] std::string getLabel() const;
     /// The description, what is said of the value, and what is wrong with it, a line each.

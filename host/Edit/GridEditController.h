@@ -21,8 +21,6 @@ public:
     /// Gives both controllers their owner and their objects.
     void connect(std::weak_ptr<ObjectPropertyEditControllerOwnerInterface> const& owner,
                  EditedObjects const& editedObjects, EditedObjects const& writableObjects);
-    /// The controller that knows the objects; never null.
-    [[nodiscard]] ObjectPropertyEditControllerBase& getController() const { return *m_controller; }
 
     void reloadProperty(PropertyId id) override;
 

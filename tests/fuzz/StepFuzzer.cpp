@@ -9,7 +9,9 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -69,7 +71,8 @@ void checkPatch(StepFile const& file)
     StepPatch patch(file);
     RecordIndex const last = file.recordCount() - 1;
     InstanceId const newId = file.firstFreeId();
-    bool const replaced = patch.replaceArgument(last, 0, "'changed'");
+    std::pair<std::size_t, std::string> const change[] = {{0, "'changed'"}};
+    bool const replaced = patch.replaceArguments(last, change);
     patch.appendRecord(newId, "IFCWALL", "$");
     StepOpenResult const again = StepFile::fromText(patch.toText());
     require(again.file != nullptr, "a changed file opens again");
@@ -88,7 +91,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
 {
     std::string_view const bytes(reinterpret_cast<char const*>(data), size);
     std::string const text = StepText::decode(bytes);
-    require(StepText::decode(StepText::encode(text)) == text, "texts read back equal");
+    std::string encoded;
+    StepText::appendEncoded(encoded, text);
+    require(StepText::decode(encoded) == text, "texts read back equal");
 
     StepOpenResult const opened = StepFile::fromText(bytes);
     require(opened.file != nullptr || !opened.messages.empty(), "a refusal has a reason");

@@ -115,19 +115,6 @@ std::string shortestText(double value)
     return text(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format));
 }
 
-std::string stepRealText(double value)
-{
-    if (!std::isfinite(value))
-        return "$";
-    std::string result = shortestText(value);
-    auto const exponent = result.find('e');
-    if (exponent != std::string::npos)
-        result[exponent] = 'E';
-    if (result.find('.') == std::string::npos)
-        result.insert(exponent == std::string::npos ? result.size() : exponent, 1, '.');
-    return result;
-}
-
 std::string fixedText(double value, int decimals)
 {
     Buffer buffer;

@@ -12,11 +12,6 @@ namespace qev::str {
 /// whatever the locale. Very large and very small numbers have an exponent.
 HOSTCORE_EXPORT std::string shortestText(double value);
 
-/// The same as a real number of a STEP file, which always has a decimal point: "2.", "1.E-05".
-///
-/// Such a file has no text for a number that is not finite; "$", no value, stands for it.
-HOSTCORE_EXPORT std::string stepRealText(double value);
-
 /// \p value rounded to \p decimals digits behind the ".", without an exponent.
 HOSTCORE_EXPORT std::string fixedText(double value, int decimals);
 

@@ -49,17 +49,6 @@ ClassMapping const* VersionSchema::forNewObject(unsigned int classNumber) const
     return position ? &m_mappings[*position] : nullptr;
 }
 
-std::optional<std::string> VersionSchema::substituteItem(def::schema::DataTypeEnum const& target,
-                                                         std::string_view item)
-{
-    for (std::string_view const candidate :
-         {item, std::string_view("USERDEFINED"), std::string_view("NOTDEFINED")}) {
-        if (target.hasValue(candidate))
-            return std::string(candidate);
-    }
-    return std::nullopt;
-}
-
 void VersionSchema::addClasses(Source const& source)
 {
     MappingTable const table = parseMapping(source.mappingText);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Format/Ifc/Schema/ClassMapping.h"
-#include "Format/Ifc/Schema/DataTypeEnum.h"
 #include "Format/Ifc/Schema/Schema.h"
 
 #include <optional>
@@ -42,11 +41,6 @@ public:
 
     /// The mappings of all keywords.
     [[nodiscard]] std::vector<ClassMapping> const& mappings() const { return m_mappings; }
-
-    /// The enumeration item to use in \p target for \p item of another version: the item itself, else
-    /// "USERDEFINED", else "NOTDEFINED"; nothing when \p target has none of them.
-    static std::optional<std::string> substituteItem(def::schema::DataTypeEnum const& target,
-                                                     std::string_view item);
 
 private:
     void addClasses(Source const& source);

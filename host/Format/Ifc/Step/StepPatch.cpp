@@ -106,12 +106,6 @@ StepPatch::StepPatch(StepFile const& file)
 {
 }
 
-bool StepPatch::replaceArgument(RecordIndex record, std::size_t slot, std::string text)
-{
-    std::pair<std::size_t, std::string> const single(slot, std::move(text));
-    return replaceArguments(record, std::span(&single, 1));
-}
-
 bool StepPatch::replaceArguments(RecordIndex record,
                                  std::span<std::pair<std::size_t, std::string> const> texts)
 {

@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qev::step {
@@ -51,11 +52,9 @@ public:
 
     explicit StepPatch(StepFile const& file);
 
-    /// \p text stands in the place of argument \p slot, as STEP spells it.
+    /// Each text stands in the place of the argument whose slot it is paired with, as STEP spells it.
     /// A later call for the same argument takes the place of the earlier one.
-    /// \returns false, and changes nothing, when the record is broken or has no such argument.
-    bool replaceArgument(RecordIndex record, std::size_t slot, std::string text);
-    /// Several arguments at once, finding their places in one go. All or none.
+    /// \returns false, and changes nothing, when the record is broken or lacks one of the arguments.
     bool replaceArguments(RecordIndex record, std::span<std::pair<std::size_t, std::string> const> texts);
 
     /// \returns false for a record that does not end properly, for then nobody knows what would be removed.

@@ -280,12 +280,4 @@ void StepText::appendEncoded(std::string& out, std::string_view text)
     switchTo(0);
 }
 
-std::string StepText::encode(std::string_view text)
-{
-    std::string out;
-    out.reserve(text.size());
-    appendEncoded(out, text);
-    return out;
-}
-
 } // namespace qev::step

@@ -22,11 +22,8 @@ public:
     static bool decode(std::string_view encoded, std::string& text);
     [[nodiscard]] static std::string decode(std::string_view encoded);
 
-    /// Encodes UTF-8 with printable ASCII only: `'` and `\` doubled, everything else in `\X2\` or
+    /// Appends UTF-8 to \p out with printable ASCII only: `'` and `\` doubled, everything else in `\X2\` or
     /// `\X4\`. A byte that is no UTF-8 counts as Latin-1. Without the apostrophes around it.
-    [[nodiscard]] static std::string encode(std::string_view text);
-
-    /// Appends the same to \p out.
     static void appendEncoded(std::string& out, std::string_view text);
 };
 

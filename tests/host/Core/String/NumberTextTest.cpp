@@ -24,22 +24,6 @@ TEST(NumberText, ShortestTextHasAnExponentOnlyForVeryLargeAndVerySmallNumbers)
     EXPECT_EQ(shortestText(1.5e300), "1.5e+300");
 }
 
-TEST(NumberText, StepTextAlwaysHasAPoint)
-{
-    EXPECT_EQ(stepRealText(2), "2.");
-    EXPECT_EQ(stepRealText(0), "0.");
-    EXPECT_EQ(stepRealText(-2.5), "-2.5");
-    EXPECT_EQ(stepRealText(1e-5), "1.E-05");
-    EXPECT_EQ(stepRealText(1.5e20), "1.5E+20");
-    EXPECT_EQ(stepRealText(1e20), "1.E+20");
-}
-
-TEST(NumberText, StepHasNoTextForWhatIsNotFinite)
-{
-    EXPECT_EQ(stepRealText(std::numeric_limits<double>::infinity()), "$");
-    EXPECT_EQ(stepRealText(std::numeric_limits<double>::quiet_NaN()), "$");
-}
-
 TEST(NumberText, EveryNumberReadsBackEqual)
 {
     std::mt19937_64 random(1);
@@ -52,7 +36,6 @@ TEST(NumberText, EveryNumberReadsBackEqual)
             continue;
         ++checked;
         EXPECT_EQ(parseDouble(shortestText(value)), value);
-        EXPECT_EQ(parseDouble(stepRealText(value)), value);
     }
 }
 

@@ -344,20 +344,6 @@ INSTANTIATE_TEST_SUITE_P(
         FormRow{"IFCWORKPLAN", "Duration", {Kind::Real, false}, {Kind::String, false}}),
     [](auto const& parameters) { return parameters.param.keyword; });
 
-TEST(VersionMapping, AnItemThatVanishedIsSubstituted)
-{
-    VersionSchema const& old = *version("IFC2X3").schema;
-    ClassMapping const& tank = *old.find("IFCTANKTYPE");
-    std::size_t const slot = tank.modelSlotCount() - 1;
-    auto const* const inFile = tank.fileAttribute(slot)->enumeration();
-    auto const* const inModel = tank.modelAttribute(slot)->enumeration();
-    ASSERT_TRUE(inFile && inModel);
-    EXPECT_TRUE(inFile->hasValue("PREFORMED"));
-    EXPECT_EQ(VersionSchema::substituteItem(*inModel, "PREFORMED"), "USERDEFINED");
-    EXPECT_EQ(VersionSchema::substituteItem(*inFile, "STORAGE"), "USERDEFINED");
-    EXPECT_EQ(VersionSchema::substituteItem(*inModel, "NOTDEFINED"), "NOTDEFINED");
-}
-
 TEST(VersionMapping, AnOldFileKnowsWhichValuesCarryTheirType)
 {
     ClassMapping const& value = *version("IFC2X3").schema->find("IFCPROPERTYSINGLEVALUE");

@@ -154,14 +154,6 @@ TEST_F(ToyVersion, ANewObjectIsWrittenAsItsNearestSuperclass)
     EXPECT_EQ(version.forNewObject(1000), nullptr);
 }
 
-TEST_F(ToyVersion, AnItemThatATargetLacksIsSubstituted)
-{
-    auto const& colour = *newSchema->enumerations()[0];
-    EXPECT_EQ(VersionSchema::substituteItem(colour, "RED"), "RED");
-    EXPECT_EQ(VersionSchema::substituteItem(colour, "BLUE"), "NOTDEFINED");
-    EXPECT_EQ(VersionSchema::substituteItem(*oldSchema->enumerations()[0], "GREEN"), std::nullopt);
-}
-
 TEST_F(ToyVersion, ClassesOfAFurtherVersionAreAccepted)
 {
     VersionSchema const both(*newSchema, {{newSchema.get(), ""}, {oldSchema.get(), mapping}});

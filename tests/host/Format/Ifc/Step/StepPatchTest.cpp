@@ -15,6 +15,12 @@ using test::openRecords;
 using test::openText;
 using ::testing::HasSubstr;
 
+bool replace(StepPatch& patch, RecordIndex record, std::size_t slot, std::string const& text)
+{
+    std::pair<std::size_t, std::string> const single[] = {{slot, text}};
+    return patch.replaceArguments(record, single);
+}
+
 TEST(StepPatch, WithoutChangesGivesTheSameBytes)
 {
     for (std::string const& text :
@@ -30,8 +36,8 @@ TEST(StepPatch, ChangesOnlyTheBytesOfTheArgument)
 {
     auto const file = openRecords("#1= IFCWALL ( 'a' /*c*/ , 2.50 ,\n(#1) );\n#2=IFCDOOR('b');\n");
     StepPatch patch(*file);
-    EXPECT_TRUE(patch.replaceArgument(0, 2, "$"));
-    EXPECT_TRUE(patch.replaceArgument(0, 0, "'new'"));
+    EXPECT_TRUE(replace(patch, 0, 2, "$"));
+    EXPECT_TRUE(replace(patch, 0, 0, "'new'"));
     EXPECT_EQ(patch.toText(), fileText("#1= IFCWALL ( 'new' /*c*/ , 2.50 ,\n$ );\n#2=IFCDOOR('b');\n"));
 }
 
@@ -39,8 +45,8 @@ TEST(StepPatch, TakesTheLastOfSeveralChanges)
 {
     auto const file = openRecords("#1=IFCWALL('a');\n");
     StepPatch patch(*file);
-    EXPECT_TRUE(patch.replaceArgument(0, 0, "'b'"));
-    EXPECT_TRUE(patch.replaceArgument(0, 0, "'c'"));
+    EXPECT_TRUE(replace(patch, 0, 0, "'b'"));
+    EXPECT_TRUE(replace(patch, 0, 0, "'c'"));
     EXPECT_EQ(patch.toText(), fileText("#1=IFCWALL('c');\n"));
 }
 
@@ -49,12 +55,12 @@ TEST(StepPatch, RefusesArgumentsThatAreNotThere)
     auto const file =
         openRecords("#1=IFCWALL('a');\n#2=IFCWALL();\n#3=(IFCA(1));\n#4=IFCWALL('x';\n#5=IFCWALL('\n");
     StepPatch patch(*file);
-    EXPECT_FALSE(patch.replaceArgument(0, 1, "$"));
-    EXPECT_FALSE(patch.replaceArgument(1, 0, "$"));
-    EXPECT_FALSE(patch.replaceArgument(2, 0, "$"));
-    EXPECT_FALSE(patch.replaceArgument(3, 0, "$"));
-    EXPECT_FALSE(patch.replaceArgument(4, 0, "$"));
-    EXPECT_FALSE(patch.replaceArgument(99, 0, "$"));
+    EXPECT_FALSE(replace(patch, 0, 1, "$"));
+    EXPECT_FALSE(replace(patch, 1, 0, "$"));
+    EXPECT_FALSE(replace(patch, 2, 0, "$"));
+    EXPECT_FALSE(replace(patch, 3, 0, "$"));
+    EXPECT_FALSE(replace(patch, 4, 0, "$"));
+    EXPECT_FALSE(replace(patch, 99, 0, "$"));
     std::pair<std::size_t, std::string> const oneTooMany[] = {{0, "$"}, {1, "$"}};
     EXPECT_FALSE(patch.replaceArguments(0, oneTooMany));
     EXPECT_TRUE(patch.empty());
@@ -81,7 +87,7 @@ TEST(StepPatch, RemovesNeighboursAndTheirChanges)
 {
     auto const file = openRecords("#1=IFCWALL('a');\r\n#2=IFCWALL('b');\r\n#3=IFCWALL('c');\r\n");
     StepPatch patch(*file);
-    EXPECT_TRUE(patch.replaceArgument(1, 0, "$"));
+    EXPECT_TRUE(replace(patch, 1, 0, "$"));
     EXPECT_TRUE(patch.removeRecord(1));
     EXPECT_TRUE(patch.removeRecord(2));
     patch.appendRecord(4, "IFCDOOR", "");
@@ -160,10 +166,10 @@ TEST_F(StepPatchSave, ReplacesTheFileAndCanGoOn)
 {
     open(fileText("#1=IFCWALL('a');\n"));
     StepPatch patch(*file);
-    EXPECT_TRUE(patch.replaceArgument(0, 0, "'b'"));
+    EXPECT_TRUE(replace(patch, 0, 0, "'b'"));
     EXPECT_TRUE(StepPatch::save(*file, patch, path).saved());
     EXPECT_EQ(readFile(path), fileText("#1=IFCWALL('b');\n"));
-    EXPECT_TRUE(patch.replaceArgument(0, 0, "'c'"));
+    EXPECT_TRUE(replace(patch, 0, 0, "'c'"));
     StepSaveResult const second = StepPatch::save(*file, patch, path);
     EXPECT_TRUE(second.saved()) << second.text;
     EXPECT_EQ(readFile(path), fileText("#1=IFCWALL('c');\n"));
@@ -174,7 +180,7 @@ TEST_F(StepPatchSave, RefusesAFileThatAnotherProgramChanged)
 {
     open(fileText("#1=IFCWALL('a');\n"));
     StepPatch patch(*file);
-    EXPECT_TRUE(patch.replaceArgument(0, 0, "'b'"));
+    EXPECT_TRUE(replace(patch, 0, 0, "'b'"));
     folder.write("model.ifc", "changed by another program");
     StepSaveResult const result = StepPatch::save(*file, patch, path);
     EXPECT_EQ(result.status, StepSaveResult::Status::ChangedMeanwhile);

@@ -19,6 +19,8 @@ TEST(StepWriter, WritesRealsWithTheirPoint)
     EXPECT_EQ(StepWriter::real(-2.5), "-2.5");
     EXPECT_EQ(StepWriter::real(0.1), "0.1");
     EXPECT_EQ(StepWriter::real(1e-5), "1.E-05");
+    EXPECT_EQ(StepWriter::real(1e20), "1.E+20");
+    EXPECT_EQ(StepWriter::real(1.5e20), "1.5E+20");
     EXPECT_EQ(StepWriter::real(1e21), "1.E+21");
     EXPECT_EQ(StepWriter::real(1.5e-300), "1.5E-300");
 }
