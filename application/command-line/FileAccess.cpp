@@ -1,5 +1,7 @@
 #include "FileAccess.h"
 
+#include "Core/String/Utf8.h"
+
 #include <iostream>
 
 namespace qev::application {
@@ -9,7 +11,7 @@ std::unique_ptr<ifc::IfcFile> openFile(std::filesystem::path const& path)
     ifc::OpenResult opened = ifc::IfcFile::open(path);
     if (opened.file)
         return std::move(opened.file);
-    std::cerr << "qev-ifc: cannot open " << path.string() << '\n';
+    std::cerr << "qev-ifc: cannot open " << str::utf8FromPath(path) << '\n';
     for (step::StepMessage const& message : opened.messages)
         std::cerr << "  " << message.toString() << '\n';
     return nullptr;

@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "Core/String/Utf8.h"
 #include "FileAccess.h"
 #include "ListImport.h"
 #include "ListTable.h"
@@ -59,12 +60,12 @@ ExitCode runImport(ImportOptions const& options)
     auto const file = openFile(options.file);
     auto const text = readText(options.table);
     if (!text)
-        std::cerr << "qev-ifc: cannot read " << options.table.string() << '\n';
+        std::cerr << "qev-ifc: cannot read " << str::utf8FromPath(options.table) << '\n';
     if (!file || !text)
         return ExitCode::UnreadableFile;
     auto const table = ListTable::fromCsv(*text);
     if (!table || table->rows.empty()) {
-        std::cerr << "qev-ifc: " << options.table.string() << " has no "
+        std::cerr << "qev-ifc: " << str::utf8FromPath(options.table) << " has no "
                   << (table ? "rows" : "column GlobalId in its first line") << '\n';
         return ExitCode::NothingFound;
     }

@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "Core/String/Utf8.h"
 #include "FileAccess.h"
 #include "Output.h"
 
@@ -21,7 +22,7 @@ Json messagesAsJson(ifc::IfcFile const& file)
 
 void printAsJson(ifc::IfcFile const& file)
 {
-    Json document = {{"file", file.path().string()},
+    Json document = {{"file", str::utf8FromPath(file.path())},
                      {"schema", file.schemaName()},
                      {"originatingSystem", file.originatingSystem()},
                      {"timeStamp", file.timeStamp()},
@@ -34,7 +35,7 @@ void printAsJson(ifc::IfcFile const& file)
 
 void printAsText(ifc::IfcFile const& file)
 {
-    printTable({{"file", file.path().string()},
+    printTable({{"file", str::utf8FromPath(file.path())},
                 {"schema", file.schemaName()},
                 {"originating system", file.originatingSystem()},
                 {"time stamp", file.timeStamp()},

@@ -1,6 +1,7 @@
 #include "DisplaySettings.h"
 
 #include "Core/Localization/LocalizationAdmin.h"
+#include "Core/String/Utf8.h"
 #include "Core/Unit/QppBase.h"
 
 namespace qev::application {
@@ -9,7 +10,7 @@ namespace {
 
 std::string toLine(localization::LocalizationAdmin::Message const& message)
 {
-    std::string line = message.file.string();
+    std::string line = str::utf8FromPath(message.file);
     if (message.line > 0)
         line += ", line " + std::to_string(message.line);
     return line + ": " + message.text;

@@ -2,6 +2,7 @@
 
 #include "Classification/ClassificationReader.h"
 #include "Core/String/Fold.h"
+#include "Core/String/Utf8.h"
 
 #include <algorithm>
 #include <system_error>
@@ -12,7 +13,7 @@ namespace {
 
 bool mayHoldSystems(std::filesystem::path const& file)
 {
-    auto const ending = str::foldCase(file.extension().string());
+    auto const ending = str::foldCase(str::utf8FromPath(file.extension()));
     return ending == ".csv" || ending == ".tsv" || ending == ".ifc";
 }
 
@@ -39,7 +40,8 @@ std::vector<std::string> ClassificationPlugins::read(std::filesystem::path const
 {
     auto const files = getFiles(fileOrFolder);
     if (files.empty())
-        return {fileOrFolder.string() + ": there is no table (.csv, .tsv) and no IFC file in the folder"};
+        return {str::utf8FromPath(fileOrFolder) +
+                ": there is no table (.csv, .tsv) and no IFC file in the folder"};
     std::vector<std::string> messages;
     for (auto const& path : files) {
         auto result = readClassifications(path);

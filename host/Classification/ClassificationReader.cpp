@@ -2,6 +2,7 @@
 
 #include "Core/Platform/FileBytes.h"
 #include "Core/String/Fold.h"
+#include "Core/String/Utf8.h"
 #include "Format/Ifc/Model/IfcFile.h"
 #include "FoundationClasses/Resource/ExternalReference/FcClassification.h"
 #include "FoundationClasses/Resource/ExternalReference/FcClassificationReference.h"
@@ -33,7 +34,7 @@ ClassificationReadResult readIfc(std::filesystem::path const& file)
     ClassificationReadResult result;
     auto const opened = ifc::IfcFile::open(file);
     for (auto const& message : opened.messages)
-        result.messages.push_back(file.filename().string() + ": " + message.toString());
+        result.messages.push_back(str::utf8FromPath(file.filename()) + ": " + message.toString());
     if (!opened.file)
         return result;
 
@@ -55,7 +56,8 @@ ClassificationReadResult readIfc(std::filesystem::path const& file)
             result.systems.push_back(
                 std::make_shared<ClassificationSystem>(getInfo(*classification), std::move(found->second)));
     if (result.systems.empty())
-        result.messages.push_back(file.filename().string() + ": there is no classification with codes in it");
+        result.messages.push_back(str::utf8FromPath(file.filename()) +
+                                  ": there is no classification with codes in it");
     return result;
 }
 
@@ -63,11 +65,11 @@ ClassificationReadResult readIfc(std::filesystem::path const& file)
 
 ClassificationReadResult readClassifications(std::filesystem::path const& file)
 {
-    if (str::foldCase(file.extension().string()) == ".ifc")
+    if (str::foldCase(str::utf8FromPath(file.extension())) == ".ifc")
         return readIfc(file);
     auto const read = platform::FileBytes::read(file);
     if (!read.bytes)
-        return {{}, {file.string() + ": " + read.error}};
+        return {{}, {read.error}};
     return readClassificationTable(read.bytes->view(), file);
 }
 

@@ -3,6 +3,7 @@
 #include "Core/String/Ascii.h"
 #include "Core/String/DelimitedText.h"
 #include "Core/String/Fold.h"
+#include "Core/String/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -49,10 +50,10 @@ class TableReader
 {
 public:
     TableReader(std::string_view text, std::filesystem::path const& fileName)
-        : m_fileName(fileName.filename().string())
+        : m_fileName(str::utf8FromPath(fileName.filename()))
         , m_rows(str::readDelimited(text, findSeparator(text)))
     {
-        m_info.name = fileName.stem().string();
+        m_info.name = str::utf8FromPath(fileName.stem());
     }
 
     ClassificationReadResult read()

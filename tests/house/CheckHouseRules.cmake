@@ -70,3 +70,6 @@ endforeach()
 set(portable ${sources})
 list(FILTER portable EXCLUDE REGEX "^host/Core/Platform/")
 forbid("^#include <(unistd|windows|sys/[a-z]+|fcntl|io)\\.h>" "Calls to an operating system stand in host/Core/Platform." ${portable})
+
+# What follows with ".c_str()" goes to a function of C that opens the file.
+forbid("\\.string\\(\\)([^.]|\\.[^c]|\\.c[^_]|$)" "Paths in texts and names are UTF-8: use str::utf8FromPath." ${sources})

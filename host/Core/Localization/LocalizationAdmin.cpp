@@ -1,5 +1,7 @@
 #include "Core/Localization/LocalizationAdmin.h"
 
+#include "Core/String/Utf8.h"
+
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -70,7 +72,7 @@ std::vector<LocalizationAdmin::Message> LocalizationAdmin::addFolder(std::filesy
 
 void LocalizationAdmin::addFile(std::filesystem::path const& file, std::vector<Message>& messages)
 {
-    auto const place = placeOf(file.stem().string());
+    auto const place = placeOf(str::utf8FromPath(file.stem()));
     if (!place) {
         messages.push_back({file, 0, "expected a name of the form <context>.<language>.txt"});
         return;

@@ -1,5 +1,7 @@
 #include "Core/Platform/AtomicFileWriter.h"
 
+#include "Core/String/Utf8.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <random>
@@ -273,7 +275,7 @@ void AtomicFileWriter::flushBuffer()
 
 void AtomicFileWriter::fail(std::string_view what, std::string const& reason)
 {
-    m_error = "Cannot " + std::string(what) + " \"" + m_target.string() + "\": " + reason + ".";
+    m_error = "Cannot " + std::string(what) + " \"" + str::utf8FromPath(m_target) + "\": " + reason + ".";
     m_buffer.clear();
     // Removes the temporary file now, while the disk may be full.
     m_file = std::make_unique<TemporaryFile>();

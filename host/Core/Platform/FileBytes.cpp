@@ -1,5 +1,7 @@
 #include "Core/Platform/FileBytes.h"
 
+#include "Core/String/Utf8.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -27,7 +29,7 @@ constexpr std::size_t readStep = std::size_t{4} << 20;
 
 std::string describe(std::filesystem::path const& path, std::string const& reason)
 {
-    return "Cannot read \"" + path.string() + "\": " + reason + ".";
+    return "Cannot read \"" + str::utf8FromPath(path) + "\": " + reason + ".";
 }
 
 [[maybe_unused]] std::string systemReason(int errorNumber)

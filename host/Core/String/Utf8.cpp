@@ -1,14 +1,14 @@
 #include "Core/String/Utf8.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
 
 namespace qev::str {
 
 namespace {
 
-constexpr char32_t replacementCharacter = 0xFFFD;
-constexpr char32_t largestCharacter = 0x10FFFF;
+/// U+FFFD.
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
 
 bool isContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
 
@@ -35,50 +35,23 @@ std::size_t characterLength(std::string_view text)
 
 } // namespace
 
-bool isUtf8(std::string_view text)
+std::string wellFormedUtf8(std::string_view text)
 {
+    std::string result;
+    result.reserve(text.size());
     while (!text.empty()) {
         auto const length = characterLength(text);
-        if (length == 0)
-            return false;
-        text.remove_prefix(length);
+        result += length == 0 ? replacementCharacter : text.substr(0, length);
+        text.remove_prefix(std::max<std::size_t>(length, 1));
     }
-    return true;
+    return result;
 }
 
-std::string utf8FromLatin1(std::string_view bytes)
+std::string utf8FromPath(std::filesystem::path const& path)
 {
-    std::string text;
-    text.reserve(bytes.size());
-    for (char const byte : bytes)
-        appendUtf8(text, static_cast<unsigned char>(byte));
-    return text;
-}
-
-void appendUtf8(std::string& text, char32_t character)
-{
-    bool const surrogate = character >= 0xD800 && character <= 0xDFFF;
-    if (surrogate || character > largestCharacter)
-        character = replacementCharacter;
-    auto const append = [&text](char32_t byte) {
-        text += static_cast<char>(static_cast<unsigned char>(byte));
-    };
-    auto const appendContinuation = [&](int shift) { append(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80) {
-        append(character);
-    } else if (character < 0x800) {
-        append(0xC0 | (character >> 6));
-        appendContinuation(0);
-    } else if (character < 0x10000) {
-        append(0xE0 | (character >> 12));
-        appendContinuation(6);
-        appendContinuation(0);
-    } else {
-        append(0xF0 | (character >> 18));
-        appendContinuation(12);
-        appendContinuation(6);
-        appendContinuation(0);
-    }
+    // The bytes of a POSIX path are those that someone once wrote, of whatever encoding.
+    auto const text = path.u8string();
+    return wellFormedUtf8(std::string(text.begin(), text.end()));
 }
 
 } // namespace qev::str

@@ -2,18 +2,18 @@
 
 #include "HostCoreExport.h"
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace qev::str {
 
-/// Whether \p text is well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
-HOSTCORE_EXPORT bool isUtf8(std::string_view text);
+/// \p text with U+FFFD in the place of each byte that belongs to no well-formed character. Overlong forms,
+/// surrogates and what is above U+10FFFF are none.
+HOSTCORE_EXPORT std::string wellFormedUtf8(std::string_view text);
 
-/// The UTF-8 text of bytes that are ISO 8859-1.
-HOSTCORE_EXPORT std::string utf8FromLatin1(std::string_view bytes);
-
-/// Appends the UTF-8 bytes of a character. A number that is no character gives U+FFFD.
-HOSTCORE_EXPORT void appendUtf8(std::string& text, char32_t character);
+/// A path, or a part of one, for messages and names: well-formed UTF-8 on every platform, which
+/// `path::string` is not. What opens a file takes the path itself.
+HOSTCORE_EXPORT std::string utf8FromPath(std::filesystem::path const& path);
 
 } // namespace qev::str

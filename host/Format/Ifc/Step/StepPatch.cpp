@@ -1,6 +1,7 @@
 #include "Format/Ifc/Step/StepPatch.h"
 
 #include "Core/Platform/AtomicFileWriter.h"
+#include "Core/String/Utf8.h"
 #include "Format/Ifc/Step/StepRecordParser.h"
 #include "Format/Ifc/Step/StepScanner.h"
 
@@ -222,8 +223,9 @@ StepSaveResult StepPatch::save(StepFile& file, StepPatch const& patch, std::file
     auto const changedMeanwhile = [&file, &target] {
         return file.stamp() && isSameFile(file.path(), target) && platform::fileStamp(target) != file.stamp();
     };
-    StepSaveResult const changed{Status::ChangedMeanwhile,
-                                 "Another program changed \"" + target.string() + "\" since it was read."};
+    StepSaveResult const changed{Status::ChangedMeanwhile, "Another program changed \"" +
+                                                               str::utf8FromPath(target) +
+                                                               "\" since it was read."};
     if (ifChanged == IfChanged::Refuse && changedMeanwhile())
         return changed;
 
@@ -241,7 +243,7 @@ StepSaveResult StepPatch::save(StepFile& file, StepPatch const& patch, std::file
         }
     });
     if (cancelled)
-        return {Status::Cancelled, "Saving \"" + target.string() + "\" was cancelled."};
+        return {Status::Cancelled, "Saving \"" + str::utf8FromPath(target) + "\" was cancelled."};
     // Writing takes its time, in which another program may have saved.
     if (ifChanged == IfChanged::Refuse && changedMeanwhile())
         return changed;
