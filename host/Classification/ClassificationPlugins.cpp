@@ -17,17 +17,38 @@ bool mayHoldSystems(std::filesystem::path const& file)
     return ending == ".csv" || ending == ".tsv" || ending == ".ifc";
 }
 
-std::vector<std::filesystem::path> getFiles(std::filesystem::path const& fileOrFolder)
+struct FilesResult
+{
+    std::vector<std::filesystem::path> files;
+    /// Why there are none; empty when there are.
+    std::string message;
+};
+
+FilesResult getFilesIn(std::filesystem::path const& folder)
+{
+    FilesResult result;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code ofEntry;
+        if (entry->is_regular_file(ofEntry) && mayHoldSystems(entry->path()))
+            result.files.push_back(entry->path());
+    }
+    if (error)
+        return {{}, "Cannot read the folder \"" + str::utf8FromPath(folder) + "\": " + error.message() + "."};
+    if (result.files.empty())
+        result.message =
+            str::utf8FromPath(folder) + ": there is no table (.csv, .tsv) and no IFC file in the folder";
+    std::sort(result.files.begin(), result.files.end());
+    return result;
+}
+
+FilesResult getFiles(std::filesystem::path const& fileOrFolder)
 {
     std::error_code error;
-    if (!std::filesystem::is_directory(fileOrFolder, error))
-        return {fileOrFolder};
-    std::vector<std::filesystem::path> files;
-    for (auto const& entry : std::filesystem::directory_iterator(fileOrFolder, error))
-        if (entry.is_regular_file(error) && mayHoldSystems(entry.path()))
-            files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    return files;
+    if (std::filesystem::is_directory(fileOrFolder, error))
+        return getFilesIn(fileOrFolder);
+    return {{fileOrFolder}, {}};
 }
 
 } // namespace
@@ -38,10 +59,9 @@ ClassificationPlugins::~ClassificationPlugins() = default;
 
 std::vector<std::string> ClassificationPlugins::read(std::filesystem::path const& fileOrFolder)
 {
-    auto const files = getFiles(fileOrFolder);
-    if (files.empty())
-        return {str::utf8FromPath(fileOrFolder) +
-                ": there is no table (.csv, .tsv) and no IFC file in the folder"};
+    auto const [files, message] = getFiles(fileOrFolder);
+    if (!message.empty())
+        return {message};
     std::vector<std::string> messages;
     for (auto const& path : files) {
         auto result = readClassifications(path);

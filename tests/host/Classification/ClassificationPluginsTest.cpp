@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <system_error>
+
 namespace qev::test {
 namespace {
 
@@ -49,6 +52,23 @@ TEST(ClassificationPlugins, TellWhatCouldNotBeRead)
         (Names{folder.path().string() + ": there is no table (.csv, .tsv) and no IFC file in the folder"}));
     EXPECT_EQ(plugins.read(folder.path() / "missing.csv").size(), 1u);
     EXPECT_TRUE(plugins.getPlugins().empty());
+}
+
+TEST(ClassificationPlugins, TellAFolderThatCannotBeReadFromAnEmptyOne)
+{
+    TemporaryFolder const folder;
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::none);
+    std::error_code error;
+    std::filesystem::directory_iterator const entries(folder.path(), error);
+    if (!error) {
+        std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
+        GTEST_SKIP() << "this user may read every folder";
+    }
+    ClassificationPlugins plugins;
+    auto const messages = plugins.read(folder.path());
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(messages,
+              (Names{"Cannot read the folder \"" + folder.path().string() + "\": " + error.message() + "."}));
 }
 
 } // namespace
