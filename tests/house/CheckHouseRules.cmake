@@ -55,6 +55,7 @@ may_include(host/Format/Ifc/Model Core Format/Ifc FoundationClasses)
 may_include(host/Ui/PropertyGrid Core Ui/PropertyGrid Ui/Window)
 may_include(host/Ui/List Core Ui/List Ui/Window)
 may_include(host/Ui/Window Core Ui/PropertyGrid Ui/Window Ui/WindowBackend)
+may_include(host/Ui/Headless Core Ui)
 may_include(host/Ui Core Icons Ui)
 may_include(library Classification Core Edit Icons Object Format/Ifc FoundationClasses Ui/PropertyGrid Ui/Window UI)
 
