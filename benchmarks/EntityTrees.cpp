@@ -3,6 +3,7 @@
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "FoundationClasses/Core/ProductExtension/FcElement.h"
 #include "FoundationClasses/Data.h"
+#include "Objects.h"
 #include "StopWatch.h"
 #include "UI/FoundationClasses/PropertyInterface/FcPropertyWrapper.h"
 
@@ -59,16 +60,13 @@ std::optional<Measurement> readTreeOfElementAgain(std::shared_ptr<fc::Data> cons
 
 void readAllTrees(std::shared_ptr<fc::Data> const& data)
 {
-    // So many objects take some ten megabytes.
-    constexpr std::size_t mostObjects = 20'000;
     for (fc::EntityIndex index = 0; index < data->entityCount(); ++index) {
         if (auto const entity = data->entity(index)) {
             FcPropertyWrapper wrapper(data, entity);
             readTree(wrapper);
             wrapper.clearCache();
         }
-        if (data->objectCount() > mostObjects)
-            data->releaseUnused();
+        application::releaseIfMany(*data);
     }
     data->releaseUnused();
 }

@@ -1,8 +1,7 @@
 #include "FileFigures.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdio>
+#include "Figures.h"
+
 #include <fstream>
 #include <map>
 #include <utility>
@@ -16,38 +15,25 @@ constexpr double million = 1e6;
 constexpr double secondsPerMegabyteOfTrees = 0.15;
 
 template <class Member>
-auto medianOf(std::vector<Measurement> const& runs, Member member)
+double medianOf(std::vector<Measurement> const& runs, Member member)
 {
-    std::vector<std::remove_cvref_t<decltype(runs.front().*member)>> values;
+    std::vector<double> values;
     for (Measurement const& run : runs)
-        values.push_back(run.*member);
-    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+        values.push_back(static_cast<double>(run.*member));
+    return median(std::move(values));
 }
 
 Measurement median(std::vector<Measurement> const& runs)
 {
     return {medianOf(runs, &Measurement::seconds), medianOf(runs, &Measurement::processorSeconds),
-            medianOf(runs, &Measurement::bytes)};
+            static_cast<std::uint64_t>(medianOf(runs, &Measurement::bytes))};
 }
-
-std::string format(char const* pattern, double a, double b = 0.0)
-{
-    std::array<char, 100> text = {};
-    std::snprintf(text.data(), text.size(), pattern, a, b);
-    return text.data();
-}
-
-std::string milliseconds(double seconds) { return format("%8.2f ms", seconds * 1e3); }
 
 std::string times(Measurement const& measurement)
 {
     return milliseconds(measurement.seconds) +
-           format(" (processor %8.2f ms)", measurement.processorSeconds * 1e3);
+           formatted(" (processor %8.2f ms)", measurement.processorSeconds * 1e3);
 }
-
-std::string megabytes(double bytes) { return format("%7.1f MB", bytes / million); }
 
 } // namespace
 
@@ -118,8 +104,8 @@ FigureTable FileFigures::measure(unsigned int runs) const
     Measurement const copy = median(all[Work::Copy]);
     auto const addInFloors = [&](std::string const& work, Measurement const& measured, double bar) {
         double const floors = measured.seconds / floor.seconds;
-        table.add(work, times(measured) + format("  %5.2f x floor", floors), format("%.1f x floor", bar),
-                  floors / bar);
+        table.add(work, times(measured) + formatted("  %5.2f x floor", floors),
+                  formatted("%.1f x floor", bar), floors / bar);
     };
     auto const addMemory = [&](std::string const& work, Measurement const& measured, double bar) {
         auto const bytes = static_cast<double>(measured.bytes);

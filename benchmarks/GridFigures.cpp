@@ -1,6 +1,7 @@
 #include "GridFigures.h"
 
 #include "Core/Unit/QuantityPresentationFactory.h"
+#include "Figures.h"
 #include "StopWatch.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGrid.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
@@ -9,7 +10,6 @@
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <QCoreApplication>
 #include <QEvent>
@@ -193,13 +193,6 @@ Run runTree()
     return run;
 }
 
-double getMedian(std::vector<double> values)
-{
-    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
 struct Figures
 {
     double show;
@@ -216,7 +209,7 @@ std::vector<double> getPages(std::vector<Run> const& runs)
         std::vector<double> times;
         for (auto const& run : runs)
             times.push_back(run.pages.at(page));
-        pages.push_back(getMedian(std::move(times)));
+        pages.push_back(median(std::move(times)));
     }
     return pages;
 }
@@ -230,15 +223,7 @@ Figures getFigures(std::vector<Run> const& runs)
         refills.push_back(run.refill);
     }
     auto const pages = getPages(runs);
-    return {getMedian(shows), getMedian(refills), getMedian(pages),
-            *std::max_element(pages.begin(), pages.end())};
-}
-
-std::string toText(double seconds)
-{
-    char text[32];
-    std::snprintf(text, sizeof text, "%7.2f ms", seconds * 1e3);
-    return text;
+    return {median(shows), median(refills), median(pages), *std::max_element(pages.begin(), pages.end())};
 }
 
 } // namespace
@@ -261,15 +246,15 @@ FigureTable GridFigures::measure(unsigned int runs)
     constexpr double pageBar = 0.008;
     FigureTable table("Grid of " + std::to_string(sets) + " sets with " + std::to_string(rowsPerSet) +
                       " rows each, beside a bare tree of Qt");
-    table.add("tree: make, fill and paint", toText(tree.show));
-    table.add("grid: make, fill and paint", toText(grid.show), toText(2 * tree.show),
+    table.add("tree: make, fill and paint", milliseconds(tree.show));
+    table.add("grid: make, fill and paint", milliseconds(grid.show), milliseconds(2 * tree.show),
               grid.show / (2 * tree.show));
-    table.add("tree: fill anew and paint", toText(tree.refill));
-    table.add("grid: fill anew and paint", toText(grid.refill), toText(2 * tree.refill),
+    table.add("tree: fill anew and paint", milliseconds(tree.refill));
+    table.add("grid: fill anew and paint", milliseconds(grid.refill), milliseconds(2 * tree.refill),
               grid.refill / (2 * tree.refill));
-    table.add("tree: scroll by a page", toText(tree.page));
-    table.add("grid: scroll by a page", toText(grid.page), toText(pageBar), grid.page / pageBar);
-    table.add("grid: the slowest page", toText(grid.slowestPage), toText(pageBar),
+    table.add("tree: scroll by a page", milliseconds(tree.page));
+    table.add("grid: scroll by a page", milliseconds(grid.page), milliseconds(pageBar), grid.page / pageBar);
+    table.add("grid: the slowest page", milliseconds(grid.slowestPage), milliseconds(pageBar),
               grid.slowestPage / pageBar);
     return table;
 }

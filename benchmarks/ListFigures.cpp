@@ -3,6 +3,7 @@
 #include "Core/Localization/Dictionaries.h"
 #include "Core/Platform/ProcessMemory.h"
 #include "Core/Utilities/ScopeGuard.h"
+#include "Figures.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "ListModel.h"
 #include "StopWatch.h"
@@ -12,8 +13,6 @@
 #include "Ui/Qt/ListControl/QtListControl.h"
 #include "Ui/Qt/QtBackend.h"
 
-#include <algorithm>
-#include <cstdio>
 #include <QAbstractTableModel>
 #include <QCoreApplication>
 #include <QScrollBar>
@@ -219,26 +218,13 @@ double sortBy(ui::QtListControl& list, std::size_t column)
     return watch.read().seconds;
 }
 
-double getMedian(std::vector<Run> const& runs, double Run::*figure)
+double medianOf(std::vector<Run> const& runs, double Run::*figure)
 {
     std::vector<double> values;
     for (auto const& run : runs)
         values.push_back(run.*figure);
-    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+    return median(std::move(values));
 }
-
-std::string toText(char const* format, double figure)
-{
-    char text[64];
-    std::snprintf(text, sizeof text, format, figure);
-    return text;
-}
-
-std::string toMilliseconds(double seconds) { return toText("%8.2f ms", seconds * 1e3); }
-
-std::string toMegabytes(double bytes) { return toText("%8.2f MB", bytes / 1e6); }
 
 } // namespace
 
@@ -271,24 +257,25 @@ FigureTable ListFigures::measure(unsigned int runs)
     constexpr double timeBar = 1.5;
     constexpr double memoryBar = 1e6;
     FigureTable table("List of 1,000,000 rows with 60 columns, beside a bare table of Qt");
-    auto const listShow = getMedian(lists, &Run::show);
-    auto const tableShow = getMedian(tables, &Run::show);
-    table.add("table: make and paint", toMilliseconds(tableShow));
-    table.add("list: make and paint", toMilliseconds(listShow), toMilliseconds(timeBar * tableShow),
+    auto const listShow = medianOf(lists, &Run::show);
+    auto const tableShow = medianOf(tables, &Run::show);
+    table.add("table: make and paint", milliseconds(tableShow));
+    table.add("list: make and paint", milliseconds(listShow), milliseconds(timeBar * tableShow),
               listShow / (timeBar * tableShow));
-    auto const listPages = getMedian(lists, &Run::pages);
-    auto const tablePages = getMedian(tables, &Run::pages);
-    table.add("table: scroll by 200 pages", toMilliseconds(tablePages));
-    table.add("list: scroll by 200 pages", toMilliseconds(listPages), toMilliseconds(timeBar * tablePages),
+    auto const listPages = medianOf(lists, &Run::pages);
+    auto const tablePages = medianOf(tables, &Run::pages);
+    table.add("table: scroll by 200 pages", milliseconds(tablePages));
+    table.add("list: scroll by 200 pages", milliseconds(listPages), milliseconds(timeBar * tablePages),
               listPages / (timeBar * tablePages));
-    auto const reads = getMedian(lists, &Run::readsPerCell);
-    table.add("list: values read for each cell painted", toText("%8.2f", reads), toText("%8.2f", 1.0), reads);
-    table.add("list: find out what 1,000,000 objects have in common", toMilliseconds(setSeconds));
-    table.add("list: sort 200,000 rows by a text", toMilliseconds(byText));
-    table.add("list: sort 200,000 rows by a number", toMilliseconds(byNumber));
-    table.add("table: memory", toMegabytes(getMedian(tables, &Run::bytes)));
-    auto const more = getMedian(lists, &Run::bytes) - getMedian(shortLists, &Run::bytes);
-    table.add("list: memory beyond that of 1,000 rows", toMegabytes(more), toMegabytes(memoryBar),
+    auto const reads = medianOf(lists, &Run::readsPerCell);
+    table.add("list: values read for each cell painted", formatted("%8.2f", reads), formatted("%8.2f", 1.0),
+              reads);
+    table.add("list: find out what 1,000,000 objects have in common", milliseconds(setSeconds));
+    table.add("list: sort 200,000 rows by a text", milliseconds(byText));
+    table.add("list: sort 200,000 rows by a number", milliseconds(byNumber));
+    table.add("table: memory", megabytes(medianOf(tables, &Run::bytes)));
+    auto const more = medianOf(lists, &Run::bytes) - medianOf(shortLists, &Run::bytes);
+    table.add("list: memory beyond that of 1,000 rows", megabytes(more), megabytes(memoryBar),
               more / memoryBar);
     return table;
 }

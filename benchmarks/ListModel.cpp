@@ -1,19 +1,11 @@
 #include "ListModel.h"
 
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
+#include "GlobalId.h"
 
 namespace qev::benchmarks {
 
 namespace {
-
-std::string globalIdOf(std::uint64_t number)
-{
-    constexpr std::string_view digits = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_$";
-    std::string id(22, '0');
-    for (std::size_t place = id.size(); number > 0 && place > 0; number /= digits.size())
-        id[--place] = digits[number % digits.size()];
-    return id;
-}
 
 /// The value of a property, of a kind that changes from column to column.
 std::string valueOf(int wall, int property)

@@ -1,7 +1,8 @@
 #include "ManyObjects.h"
 
-#include "Core/Id/Guid.h"
+#include "GlobalId.h"
 
+#include <cstdint>
 #include <fstream>
 #include <string>
 
@@ -27,12 +28,12 @@ public:
 
     std::string addRooted(std::string const& keyword, std::string const& arguments)
     {
-        return add(keyword + "('" + Guid::generate().toString() + "',$," + arguments + ")");
+        return add(keyword + "('" + globalIdOf(m_lastId + 1) + "',$," + arguments + ")");
     }
 
 private:
     std::ofstream& m_file;
-    unsigned long m_lastId = 0;
+    std::uint64_t m_lastId = 0;
 };
 
 void addWall(RecordWriter& records, std::size_t number)

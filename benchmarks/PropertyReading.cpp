@@ -127,7 +127,7 @@ std::shared_ptr<FcPropertySingleValue> findSingleValue(FcObjectDefinition const&
 
 std::size_t readAllProperties(fc::Data& data)
 {
-    // Some ten megabytes of objects; to let go of a few ones would be to read what they share over and over.
+    // To let go of a few objects only would be to read what they share over and over.
     constexpr std::size_t mostObjects = 50'000;
     std::size_t length = 0;
     for (fc::EntityIndex const index :
