@@ -2,6 +2,7 @@
 
 #include "Core/Unit/QuantityPresentation.h"
 #include "Core/Unit/UnitFacts.h"
+#include "Core/Unit/UnitIds.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
@@ -25,8 +26,6 @@ using unit::UnitFacts;
 using Choice = unit::UnitPreferences::Choice;
 using Style = QppSettings::Style;
 
-constexpr int footId = 110;
-constexpr int degreeId = 18;
 constexpr int quantityRole = Qt::UserRole;
 constexpr int unitRole = Qt::UserRole;
 constexpr int styleRole = Qt::UserRole + 1;
@@ -166,9 +165,9 @@ void UnitTable::fillUnitBox(QComboBox& box, QuantityId quantity) const
         if (facts.quantity != quantity)
             continue;
         addChoice(box, getUnitText(facts), facts.id, Style::Decimal);
-        if (facts.id == footId)
+        if (facts.id == unit::footId)
             addChoice(box, getText("Settings_FeetAndInches"), facts.id, Style::FeetAndInches);
-        if (facts.id == degreeId)
+        if (facts.id == unit::degreeId)
             addChoice(box, getText("Settings_DegreesMinutesSeconds"), facts.id, Style::DegreesMinutesSeconds);
     }
 }

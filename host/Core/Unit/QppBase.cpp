@@ -1,12 +1,13 @@
 #include "Core/Unit/QppBase.h"
 
+#include "Core/Unit/UnitIds.h"
+
 #include <utility>
 
 namespace qev::unit {
 
 namespace {
 
-constexpr int degreeId = 18;
 constexpr int decimalsOfSeconds = 3;
 
 QppSettings geographicSettings(QuantityBase const& planeAngle)

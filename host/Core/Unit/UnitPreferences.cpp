@@ -2,6 +2,7 @@
 
 #include "Core/String/NumberText.h"
 #include "Core/Unit/UnitFacts.h"
+#include "Core/Unit/UnitIds.h"
 
 #include <algorithm>
 #include <array>
@@ -21,8 +22,6 @@ constexpr std::array<std::pair<Style, std::string_view>, 3> styleNames = {{
 
 /// Stands for the unit of plain numbers, which has no symbol.
 constexpr std::string_view plainNumberSymbol = "1";
-
-constexpr int footId = 110;
 
 /// The unit of each quantity that has an imperial one.
 constexpr std::array imperialUnits = {footId, 120, 125, 132, 136, 141, 203, 212, 218, 311, 320,
