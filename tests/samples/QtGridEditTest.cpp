@@ -67,6 +67,8 @@ protected:
     void select(std::string const& object)
     {
         ASSERT_TRUE(window->selectObject(ui::toQString(object)));
+        // The progress of opening a large file has taken the keys from it.
+        QApplication::setActiveWindow(window.get());
         settle();
     }
 
@@ -80,25 +82,23 @@ protected:
                            [&name](auto const& set) { return set->Name.get() == name; });
     }
 
-    /// Tells if a row without a unit shows a number: it is edited as a text, and takes no other.
-    [[nodiscard]] static bool isNumberInText(ui::PropertyGridRow const& shown)
+    /// Tells if a row of texts stands for one: numbers without a unit have such rows too.
+    [[nodiscard]] static bool takesWords(ui::PropertyGridRow const& shown)
     {
-        auto const text = PropertyGridEditing::getDisplayedText(shown);
+        auto const& check = shown.getInputCheck();
         return PropertyGridEditing::getEditor(shown) == PropertyGridEditor::Text &&
-               text.find_first_not_of("+-.0123456789eE") == std::string::npos;
+               !(check && check({"words", std::nullopt, std::nullopt}));
     }
 
-    /// How many rows have that name. Sets may share a property, and an edit of one row is one of all.
-    [[nodiscard]] int countOfName(std::string const& name) const
+    [[nodiscard]] static bool hasEditor(ui::PropertyGridRow const& shown, PropertyGridEditor editor)
     {
-        auto const& model = window->getProperties().getGrid()->getItemModel();
-        return static_cast<int>(model
-                                    .match(model.index(0, 0), Qt::DisplayRole, ui::toQString(name), -1,
-                                           Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive)
-                                    .size());
+        return PropertyGridEditing::getEditor(shown) == editor &&
+               (editor != PropertyGridEditor::Text ||
+                (takesWords(shown) && !PropertyGridEditing::getDisplayedText(shown).empty()));
     }
 
-    /// The rows of property sets with a value that can be edited by \p editor, at most one for each set.
+    /// The rows of property sets with a value that can be edited by \p editor, at most one for each set; of
+    /// rows of texts those that show words.
     [[nodiscard]] std::vector<Path> rowsWith(PropertyGridEditor editor) const
     {
         std::vector<Path> paths;
@@ -112,8 +112,7 @@ protected:
                                  index.data().toString().toStdString()};
                 view().setCurrentIndex(index);
                 bool const isOfSet = isPropertySet(window->getProperties().getCurrentSetName());
-                if (!isOfSet || PropertyGridEditing::getEditor(shown) != editor ||
-                    shown.getState().emptyState || !(row(names) == index))
+                if (!isOfSet || !hasEditor(shown, editor) || !(row(names) == index))
                     continue;
                 paths.push_back(names);
                 break;
@@ -124,7 +123,6 @@ protected:
 
     void replaceText(Path const& names, char const* text)
     {
-        QApplication::setActiveWindow(window.get());
         startEditing(row(names));
         ASSERT_NE(QApplication::focusWidget(), nullptr);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
@@ -136,7 +134,9 @@ protected:
     void press(Path const& names, Qt::Key key)
     {
         view().setFocus();
-        view().setCurrentIndex(row(names));
+        // Not by the view itself, which would look at the modifier keys of the last event.
+        view().selectionModel()->setCurrentIndex(row(names), QItemSelectionModel::ClearAndSelect |
+                                                                 QItemSelectionModel::Rows);
         QTest::keyClick(&view(), key);
         settle();
     }
@@ -157,7 +157,7 @@ protected:
         return lines;
     }
 
-    /// Calls \p edit for one row of each object that has such a row; there has to be one at all.
+    /// Calls \p edit for one row of each object that has such a row. In our own models there is one at all.
     void editEach(PropertyGridEditor editor,
                   std::function<void(std::string const& object, Path const& names)> const& edit)
     {
@@ -170,6 +170,8 @@ protected:
             edit(object, rows.front());
             ++edits;
         }
+        if (edits == 0 && !isOwn())
+            GTEST_SKIP() << "there is no row to edit";
         EXPECT_GT(edits, 0u) << "there is no row to edit";
     }
 
@@ -192,28 +194,24 @@ protected:
         takeReports();
     }
 
+    [[nodiscard]] static bool isOwn()
+    {
+        return GetParam().path.parent_path() == std::filesystem::path(OWN_SAMPLES_DIRECTORY);
+    }
+
     std::string before;
 };
 
-/// Our own models. In others sets share their properties, and numbers without a unit stand in rows of texts:
-/// an edit there shows in more rows than its own, or is not taken.
-std::vector<SampleFile> ownFiles()
-{
-    auto files = wellFormedFiles();
-    std::erase_if(files, [](SampleFile const& file) {
-        return file.path.parent_path() != std::filesystem::path(OWN_SAMPLES_DIRECTORY);
-    });
-    return files;
-}
-
-INSTANTIATE_TEST_SUITE_P(Samples, QtGridEdit, testing::ValuesIn(ownFiles()),
+INSTANTIATE_TEST_SUITE_P(Samples, QtGridEdit, testing::ValuesIn(wellFormedFiles()),
                          [](auto const& file) { return file.param.name; });
 
 TEST_P(QtGridEdit, TypedTextsChangeOneRecordEachAndComeBackAfterSaving)
 {
     editEach(PropertyGridEditor::Text, [this](std::string const& object, Path const& names) {
-        replaceText(names, "Typed by hand");
-        EXPECT_EQ(value(row(names)), "Typed by hand");
+        // Objects may share a set: each text is another.
+        auto const text = "Typed for " + object;
+        replaceText(names, text.c_str());
+        EXPECT_EQ(value(row(names)), text);
         auto const saved = window->getSession().getFile()->toText();
         auto const changes = RecordChanges::between(before, saved);
         expectOneRecordChanged(changes);
@@ -262,7 +260,8 @@ TEST_P(QtGridEdit, DelTakesAValueAwayAndUndoBringsItBack)
         press(names, Qt::Key_Delete);
         EXPECT_NE(shownRows(), shown);
         auto const changes = RecordChanges::between(before, window->getSession().getFile()->toText());
-        EXPECT_FALSE(changes.removed.empty());
+        // A property that other sets have too stays with them.
+        EXPECT_FALSE(changes.changed.empty() && changes.removed.empty());
         EXPECT_THAT(changes.added, IsEmpty());
         EXPECT_TRUE(changes.isRestSame);
         QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
@@ -291,8 +290,7 @@ TEST_P(QtGridEdit, AValueInAnUnusedSetMakesTheSetAndDelTakesItAway)
             for (int place = 0; place < all.rowCount(groupIndex) && !used.contains(name) && !unused;
                  ++place) {
                 auto const index = all.index(place, 0, groupIndex);
-                if (PropertyGridEditing::getEditor(*ui::QtPropertyGridItemModel::getRow(index)) ==
-                    PropertyGridEditor::Text)
+                if (takesWords(*ui::QtPropertyGridItemModel::getRow(index)))
                     unused = Path{name, index.data().toString().toStdString()};
             }
         }
@@ -310,6 +308,8 @@ TEST_P(QtGridEdit, AValueInAnUnusedSetMakesTheSetAndDelTakesItAway)
         window->getProperties().setUnusedShown(false);
         settle();
     }
+    if (edits == 0 && !isOwn())
+        GTEST_SKIP() << "there is no set to make";
     EXPECT_GT(edits, 0u) << "no set could be made";
 }
 
