@@ -114,6 +114,8 @@ TEST_P(GeneratedClasses, MakesObjectsOfItselfUnlessAbstract)
     EXPECT_EQ(object->getIdLast(), entityClass().idLast);
     EXPECT_STREQ(object->getEntityName(), entityClass().name);
     EXPECT_STREQ(object->getEntityNameUpper(), entityClass().nameUpper);
+    EXPECT_STREQ(object->getGroupName(), entityClass().group);
+    EXPECT_STREQ(object->getQualifiedGroupName(), entityClass().qualifiedGroup);
     EXPECT_EQ(object->getEntityNameHashed().text, entityClass().name);
     EXPECT_EQ(object->getEntityNameHashed().hash, fnv1a(entityClass().name));
     EXPECT_EQ(object->getEntityNameUpperHashed().hash, fnv1a(entityClass().nameUpper));

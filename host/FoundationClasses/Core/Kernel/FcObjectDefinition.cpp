@@ -203,7 +203,9 @@ bool FcObjectDefinition::deletePropertySetDefinition(std::string const& name)
 void FcObjectDefinition::detachFromRelations(std::shared_ptr<FcPropertySetDefinition> const& set)
 {
     auto const self = std::static_pointer_cast<FcObjectDefinition>(shared_from_this());
-    for (EntityIndex const index : setRelations(*this)) {
+    // A copy: the relations change on the way.
+    auto const relations = setRelations(*this);
+    for (EntityIndex const index : relations) {
         auto const relation = relationAt(*getData(), index);
         std::size_t setCount = 0;
         bool hasSet = false;
@@ -221,7 +223,6 @@ void FcObjectDefinition::detachFromRelations(std::shared_ptr<FcPropertySetDefini
             relation->RelatedObjects.edit([&self](auto& objects) { objects.erase(self); });
         else
             getData()->entityDelete(relation);
-        return;
     }
 }
 

@@ -282,6 +282,19 @@ TEST(DeleteObjectSet, TakesTheSetItsPropertiesAndTheRelationOutOfTheModel)
     EXPECT_THAT(setNames(*wall), IsEmpty());
 }
 
+TEST(DeleteObjectSet, LeavesNoRelationOfTheObjectToTheSet)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    auto const set = model.addSet(wall, "Pset_X", {{"A", label("1")}});
+    model.shareSet(set, wall);
+    ASSERT_EQ(relationCount(model), 2u);
+    EXPECT_TRUE(wall->deletePropertySetDefinition("Pset_X"));
+    EXPECT_TRUE(model.data()->isDeleted(set->getIndex()));
+    EXPECT_EQ(relationCount(model), 0u);
+    EXPECT_THAT(setNames(*wall), IsEmpty());
+}
+
 TEST(DeleteObjectSet, WorksForQuantities)
 {
     Model model;

@@ -1,7 +1,9 @@
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 
 #include "FoundationClasses/Core/Kernel/FcTypeObject.h"
+#include "FoundationClasses/Core/ProcessExtension/FcTaskType.h"
 #include "FoundationClasses/Core/ProductExtension/FcSite.h"
+#include "FoundationClasses/Domain/ConstructionMgmt/FcLaborResourceType.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWallType.h"
 #include "kit/ModelBuilder.h"
@@ -84,6 +86,16 @@ TEST(TypeObject, ShowsItsOwnTypeTexts)
     type->ElementType = "Core";
     EXPECT_EQ(type->predefinedTypeDerived(), "SHEAR");
     EXPECT_EQ(type->userDefinedTypeDerived(), "Core");
+}
+
+TEST(TypeObject, OfAProcessOrResourceHasATypeTextOfAnotherName)
+{
+    auto const task = std::make_shared<fc::core::processextension::FcTaskType>();
+    task->ProcessType = "Casting";
+    EXPECT_EQ(task->userDefinedTypeDerived(), "Casting");
+    auto const crew = std::make_shared<fc::domain::constructionmgmt::FcLaborResourceType>();
+    crew->ResourceType = "Masons";
+    EXPECT_EQ(crew->userDefinedTypeDerived(), "Masons");
 }
 
 TEST(FcRoot, KeepsItsGlobalIdAsTheStandardWritesIt)
