@@ -1,121 +1,26 @@
 #include "UI/FoundationClasses/PropertyInterface/FcPropertyWrapper.h"
 
-#include "Core/Unit/QuantityPresentation.h"
+#include "FcPropertyWrapperTest.h"
 #include "FoundationClasses/Core/ProductExtension/FcRelSpaceBoundary.h"
 #include "FoundationClasses/Resource/Actor/FcActorRole.h"
 #include "FoundationClasses/Resource/ExternalReference/FcClassification.h"
 #include "FoundationClasses/Resource/ExternalReference/FcClassificationReference.h"
 #include "FoundationClasses/Resource/Property/FcPropertyBoundedValue.h"
-#include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
 #include "FoundationClasses/Resource/Property/FcPropertyTableValue.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcDoor.h"
-#include "FoundationClasses/Shared/SharedBldgElements/FcWall.h"
 #include "FoundationClasses/Shared/SharedBldgElements/FcWallType.h"
-#include "FoundationClasses/Shared/SharedBldgServiceElements/FcDistributionPort.h"
-#include "kit/ModelBuilder.h"
 #include "library/kit/PresentationScope.h"
-#include "library/kit/PropertyTree.h"
-#include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/PropertyInterface/PropertyAccess.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 
 using namespace qev;
 using namespace qev::test;
 using fc::ui::propertyinterface::EntityReference;
-using fc::ui::propertyinterface::FcPropertyWrapper;
-using object::PropertyId;
-using object::PropertyValue;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
-
-/// A wrapper whose tree a test draws itself.
-class DrawnWrapper : public FcPropertyWrapper
-{
-public:
-    using FcPropertyWrapper::FcPropertyWrapper;
-    using FcPropertyWrapper::getMappedData;
-
-    PropertyNodes nodes;
-    bool beginsWithTop = false;
-    mutable int listings = 0;
-
-protected:
-    std::vector<std::shared_ptr<fc::Property>> getObjectProperties() const override
-    {
-        ++listings;
-        return nodes;
-    }
-    bool beginsPathsWithTopLevelId() const override { return beginsWithTop; }
-};
-
-/// Something other than an entity that has properties.
-class OtherObject : public object::PropertyInterface
-{
-public:
-    mutable std::vector<std::string> calls;
-
-    std::set<PropertyId> getAllProperties() const override { return {}; }
-    std::string getPropertiesObjectKey() const override { return {}; }
-    void setValue(PropertyId const& id, PropertyValue const&) override
-    {
-        calls.push_back("set " + id.text());
-    }
-    PropertyValue getValue(PropertyId const& id) const override { return "value of " + id.text(); }
-    bool isValueAllowed(PropertyId const&, PropertyValue const& value) const override
-    {
-        return value == PropertyValue("good");
-    }
-    bool isEmptyValueAllowed(PropertyId const&) const override { return true; }
-    bool hasQuantityPresentation(PropertyId const&) const override { return true; }
-    std::unique_ptr<unit::QuantityPresentationBase>
-    createQuantityPresentation(PropertyId const&) const override
-    {
-        return unit::makeQuantityPresentation<unit::SiUnit<4, unit::Quantity<1, 1, 0, 0, 0, 0, 0, 0>>>(3.5);
-    }
-    bool isLocalValue(PropertyId const&) const override { return true; }
-    void resetToGlobalValue(PropertyId const&) override {}
-    std::string getPropertyName(PropertyId const& id) const override { return "name of " + id.text(); }
-    std::string getPropertyDescription(PropertyId const& id) const override { return "about " + id.text(); }
-    std::string getPropertyValueDescription(PropertyId const&) const override { return {}; }
-    std::string getListIndexPrefix(PropertyId const&) const override { return "prefix"; }
-    bool isReadOnly() const override { return false; }
-    bool isPropertyReadOnly(PropertyId const&) const override { return false; }
-    bool isReference(PropertyId const&) const override { return true; }
-};
-
-std::shared_ptr<fc::Property> node(std::string const& id, std::shared_ptr<generate::ObjectInterface> object,
-                                   PropertyNodes children = {})
-{
-    auto result = std::make_shared<fc::Property>();
-    result->id = PropertyId(id);
-    result->object = std::move(object);
-    result->children = std::move(children);
-    return result;
-}
-
-std::vector<std::string> textsOf(std::set<PropertyId> const& ids)
-{
-    std::vector<std::string> texts;
-    for (auto const& id : ids)
-        texts.push_back(id.text());
-    return texts;
-}
-
-struct PropertyWrapper : testing::Test
-{
-    TranslationScope texts;
-    Model model;
-    std::shared_ptr<fc::shared::sharedbldgelements::FcWall> wall = model.wall("W1");
-    std::shared_ptr<FcPropertyWrapper> wrapper = std::make_shared<FcPropertyWrapper>(model.data(), wall);
-    std::shared_ptr<DrawnWrapper> drawn = std::make_shared<DrawnWrapper>(model.data(), wall);
-    std::shared_ptr<OtherObject> other = std::make_shared<OtherObject>();
-};
 
 // --- Paths ------------------------------------------------------------------------------------------
 
@@ -390,6 +295,19 @@ TEST_F(PropertyWrapper, RunsOnThroughAReference)
               std::tuple(nullptr, nullptr, PropertyId()));
 }
 
+TEST_F(PropertyWrapper, EndsAtAReferenceWithoutItsModel)
+{
+    auto const type = model.wallType("T1");
+    model.assignType(type, {wall});
+    auto data = fc::Data::create();
+    DrawnWrapper const ofLostModel(data, wall);
+    PropertyId const id("IsTypedBy.Name");
+    EXPECT_EQ(ofLostModel.getMappedProperty(id), std::tuple(type, nullptr, PropertyId("Name")));
+    data.reset();
+
+    EXPECT_EQ(ofLostModel.getMappedProperty(id), std::tuple(nullptr, nullptr, PropertyId()));
+}
+
 TEST_F(PropertyWrapper, RunsOnThroughReferenceAfterReference)
 {
     auto const type = model.wallType("T1");
@@ -536,72 +454,6 @@ TEST_F(PropertyWrapper, LabelsAPropertyThatIsNotThereByItsNames)
     EXPECT_EQ(wrapper->getPropertyName(PropertyId("IsTypedBy.PropertySets")), "");
 }
 
-// --- Read-only --------------------------------------------------------------------------------------
-
-TEST_F(PropertyWrapper, IsReadOnlyUntilToldOtherwise)
-{
-    EXPECT_TRUE(wrapper->isReadOnly());
-    EXPECT_TRUE(wrapper->isPropertyReadOnly(PropertyId("Name")));
-    wrapper->setReadOnly(false);
-    EXPECT_FALSE(wrapper->isReadOnly());
-    EXPECT_FALSE(wrapper->isPropertyReadOnly(PropertyId("Name")));
-    EXPECT_FALSE(wrapper->isPropertyReadOnly(PropertyId("NoSuchPath")));
-}
-
-TEST_F(PropertyWrapper, LetsAPredefinedTypeBeChosenOnce)
-{
-    wrapper->setReadOnly(false);
-    EXPECT_FALSE(wrapper->isPropertyReadOnly(PropertyId("PredefinedType")));
-    EXPECT_FALSE(wrapper->isPropertyReadOnly(PropertyId("PropertySets.Own.MyPredefinedTypeHere")));
-    wall->PredefinedType = fc::FcWallTypeEnum::MOVABLE;
-    EXPECT_TRUE(wrapper->isPropertyReadOnly(PropertyId("PredefinedType")));
-    EXPECT_TRUE(wrapper->isPropertyReadOnly(PropertyId("PropertySets.Own.MyPredefinedTypeHere")));
-}
-
-TEST_F(PropertyWrapper, LetsThePredefinedTypeOfAPortBeChangedUntilItHasSets)
-{
-    using fc::shared::sharedbldgserviceelements::FcDistributionPort;
-    auto const port = model.add<FcDistributionPort>("P1");
-    port->PredefinedType = fc::FcDistributionPortTypeEnum::PIPE;
-    FcPropertyWrapper ofPort(model.data(), port);
-    ofPort.setReadOnly(false);
-
-    EXPECT_FALSE(ofPort.isPropertyReadOnly(PropertyId("PredefinedType")));
-    model.addSet(port, "Pset_DistributionPortCommon", {{"A", label("a")}});
-    EXPECT_TRUE(ofPort.isPropertyReadOnly(PropertyId("PredefinedType")));
-}
-
-TEST_F(PropertyWrapper, LetsNoPredefinedTypeOfOtherEntitiesBeChanged)
-{
-    auto const role = std::make_shared<fc::resource::actor::FcActorRole>();
-    model.data()->entityAdd(role, false);
-    FcPropertyWrapper ofRole(model.data(), role);
-    ofRole.setReadOnly(false);
-    EXPECT_TRUE(ofRole.isPropertyReadOnly(PropertyId("PredefinedType")));
-}
-
-TEST_F(PropertyWrapper, LetsNoPredefinedTypeOfAnEntityThatIsGoneBeChanged)
-{
-    auto port = std::make_shared<fc::shared::sharedbldgserviceelements::FcDistributionPort>();
-    FcPropertyWrapper ofPort(model.data(), port);
-    ofPort.setReadOnly(false);
-    EXPECT_FALSE(ofPort.isPropertyReadOnly(PropertyId("PredefinedType")));
-    ofPort.clearCache();
-    port.reset();
-
-    EXPECT_TRUE(ofPort.isPropertyReadOnly(PropertyId("PredefinedType")));
-}
-
-TEST_F(PropertyWrapper, LetsNoTableBeTypedInto)
-{
-    auto const table = tableValue("T", {});
-    drawn->nodes = {node("Top", wall, {node("Table", table), node("Value", singleValue("S", label("s")))})};
-    drawn->setReadOnly(false);
-
-    EXPECT_TRUE(drawn->isPropertyReadOnly(PropertyId("Table")));
-    EXPECT_FALSE(drawn->isPropertyReadOnly(PropertyId("Value")));
-}
-
 // --- Life -------------------------------------------------------------------------------------------
 
 TEST_F(PropertyWrapper, KeepsNothingAlive)
@@ -634,6 +486,27 @@ TEST_F(PropertyWrapper, GivesNeutralAnswersWithoutItsModel)
     EXPECT_EQ(ofEntity.createQuantityPresentation(id), nullptr);
     EXPECT_EQ(ofEntity.getPropertyName(id), "");
     EXPECT_EQ(ofEntity.getMappedProperty(id), std::tuple(entity, nullptr, id));
+}
+
+TEST_F(PropertyWrapper, AnswersWithoutItsModelWhatTheEntityKnowsByItself)
+{
+    using fc::resource::externalreference::FcClassification;
+    texts.add("IfcDoor.OverallHeight_Description", "From sill to lintel");
+    auto const door = std::make_shared<fc::shared::sharedbldgelements::FcDoor>();
+    auto const system = std::make_shared<FcClassification>();
+    system->Specification = "https://example.org/codes";
+    auto data = fc::Data::create();
+    FcPropertyWrapper const ofDoor(data, door);
+    FcPropertyWrapper const ofSystem(data, system);
+    data.reset();
+
+    EXPECT_TRUE(ofDoor.hasQuantityPresentation(PropertyId("OverallHeight")));
+    EXPECT_EQ(ofDoor.getPropertyDescription(PropertyId("OverallHeight")), "From sill to lintel");
+    EXPECT_TRUE(ofDoor.hasEnumeratedValues(PropertyId("PredefinedType")));
+    EXPECT_THAT(ofDoor.getEnumeratedValues(PropertyId("PredefinedType")), Not(IsEmpty()));
+    EXPECT_EQ(ofSystem.getReference(PropertyId("Specification")),
+              EntityReference("https://example.org/codes"));
+    EXPECT_TRUE(ofSystem.isReference(PropertyId("Specification")));
 }
 
 TEST_F(PropertyWrapper, LabelsAPropertyByItsNamesWithoutItsModel)
