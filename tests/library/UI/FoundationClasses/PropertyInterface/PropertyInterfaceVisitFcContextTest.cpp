@@ -126,6 +126,21 @@ TEST_F(ContextRows, OfADerivedUnitNestItsElementsAndTheirUnits)
     EXPECT_EQ(childIds(*unitOfElement), std::vector<std::string>{"SIUnit"});
 }
 
+TEST_F(ContextRows, OfUnitsAreThereWithoutElementsAndUnits)
+{
+    auto const unit = std::make_shared<FcDerivedUnit>();
+    auto const element = std::make_shared<FcDerivedUnitElement>();
+
+    auto const elements = getProperties(*unit).front()->children.back();
+    EXPECT_EQ(elements->id.text(), "Elements");
+    EXPECT_TRUE(elements->isGroup && elements->isList);
+    EXPECT_TRUE(elements->children.empty());
+    auto const unitOfElement = getProperties(*element).front()->children.back();
+    EXPECT_EQ(unitOfElement->id.text(), "Unit");
+    EXPECT_TRUE(unitOfElement->isGroup && !unitOfElement->isList);
+    EXPECT_TRUE(unitOfElement->children.empty());
+}
+
 TEST_F(ContextRows, OfUnitsAreLabelledByKeyOrFallback)
 {
     auto const unit = std::make_shared<FcDerivedUnit>();

@@ -143,6 +143,17 @@ TEST_F(StructureRows, OfAStructureListTheElementsItReferences)
     EXPECT_EQ(name(*storey, "ReferencedInStructures.1"), "Door");
 }
 
+TEST_F(StructureRows, OfAStructureEndWithTheElementsItReferences)
+{
+    storey->ObjectPlacement = std::make_shared<fc::resource::geometricconstraint::FcLocalPlacement>();
+    reference(storey, {product(wall)});
+
+    auto const ids = childIds(*getProperties(*storey).front());
+
+    EXPECT_THAT(std::vector(ids.end() - 3, ids.end()),
+                ElementsAre("PropertySets", "Location", "ReferencedInStructures"));
+}
+
 TEST_F(StructureRows, OfAStructureLeaveOtherIdsToTheBaseClass)
 {
     reference(storey, {product(wall)});

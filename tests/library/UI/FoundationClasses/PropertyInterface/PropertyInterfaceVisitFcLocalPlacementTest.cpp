@@ -277,6 +277,39 @@ TEST_F(GeometryRows, TurnAPlacementAboutOneAxis)
     }
 }
 
+TEST_F(GeometryRows, MoveAPlacementInTheFrameItIsRelativeTo)
+{
+    auto const sitePlacement = place(Matrix::createTranslation({100, 0, 0}));
+    model.site("Site")->ObjectPlacement = sitePlacement;
+    auto const buildingPlacement = place(Matrix::createTranslation({0, 10, 0}), sitePlacement);
+    model.building("Building")->ObjectPlacement = buildingPlacement;
+    auto const placement = place(Matrix::createTranslation({1, 2, 3}), buildingPlacement);
+
+    set(*placement, "YCoordinate", 5.0);
+
+    auto const moved = placement->relativeMatrix().translation();
+    EXPECT_NEAR(moved.x, 1, 1e-12);
+    EXPECT_NEAR(moved.y, 5, 1e-12);
+    EXPECT_NEAR(moved.z, 3, 1e-12);
+    expectCoordinates(*placement, 1, 15, 3);
+    expectCoordinates(*buildingPlacement, 0, 10, 0);
+}
+
+TEST_F(GeometryRows, TurnAPlacementInTheFrameItIsRelativeTo)
+{
+    auto const sitePlacement = place(Matrix());
+    model.site("Site")->ObjectPlacement = sitePlacement;
+    auto const turned = place(Matrix::createZRotate(quarterTurn), sitePlacement);
+    auto const placement = place(Matrix::createTranslation({1, 2, 3}) * Matrix::createZRotate(0.1), turned);
+    EXPECT_NEAR(number(*placement, "ZAxisRotation"), quarterTurn + 0.1, 1e-12);
+
+    set(*placement, "ZAxisRotation", 0.3);
+
+    EXPECT_NEAR(placement->relativeMatrix().getRotations().z, 0.3, 1e-12);
+    EXPECT_NEAR(placement->relativeMatrix().translation().x, 1, 1e-12);
+    EXPECT_NEAR(number(*placement, "ZAxisRotation"), quarterTurn + 0.3, 1e-12);
+}
+
 TEST_F(GeometryRows, KeepThePlacementWhereNothingMoves)
 {
     auto const placement = place(Matrix::createTranslation({1, 2, 3}));

@@ -123,7 +123,12 @@ TEST_F(ActorRows, OfAnOwnerHistoryEndWithWhomItNames)
     EXPECT_EQ(owner->object, history);
     EXPECT_EQ(childIds(*owner), std::vector<std::string>{"TheOrganization"});
     history->LastModifyingApplication = std::make_shared<FcApplication>();
-    EXPECT_TRUE(nodeAt(getProperties(*history), "OwnerHistory/LastModifyingApplication/Application"));
+    auto const all = getProperties(*history);
+    EXPECT_TRUE(nodeAt(all, "OwnerHistory/LastModifyingApplication/Application"));
+    auto const ids = childIds(*all.front());
+    EXPECT_EQ(
+        std::vector(ids.end() - 3, ids.end()),
+        (std::vector<std::string>{"OwningApplication", "LastModifyingUser", "LastModifyingApplication"}));
 }
 
 TEST_F(ActorRows, ShowDatesAsTexts)

@@ -82,6 +82,9 @@ TEST_F(ProductRows, OfAPortHaveAPositionInstead)
     EXPECT_TRUE(position->isGroup);
     EXPECT_EQ(position->object, port);
     EXPECT_EQ(position->children.size(), getProperties(*placement).size());
+    auto const ids = childIds(*tree.front());
+    EXPECT_THAT(std::vector(ids.end() - 3, ids.end()),
+                testing::ElementsAre("Classifications", "PropertySets", "Position"));
     EXPECT_EQ(nodeAt(tree, "DistributionPort/Location"), nullptr);
     EXPECT_EQ(name(*port, "Position"), "Placement");
     texts.add("Placement", "Place");
