@@ -134,6 +134,31 @@ TEST_F(EditControllerClassification, ReadsTheObjectsAnewBeforeTheGridDoes)
     EXPECT_THAT(log->entries, SizeIs(3));
 }
 
+TEST_F(EditControllerClassification, ReadsTheObjectsAnewThatCanBeChanged)
+{
+    codes->chosen = {"21"};
+    auto const shown = edited(model.data(), first);
+    auto const writable = edited(model.data(), first);
+    auto const isClassifiedIn = [](ui::edit::EditedObject const& object) {
+        return object.getPropertyInterface()->getAllProperties().contains(
+            PropertyId("Classifications.Groups"));
+    };
+    controller->setObjects({shown}, {writable});
+    EXPECT_FALSE(isClassifiedIn(*shown));
+    EXPECT_FALSE(isClassifiedIn(*writable));
+    click("Classifications");
+    choose("Groups");
+    EXPECT_FALSE(isClassifiedIn(*shown));
+    EXPECT_TRUE(isClassifiedIn(*writable));
+
+    auto const shownAnew = edited(model.data(), first);
+    controller->setObjects({shownAnew}, {writable});
+    EXPECT_TRUE(isClassifiedIn(*shownAnew));
+    click("Classifications.Groups", "delete");
+    EXPECT_TRUE(isClassifiedIn(*shownAnew));
+    EXPECT_FALSE(isClassifiedIn(*writable));
+}
+
 TEST_F(EditControllerClassification, AsksForATypeToo)
 {
     auto const type = model.wallType("T1");

@@ -45,6 +45,16 @@ TEST_F(EditControllerSets, AddsAChosenPropertyOfAChosenSet)
     EXPECT_THAT(propertyNames(*second, common), ElementsAre("no set"));
 }
 
+TEST_F(EditControllerSets, TheSecondListNamesThePropertiesByTheTextsOfTheirSet)
+{
+    texts.add("Pset_WallCommon.FireRating", "Resistance to fire");
+    edit({first});
+    click("PropertySets");
+    choose(common);
+    choose("Resistance to fire");
+    EXPECT_THAT(propertyNames(*first, common), ElementsAre("FireRating"));
+}
+
 TEST_F(EditControllerSets, TheSecondListLiesWhereTheFirstDid)
 {
     edit({first});

@@ -177,6 +177,25 @@ TEST_F(EditController, TellsOfAnEmptiedValueBeforeItReadsTheObjectsAgain)
     EXPECT_THAT(log->entries, ElementsAre("edited"));
 }
 
+TEST_F(EditController, ReadsTheObjectsAnewThatCanBeChanged)
+{
+    auto const property = PropertyId("PropertySets.Own.A");
+    auto const shown = edited(model.data(), wall);
+    auto const writable = edited(model.data(), wall);
+    auto const hasProperty = [&property](EditedObject const& object) {
+        return object.getPropertyInterface()->getAllProperties().contains(property);
+    };
+    controller->setObjects({shown}, {writable});
+    EXPECT_FALSE(hasProperty(*shown));
+    EXPECT_FALSE(hasProperty(*writable));
+    model.addSet(wall, "Own", {{"A", label("a")}});
+
+    controller->onPropertyChanged(PropertyId("PropertySets.Own.B"), "");
+
+    EXPECT_FALSE(hasProperty(*shown));
+    EXPECT_TRUE(hasProperty(*writable));
+}
+
 // --- The selected reference -------------------------------------------------------------------------
 
 constexpr char location[] = "Documents.0.Location";

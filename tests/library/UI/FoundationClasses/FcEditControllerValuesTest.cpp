@@ -1,11 +1,15 @@
 #include "Core/Unit/QuantityPresentation.h"
 #include "Core/Unit/QuantityPresentationFactory.h"
-#include "Core/Utilities/ScopeGuard.h"
 #include "EditControllerTest.h"
 #include "Ui/Window/ProgressBarInterface.h"
 #include "Ui/Window/Window.h"
 #include "Ui/Window/WindowInterface.h"
 #include "Ui/WindowBackend.h"
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -378,29 +382,80 @@ TEST_F(EditControllerValues, WritesATableThatHadNoValues)
     EXPECT_THAT(*first.table->DefinedValues.get(), IsEmpty());
 }
 
+/// Presents the properties of these ids otherwise while it lives, and writes down which are asked for.
+class AskedPresentations
+{
+public:
+    explicit AskedPresentations(std::vector<std::string> ids)
+        : m_ids(std::move(ids))
+    {
+        for (std::string const& id : m_ids)
+            unit::QuantityPresentationFactory::current().registerIfcProperty(
+                id, [this, id](double, std::string const&) {
+                    asked.insert(id);
+                    return unit::createPresentationForMeasure("LinearVelocityMeasure");
+                });
+    }
+    ~AskedPresentations()
+    {
+        for (std::string const& id : m_ids)
+            unit::QuantityPresentationFactory::current().registerIfcProperty(id, {});
+    }
+    AskedPresentations(AskedPresentations const&) = delete;
+    AskedPresentations& operator=(AskedPresentations const&) = delete;
+
+    std::set<std::string> asked;
+
+private:
+    std::vector<std::string> m_ids;
+};
+
 TEST_F(EditControllerValues, ShowsBoundsAndTablesAsTheSetOfThePropertyWantsThem)
 {
-    auto& factory = unit::QuantityPresentationFactory::current();
-    std::vector<std::string> asked;
-    for (std::string const name : {"Own.Bounded", "Own.Table"})
-        factory.registerIfcProperty(name, [&asked, name](double, std::string const&) {
-            asked.push_back(name);
-            return unit::createPresentationForMeasure("LinearVelocityMeasure");
-        });
-    ScopeGuard const guard([&factory] {
-        factory.registerIfcProperty("Own.Bounded", {});
-        factory.registerIfcProperty("Own.Table", {});
-    });
+    AskedPresentations presentations({"Own.Bounded", "Own.Table"});
     edit({first.object});
     click("PropertySets.Own.Bounded", "edit");
-    asked.clear();
+    presentations.asked.clear();
     EXPECT_NE(openList()->getText(0, 1), "");
-    EXPECT_THAT(asked, testing::Contains("Own.Bounded"));
+    EXPECT_THAT(presentations.asked, ElementsAre("Own.Bounded"));
     turnElsewhere();
     click("PropertySets.Own.Table", "edit");
-    asked.clear();
+    presentations.asked.clear();
     EXPECT_NE(openList()->getText(0, 0), "");
-    EXPECT_THAT(asked, testing::Contains("Own.Table"));
+    EXPECT_THAT(presentations.asked, ElementsAre("Own.Table"));
+}
+
+TEST_F(EditControllerValues, TakesTheSecondOfThreeOrMoreSegmentsForTheSet)
+{
+    AskedPresentations presentations({"Own.Bounded", "PropertySets.Bounded", "IsTypedBy.Bounded"});
+    auto const type = model.wallType("T1");
+    model.assignType(type, {second.object});
+    model.addSet(type, "Own")
+        ->HasProperties.addProperty(boundedValue("Bounded", real(1), real(2), FcValue()));
+    edit({second.object});
+    click("IsTypedBy.PropertySets.Own.Bounded", "edit");
+    ASSERT_NE(openList(), nullptr);
+    presentations.asked.clear();
+    EXPECT_NE(openList()->getText(0, 1), "");
+    EXPECT_THAT(presentations.asked, ElementsAre("PropertySets.Bounded"));
+}
+
+TEST_F(EditControllerValues, KnowsNoSetOfAPathOfFewerSegments)
+{
+    AskedPresentations presentations({"Own.Bounded", "Bounded.Bounded", ".Bounded", ".Table"});
+    edit({first.bounds});
+    click("Bounded", "edit");
+    ASSERT_NE(openList(), nullptr);
+    presentations.asked.clear();
+    EXPECT_NE(openList()->getText(0, 1), "");
+    EXPECT_THAT(presentations.asked, ElementsAre(".Bounded"));
+    turnElsewhere();
+    edit({first.table});
+    click("Table", "edit");
+    ASSERT_NE(openList(), nullptr);
+    presentations.asked.clear();
+    EXPECT_NE(openList()->getText(0, 0), "");
+    EXPECT_THAT(presentations.asked, ElementsAre(".Table"));
 }
 
 TEST_F(EditControllerValues, EmptiesThePropertiesOfSeveralObjects)

@@ -148,6 +148,19 @@ TEST_F(AddPsetPopupControllerTest, ASetThatAllObjectsHaveIsNotOffered)
     EXPECT_THAT(names(), IsEmpty());
 }
 
+TEST_F(AddPsetPopupControllerTest, ASetOfQuantitiesThatAllObjectsHaveIsNotOffered)
+{
+    auto const first = model.wall("W1");
+    auto const second = model.wall("W2");
+    model.addQuantities(first, "Qto_A");
+    model.addQuantities(second, "Qto_A");
+    model.addQuantities(first, "Qto_B");
+    show({first, second}, setFor("Qto_A", {}), setFor("Qto_B", {}));
+    EXPECT_THAT(names(), ElementsAre("Qto_B"));
+    show({first}, setFor("Qto_A", {}), setFor("Qto_B", {}));
+    EXPECT_THAT(names(), IsEmpty());
+}
+
 TEST_F(AddPsetPopupControllerTest, ASetForAPredefinedTypeIsForObjectsOfThatTypeAlone)
 {
     auto const wall = model.wall("W1");
