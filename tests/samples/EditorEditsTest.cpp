@@ -5,6 +5,7 @@
 #include "Format/Ifc/Model/IfcFile.h"
 #include "kit/TemporaryFolder.h"
 #include "RecordChanges.h"
+#include "RecordReferences.h"
 #include "reference-reader/ReferenceReader.h"
 #include "SampleFiles.h"
 #include "SchemaCheck.h"
@@ -34,14 +35,6 @@ using PropertyKind = ReferenceProperty::Kind;
 
 constexpr char systemName[] = "Sample classes";
 constexpr char code[] = "331.1";
-
-void collectReferences(StepArgument const& argument, Ids& ids)
-{
-    if (argument.kind == StepArgument::Kind::Reference)
-        ids.insert(argument.reference);
-    for (StepArgument const& item : argument.items)
-        collectReferences(item, ids);
-}
 
 /// The objects of a file in the object editor, whose buttons are pressed.
 class EditorEdits : public testing::TestWithParam<SampleFile>
@@ -180,10 +173,7 @@ protected:
     void expectNoReferenceTo(Ids const& gone) const
     {
         for (StepRecord const& record : document.records()) {
-            Ids references;
-            for (StepArgument const& argument : record.arguments)
-                collectReferences(argument, references);
-            for (std::uint64_t const id : references)
+            for (std::uint64_t const id : referencesOf(record))
                 EXPECT_FALSE(gone.contains(id)) << '#' << record.id << " refers to #" << id;
         }
     }
