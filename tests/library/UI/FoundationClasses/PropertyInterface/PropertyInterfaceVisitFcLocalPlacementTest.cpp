@@ -281,7 +281,7 @@ TEST_F(GeometryRows, MoveAPlacementInTheFrameItIsRelativeTo)
 {
     auto const sitePlacement = place(Matrix::createTranslation({100, 0, 0}));
     model.site("Site")->ObjectPlacement = sitePlacement;
-    auto const buildingPlacement = place(Matrix::createTranslation({0, 10, 0}), sitePlacement);
+    auto const buildingPlacement = place(Matrix::createTranslation({20, 10, 0}), sitePlacement);
     model.building("Building")->ObjectPlacement = buildingPlacement;
     auto const placement = place(Matrix::createTranslation({1, 2, 3}), buildingPlacement);
 
@@ -291,8 +291,8 @@ TEST_F(GeometryRows, MoveAPlacementInTheFrameItIsRelativeTo)
     EXPECT_NEAR(moved.x, 1, 1e-12);
     EXPECT_NEAR(moved.y, 5, 1e-12);
     EXPECT_NEAR(moved.z, 3, 1e-12);
-    expectCoordinates(*placement, 1, 15, 3);
-    expectCoordinates(*buildingPlacement, 0, 10, 0);
+    expectCoordinates(*placement, 21, 15, 3);
+    expectCoordinates(*buildingPlacement, 20, 10, 0);
 }
 
 TEST_F(GeometryRows, TurnAPlacementInTheFrameItIsRelativeTo)
