@@ -150,8 +150,10 @@ void PropertySetListControl::notifyPropertySetPropertyChanged(std::string const&
                                                               PropertyChangedNotificationType type)
 {
     // The formatter is left at the last of these objects, whatever row it was asked about before.
-    if (type == PropertyChangedNotificationType::ValueChanged && !objectIndices.empty())
-        m_formatterObjectIndex = *objectIndices.rbegin();
+    if (type == PropertyChangedNotificationType::ValueChanged && !objectIndices.empty()) {
+        auto const last = *objectIndices.rbegin();
+        m_formatterObjectIndex = last < getObjects().size() ? std::optional(last) : std::nullopt;
+    }
     PropertySetControl::notifyPropertySetPropertyChanged(setName, propertyName, objectIndices, type);
 }
 
@@ -507,7 +509,8 @@ bool PropertySetListControl::isRowEditable(std::size_t row, ColumnPropertyNames 
         return false;
     if (getFormatter()) {
         getFormatter()->setObject(getData(), getObjects()[row]);
-        m_formatterObjectIndex = row;
+        // Whoever paints the next cell has not asked for this row.
+        m_formatterObjectIndex.reset();
     }
     return isEnabled(names) && !isReadOnly(names) && !isSwitchedOff(property);
 }

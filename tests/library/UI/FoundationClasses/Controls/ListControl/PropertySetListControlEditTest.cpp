@@ -94,6 +94,18 @@ TEST_F(PropertySetListControlEditTest, PaintingGoesOnWithTheRightRowAfterAnEditW
     EXPECT_EQ(text(0, "Code"), "C1");
 }
 
+TEST_F(PropertySetListControlEditTest, PaintingTellsTheFormatterItsRowAfterAnEditHasBegun)
+{
+    showWalls(2);
+    (void)text(0, "Code");
+    (void)beginResult({{1, column("Code")}});
+    formatter->objects.clear();
+    (void)text(1, "Code");
+    EXPECT_THAT(formatter->objects, ElementsAre(walls[1]));
+    (void)text(0, "Code");
+    EXPECT_THAT(formatter->objects, ElementsAre(walls[1], walls[0]));
+}
+
 TEST_F(PropertySetListControlEditTest, ARowThatIsNotThereIsReportedAndNotEdited)
 {
     showWalls(1);
@@ -168,6 +180,17 @@ TEST_F(PropertySetListControlEditTest, AnEditOfAnotherKindOfPropertyIsReported)
     finish(end("Checked", {0}, "true"));
     expectControlReport("Unsupported property type for doring label edit.", "onLabelEditEnd");
     EXPECT_THAT(handled, IsEmpty());
+}
+
+TEST_F(PropertySetListControlEditTest, AfterAnEditThatWasReportedTheFormatterIsToldOfTheRowAgain)
+{
+    showWalls(1);
+    (void)text(0, "Code");
+    formatter->objects.clear();
+    finish(end("Codes", {0}, "C9"));
+    expectControlReport("Unsupported property type for doring label edit.", "onLabelEditEnd");
+    (void)text(0, "Code");
+    EXPECT_THAT(formatter->objects, ElementsAre(walls[0]));
 }
 
 TEST_F(PropertySetListControlEditTest, ARowBelowTheLastIsReportedAndPassedOver)
@@ -426,6 +449,30 @@ TEST_F(PropertySetListControlEditTest, PaintingGoesOnWithTheRightRowAfterAChange
         "Pset_A", "Code", {1}, PropertySetControl::PropertyChangedNotificationType::ValueChanged);
     EXPECT_EQ(text(0, "Code"), "C1");
     EXPECT_EQ(text(1, "Code"), "");
+}
+
+TEST_F(PropertySetListControlEditTest, ARowThatIsNotThereIsReportedWhenItIsPaintedAfterAChangeOfItWasTold)
+{
+    showWalls(2);
+    (void)text(0, "Code");
+    control->notifyPropertySetPropertyChanged(
+        "Pset_A", "Code", {1, 5}, PropertySetControl::PropertyChangedNotificationType::ValueChanged);
+    EXPECT_THAT(takeReportTexts(), ElementsAre("Object index out of range."));
+
+    (void)text(5, "Code");
+    EXPECT_THAT(takeReportTexts(), ElementsAre("Index out of range.", "Invalid item index."));
+}
+
+TEST_F(PropertySetListControlEditTest, PaintingGoesOnWithTheRightRowAfterAChangeOfARowThatIsNotThere)
+{
+    showWalls(2);
+    formatter->disabledObjects = {walls[1].get()};
+    (void)text(0, "Code");
+    control->notifyPropertySetPropertyChanged(
+        "Pset_A", "Code", {1, 5}, PropertySetControl::PropertyChangedNotificationType::ValueChanged);
+    EXPECT_THAT(takeReportTexts(), ElementsAre("Object index out of range."));
+
+    EXPECT_EQ(text(0, "Code"), "C1");
 }
 
 } // namespace
