@@ -98,6 +98,11 @@ void HeadlessListControl::setVisible(bool visible)
         setFocus();
 }
 
+bool HeadlessListControl::isReachable() const
+{
+    return !isDestroyed() && isVisible() && (!getOwner() || getOwner()->isEnabled());
+}
+
 std::string HeadlessListControl::getHeaderText(std::size_t column) const
 {
     return column < getColumnCount() ? m_columns.getTitles()[column] : std::string();
@@ -174,7 +179,7 @@ bool HeadlessListControl::triggerSecondaryEvent(std::size_t row, std::size_t col
 bool HeadlessListControl::clickCheckBox(std::size_t row, std::size_t column)
 {
     auto const control = getListControl();
-    if (!control || !isReachableCell(row, column))
+    if (!control || !isEnabled() || !isReachableCell(row, column))
         return false;
     return click({cell(row, column)});
 }
@@ -182,7 +187,7 @@ bool HeadlessListControl::clickCheckBox(std::size_t row, std::size_t column)
 bool HeadlessListControl::clickCheckBoxes(std::size_t column)
 {
     auto const control = getListControl();
-    if (!control || !isReachableColumn(column))
+    if (!control || !isEnabled() || !isReachableColumn(column))
         return false;
     return click(getSelectedCells(column));
 }
@@ -199,14 +204,14 @@ bool HeadlessListControl::hideColumn(std::size_t column, bool hidden)
 
 bool HeadlessListControl::beginEdit(std::size_t row, std::size_t column)
 {
-    if (!isReachableCell(row, column))
+    if (!isEnabled() || !isReachableCell(row, column))
         return false;
     return openEditor(m_selection.contains(row) ? getSelectedCells(column) : std::vector{cell(row, column)});
 }
 
 bool HeadlessListControl::commitText(std::string_view text)
 {
-    if (!m_edit || !isReachable() || m_edit->editor.editType == ListControl::DropList)
+    if (!m_edit || !isEnabled() || !isReachable() || m_edit->editor.editType == ListControl::DropList)
         return false;
     endEdit(
         [text](ListEditing const& editing, ListEdit const& edit) { return editing.commitText(edit, text); });
@@ -215,7 +220,7 @@ bool HeadlessListControl::commitText(std::string_view text)
 
 bool HeadlessListControl::commitChoice(std::size_t index)
 {
-    if (!m_edit || !isReachable() || index >= m_edit->editor.items.size())
+    if (!m_edit || !isEnabled() || !isReachable() || index >= m_edit->editor.items.size())
         return false;
     endEdit([index](ListEditing const& editing, ListEdit const& edit) {
         return editing.commitChoice(edit, index);
@@ -254,7 +259,7 @@ ListBlock HeadlessListControl::copy(std::vector<std::size_t> const& columns, boo
 ListEditResult HeadlessListControl::paste(std::size_t row, std::size_t column, ListBlock const& block)
 {
     auto const control = getListControl();
-    if (!control || !isReachableCell(row, column))
+    if (!control || !isEnabled() || !isReachableCell(row, column))
         return {};
     bool const isOneCell = block.size() == 1 && block.front().size() == 1;
     std::vector<std::size_t> rows;
@@ -274,7 +279,7 @@ ListEditResult HeadlessListControl::paste(std::size_t row, std::size_t column, L
 ListEditResult HeadlessListControl::fillDown(std::size_t column)
 {
     auto const control = getListControl();
-    if (!control || !isReachableColumn(column))
+    if (!control || !isEnabled() || !isReachableColumn(column))
         return {};
     return ListEditing(control).fillDown({m_selection.begin(), m_selection.end()}, {column});
 }
@@ -282,7 +287,7 @@ ListEditResult HeadlessListControl::fillDown(std::size_t column)
 ListEditResult HeadlessListControl::clear(std::size_t column)
 {
     auto const control = getListControl();
-    if (!control || !isReachableColumn(column))
+    if (!control || !isEnabled() || !isReachableColumn(column))
         return {};
     return ListEditing(control).clear(getSelectedCells(column));
 }
@@ -307,7 +312,7 @@ bool HeadlessListControl::openContextMenu(std::size_t row, std::size_t column)
 bool HeadlessListControl::resetToGlobalValues(std::size_t column)
 {
     auto const control = getListControl();
-    if (!control || !isReachable() || m_selection.empty() || column >= getColumnCount())
+    if (!control || !isEnabled() || !isReachable() || m_selection.empty() || column >= getColumnCount())
         return false;
     std::vector<std::size_t> const rows(m_selection.begin(), m_selection.end());
     fireEvent(control->onResetItemsToGlobalValues, rows, column);
@@ -357,7 +362,7 @@ bool HeadlessListControl::isUsingReportStyle() const
 
 void HeadlessListControl::startLabelEdit(std::size_t row, std::size_t column)
 {
-    if (isDestroyed() || row > m_rowCount || column >= getColumnCount())
+    if (isDestroyed() || !isEnabled() || row > m_rowCount || column >= getColumnCount())
         return;
     openEditor({cell(row, column)});
 }

@@ -17,7 +17,8 @@ namespace qev::ui {
 
 /// A list without a screen, driven as by a user. It asks its `ListControl` for each cell.
 ///
-/// Each input gives false, and changes nothing, when a user cannot reach the list or the cell.
+/// Each input gives false, and changes nothing, when a user cannot reach the list or the cell. A list that is
+/// not enabled can still be looked through: only what would change values or check boxes is refused.
 class HOSTUI_EXPORT HeadlessListControl final : public HeadlessWindow
 {
 public:
@@ -28,6 +29,8 @@ public:
     [[nodiscard]] std::unique_ptr<WindowInterface> createInterface() override;
     /// A popup that is shown takes the focus.
     void setVisible(bool visible) override;
+    /// True for a list that is not enabled too, as long as the windows above it are.
+    [[nodiscard]] bool isReachable() const override;
 
     [[nodiscard]] std::size_t getRowCount() const { return m_rowCount; }
     [[nodiscard]] std::size_t getColumnCount() const { return m_columns.getCount(); }

@@ -54,7 +54,7 @@ public:
     /// True when the window and all above it are enabled.
     [[nodiscard]] bool isEnabled() const;
     /// True when a user can get at the window: it stands, is visible and enabled.
-    [[nodiscard]] bool isReachable() const;
+    [[nodiscard]] virtual bool isReachable() const;
 
     void suspendRedraw() { ++m_redrawSuspensions; }
     void resumeRedraw() { --m_redrawSuspensions; }

@@ -279,19 +279,89 @@ TEST_F(HeadlessListControlTest, LocalValuesAreResetForTheSelectedRows)
     EXPECT_THAT(resetRows, ElementsAre(1u, 2u));
 }
 
-TEST_F(HeadlessListControlTest, ADisabledListCannotBeDriven)
+TEST_F(HeadlessListControlTest, ADisabledListCanStillBeLookedThroughAndCopied)
+{
+    std::vector<std::string> events;
+    control->onItemActivated.iHandlerAdd(
+        [&](auto&, ListControl::ItemInfo const&) { events.emplace_back("activated"); });
+    control->onItemSecondaryEvent.iHandlerAdd(
+        [&](auto&, ListControl::ItemInfo const&) { events.emplace_back("asked"); });
+    control->onContextMenu.iHandlerAdd([](auto&, ListControl::ItemInfo const&, PopupMenu& menu) {
+        menu.iMenuElemAdd(std::make_unique<MenuEntry>("Zoom"));
+    });
+    control->onContextMenuCommand.iHandlerAdd(
+        [&](auto&, ListControl::ItemInfo const&, int) { events.emplace_back("zoomed"); });
+    backend->setMenuAnswer([](PopupMenu const&) { return std::optional<std::size_t>(0); });
+
+    control->enable(false);
+
+    EXPECT_FALSE(control->isEnabled());
+    EXPECT_TRUE(list->select({0, 1}));
+    EXPECT_THAT(control->getSelectedItems(), ElementsAre(0u, 1u));
+    EXPECT_THAT(list->copy({0, 2}, false), ElementsAre(ElementsAre("W1", "F30"), ElementsAre("W2", "F60")));
+    EXPECT_TRUE(list->activate(0, 0));
+    EXPECT_TRUE(list->triggerSecondaryEvent(0, 0));
+    EXPECT_TRUE(list->openContextMenu(0, 0));
+    EXPECT_THAT(events, ElementsAre("activated", "asked", "zoomed"));
+    EXPECT_TRUE(list->hideColumn(0, true));
+    control->setFocus();
+    EXPECT_TRUE(list->hasFocus());
+}
+
+TEST_F(HeadlessListControlTest, ADisabledListRefusesWhatWouldChangeIt)
 {
     answerEditsWith(ListControl::EditBox);
+    bool wasChanged = false;
+    control->onCheckBoxClicked.iHandlerAdd(
+        [&](auto&, ListControl::ItemInfo const&, CheckState) { wasChanged = true; });
+    control->onResetItemsToGlobalValues.iHandlerAdd(
+        [&](auto&, std::vector<std::size_t> const&, std::size_t) { wasChanged = true; });
+    list->select({0, 1});
+
     control->enable(false);
-    EXPECT_FALSE(list->select({0}));
-    EXPECT_FALSE(list->activate(0, 0));
+
     EXPECT_FALSE(list->clickCheckBox(0, 1));
+    EXPECT_FALSE(list->clickCheckBoxes(1));
     EXPECT_FALSE(list->beginEdit(0, 2));
-    EXPECT_FALSE(list->openContextMenu(0, 0));
-    EXPECT_FALSE(list->hideColumn(0, true));
+    EXPECT_FALSE(list->type(0, 2, "F90"));
+    control->startLabelEdit(0, 2);
+    EXPECT_FALSE(list->getEdit());
     EXPECT_EQ(list->paste(0, 2, {{"F90"}}).takenCells, 0u);
     EXPECT_EQ(list->fillDown(2).takenCells, 0u);
     EXPECT_EQ(list->clear(2).takenCells, 0u);
+    EXPECT_FALSE(list->resetToGlobalValues(2));
+    EXPECT_THAT(ends, testing::IsEmpty());
+    EXPECT_FALSE(wasChanged);
+
+    control->enable(true);
+    EXPECT_TRUE(list->type(0, 2, "F90"));
+    EXPECT_TRUE(list->clickCheckBox(0, 1));
+    EXPECT_TRUE(list->resetToGlobalValues(2));
+}
+
+TEST_F(HeadlessListControlTest, WhatIsBeingTypedIsNotTakenByAListThatIsDisabled)
+{
+    answerEditsWith(ListControl::DropDown, {"F30"});
+    ASSERT_TRUE(list->beginEdit(0, 2));
+    control->enable(false);
+    EXPECT_FALSE(list->commitText("F90"));
+    EXPECT_FALSE(list->commitChoice(0));
+    EXPECT_THAT(ends, testing::IsEmpty());
+    EXPECT_TRUE(list->cancelEdit());
+    ASSERT_EQ(ends.size(), 1u);
+    EXPECT_FALSE(ends[0].accepted);
+}
+
+TEST_F(HeadlessListControlTest, AListThatIsDisabledWithItsDialogCannotBeDriven)
+{
+    answerEditsWith(ListControl::EditBox);
+    dialog->enable(false);
+    EXPECT_FALSE(list->select({0}));
+    EXPECT_FALSE(list->activate(0, 0));
+    EXPECT_FALSE(list->openContextMenu(0, 0));
+    EXPECT_FALSE(list->hideColumn(0, true));
+    EXPECT_FALSE(list->clickCheckBox(0, 1));
+    EXPECT_FALSE(list->beginEdit(0, 2));
     EXPECT_THAT(ends, testing::IsEmpty());
 }
 
