@@ -522,6 +522,11 @@ void QtListView::commit(QString const& text, std::optional<std::size_t> entry)
     auto const editing = getEditing();
     if (!edit || !editing)
         return;
+    // The list may have become read-only under the open editor.
+    if (m_behaviour.isReadOnly) {
+        editing->cancel(*edit);
+        return;
+    }
     auto const typed = fromQString(text);
     tell(entry && typed != edit->text ? editing->commitChoice(*edit, *entry)
                                       : editing->commitText(*edit, typed));

@@ -9,6 +9,7 @@ namespace qev::test {
 namespace {
 
 using namespace ui;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -329,8 +330,25 @@ TEST_F(QtListControlTest, ADisabledListCanStillBeLookedThroughAndCopied)
     EXPECT_EQ(texts[0][name], "Wall 1");
     key(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "Wall 1\n");
+    key(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_THAT(log, Contains("activated 0"));
     control->enable(true);
     EXPECT_TRUE(control->isEnabled());
+}
+
+TEST_F(QtListControlTest, WhatIsBeingTypedIsNotTakenByAListThatIsDisabled)
+{
+    select(0, name);
+    key(Qt::Key_F2);
+    ASSERT_TRUE(view.isEditing());
+    auto* const editor = view.indexWidget(index(0, name));
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClicks(editor, "X");
+    control->enable(false);
+    QTest::keyClick(editor, Qt::Key_Return);
+    settle();
+    EXPECT_FALSE(view.isEditing());
+    EXPECT_EQ(texts[0][name], "Wall 1");
 }
 
 TEST_F(QtListControlTest, TheContextMenuOffersWhatTheOwnerAndTheListCanDo)
