@@ -66,6 +66,15 @@ TEST(ChildWindowManager, AnUnknownIdOrClassIsNotThere)
     EXPECT_EQ(found, nullptr);
 }
 
+TEST(ChildWindowManager, ReportsAClassOfWhichThereIsNoChild)
+{
+    ChildWindowManager manager;
+    manager.vWindowAdd(7, std::make_shared<ListControl>());
+    EXPECT_EQ(manager.windowGet<GroupBox>(7), nullptr);
+    test::expectReport("Invalid window holder type", "qev::ui::details::ChildWindowManager::windowGet",
+                       managerPath);
+}
+
 TEST(ChildWindowManager, KeepsChildrenWithIdZeroWithoutId)
 {
     ChildWindowManager manager;

@@ -25,6 +25,8 @@ public:
     std::set<std::string> excludedProperties;
     std::vector<std::shared_ptr<fc::FcBase>> objects;
     mutable std::vector<std::string> askedSets;
+    /// Set and property.
+    mutable std::vector<std::string> askedProperties;
 
     void setObject(std::shared_ptr<fc::FcBase> object) override { objects.push_back(std::move(object)); }
     [[nodiscard]] bool isSetIncluded(std::string const& setName) const override
@@ -32,9 +34,10 @@ public:
         askedSets.push_back(setName);
         return !excludedSets.contains(setName);
     }
-    [[nodiscard]] bool isPropertyIncluded(std::string const& /*setName*/,
+    [[nodiscard]] bool isPropertyIncluded(std::string const& setName,
                                           std::string const& propertyName) const override
     {
+        askedProperties.push_back(setName + " " + propertyName);
         return !excludedProperties.contains(propertyName);
     }
 };

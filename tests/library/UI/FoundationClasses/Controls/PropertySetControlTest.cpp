@@ -67,6 +67,43 @@ TEST_F(PropertySetControlTest, TellsFormatterAndFilterASingleObjectTwice)
     EXPECT_THAT(control.getObjects(), ElementsAre(wall));
 }
 
+/// Writes its name into a log that it shares with others when it is told an object.
+class OrderedFilter : public ToyFilter
+{
+public:
+    std::vector<std::string>* order = nullptr;
+    void setObject(std::shared_ptr<FcBase> /*object*/) override { order->emplace_back("filter"); }
+};
+
+class OrderedFormatter : public LogFormatter
+{
+public:
+    std::vector<std::string>* order = nullptr;
+    void setObject(std::shared_ptr<Data> /*data*/, std::shared_ptr<FcBase> /*object*/) override
+    {
+        order->emplace_back("formatter");
+    }
+};
+
+TEST_F(PropertySetControlTest, TheFilterIsToldAnObjectBeforeTheFormatter)
+{
+    std::vector<std::string> order;
+    auto const orderedFilter = std::make_shared<OrderedFilter>();
+    auto const orderedFormatter = std::make_shared<OrderedFormatter>();
+    orderedFilter->order = &order;
+    orderedFormatter->order = &order;
+    filter = orderedFilter;
+    formatter = orderedFormatter;
+    auto& control = useToy();
+
+    control.setObjects(model.data(), {model.wall("W1"), model.wall("W2")});
+    EXPECT_THAT(order, ElementsAre("filter", "formatter"));
+
+    order.clear();
+    control.setObject(model.data(), model.wall("W3"));
+    EXPECT_THAT(order, ElementsAre("filter", "formatter", "filter", "formatter"));
+}
+
 TEST_F(PropertySetControlTest, WorksWithoutFilterAndFormatter)
 {
     filter.reset();

@@ -189,11 +189,14 @@ TEST_F(FcPropertyBaseTest, NothingButOtherEntitiesIsASuccessWithoutEffect)
 
 TEST_F(FcPropertyBaseTest, NamesAreThoseOfDefinitionAndSet)
 {
-    auto const shown = show({wall});
+    auto definition = SetBuilder("Pset").single("Code", "IfcLabel").single("Count", "IfcInteger").take();
+    definition->propertyDefs[0]->description = "What the wall is called";
+    ShownSet const shown(std::move(definition), {wall});
 
     EXPECT_EQ(shown["Code"].getName(), "Code");
     EXPECT_EQ(shown["Code"].getPropertySetName(), "Pset");
-    EXPECT_EQ(shown["Code"].getDescription(), "");
+    EXPECT_EQ(shown["Code"].getDescription(), "What the wall is called");
+    EXPECT_EQ(shown["Count"].getDescription(), "");
 }
 
 TEST_F(FcPropertyBaseTest, WithoutATextTheLabelIsTheAliasAndWithoutAnAliasTheKey)

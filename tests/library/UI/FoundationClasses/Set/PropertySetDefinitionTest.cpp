@@ -9,6 +9,7 @@
 #include "library/kit/LogFormatter.h"
 #include "library/kit/SetBuilder.h"
 #include "library/kit/ShownSet.h"
+#include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertySingleValueWithBooleanToggle.h"
 
 #include <gmock/gmock.h>
@@ -19,8 +20,11 @@ namespace {
 using namespace qev::fc;
 using namespace qev::fc::ui;
 using namespace qev::test;
+using testing::AllOf;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using testing::Pair;
 using Type = PropertySetDefinitionType;
 
@@ -307,9 +311,23 @@ TEST_F(SetDefinitions, TheFormatterIsAskedByTheNameOfTheSetAndTheFilterByThatOfT
 
     EXPECT_THAT(names->asked, ElementsAre("Set Code"));
     EXPECT_THAT(filter->askedSets, ElementsAre("Definition"));
+    EXPECT_THAT(filter->askedProperties, AllOf(Not(IsEmpty()), Each("Definition Code")));
     EXPECT_EQ(set->getName(), "Set");
     EXPECT_EQ(set->getProperties().front()->getPropertySetName(), "Set");
     EXPECT_EQ(set->getLocalizedName({}), "Set");
+}
+
+TEST_F(SetDefinitions, WithoutAFormatterTheFilterIsAskedByTheNameOfTheDefinitionToo)
+{
+    auto const definition = SetBuilder("Definition").single("Code", "IfcLabel").take();
+    PropertySetDefinitionInfo info(*definition);
+    info.name = "Set";
+
+    auto const set = PropertySetDefinition::create(info, {}, nullptr, filter, {}, nullptr);
+
+    EXPECT_THAT(filter->askedSets, ElementsAre("Definition"));
+    EXPECT_THAT(filter->askedProperties, ElementsAre("Definition Code"));
+    EXPECT_EQ(set->getProperties().size(), 1u);
 }
 
 /// Gives a property another name when it is asked for its value.
@@ -424,6 +442,23 @@ TEST_F(SetDefinitions, ADefinitionWithoutANameIsNoKey)
 
     EXPECT_EQ(set->getLocalizedName({}), "Own");
     EXPECT_EQ(set->getLocalizedDescription({}), "");
+}
+
+TEST_F(SetDefinitions, TextsAreLookedUpByTheNameOfTheDefinition)
+{
+    TranslationScope texts;
+    texts.addIn("Host", "Definition", "Our set");
+    texts.addIn("Host", "Definition_Description", "All about our set");
+    texts.addIn("Host", "Set", "Not this one");
+    texts.addIn("Host", "Set_Description", "Nor this one");
+    auto const definition = SetBuilder("Definition").description("All about it").take();
+    PropertySetDefinitionInfo info(*definition);
+    info.name = "Set";
+
+    auto const set = PropertySetDefinition::create(info, {}, nullptr, nullptr, {"Host"}, nullptr);
+
+    EXPECT_EQ(set->getLocalizedName({}), "Our set");
+    EXPECT_EQ(set->getLocalizedDescription({}), "All about our set");
 }
 
 TEST_F(SetDefinitions, TextsComeFromTheFirstContextThatHasOne)

@@ -8,6 +8,7 @@
 #include "library/kit/LogFormatter.h"
 #include "library/kit/SetBuilder.h"
 #include "library/kit/ShownSet.h"
+#include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyLogicalType.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertySingleValueWithBooleanToggle.h"
 #include "UI/FoundationClasses/Set/PropertySet.h"
@@ -304,6 +305,16 @@ public:
         note();
         return names;
     }
+    /// The label and both descriptions.
+    std::vector<std::string> texts() const
+    {
+        return {getLocalizedName(), getDescription(), getLocalizedDescription()};
+    }
+    std::vector<std::string> textsOfToggle() const
+    {
+        auto const guard = workWithBooleanProperty();
+        return texts();
+    }
 };
 
 TEST_F(Toggle, FollowsTheSideItWorksOnAlsoWhenGuardsAreNested)
@@ -316,6 +327,43 @@ TEST_F(Toggle, FollowsTheSideItWorksOnAlsoWhenGuardsAreNested)
 
     EXPECT_THAT(toggle.namesWithinNestedGuards(), ElementsAre("Height with a unit", "HasHeight", "HasHeight",
                                                               "HasHeight", "Height with a unit"));
+}
+
+TEST_F(Toggle, LabelAndDescriptionsAreThoseOfTheSideItWorksOn)
+{
+    auto const definition =
+        SetBuilder("Pset").single("Height", "IfcReal").single("HasHeight", "IfcBoolean").take();
+    auto& height = *definition->propertyDefs[0];
+    auto& hasHeight = *definition->propertyDefs[1];
+    height.description = "How high it is";
+    hasHeight.description = "Whether its height is known";
+    TranslationScope texts;
+    for (auto const& [side, label] :
+         {std::pair(&height, "The height"), std::pair(&hasHeight, "Has a height")}) {
+        texts.addIn("Host", side->getConcept(), label);
+        texts.addIn("Host", side->getConcept() + "_Description", side->description + ", told by the host");
+    }
+    std::vector<std::string> const contexts = {"Host"};
+    OpenToggle const toggle(height, hasHeight, dynamic_cast<PropertySet&>(shown->set()), contexts);
+
+    EXPECT_THAT(toggle.texts(),
+                ElementsAre("The height", "How high it is", "How high it is, told by the host"));
+    EXPECT_THAT(toggle.textsOfToggle(), ElementsAre("Has a height", "Whether its height is known",
+                                                    "Whether its height is known, told by the host"));
+}
+
+TEST_F(Toggle, WithoutTextsTheLabelAndTheDescriptionAreTheAliasOfTheSideItWorksOn)
+{
+    auto const definition =
+        SetBuilder("Pset").single("Height", "IfcReal").single("HasHeight", "IfcBoolean").take();
+    definition->propertyDefs[0]->nameAliases.set(qev::locale::Locale::get(1), "The height");
+    definition->propertyDefs[1]->nameAliases.set(qev::locale::Locale::get(1), "Has a height");
+    std::vector<std::string> const contexts;
+    OpenToggle const toggle(*definition->propertyDefs[0], *definition->propertyDefs[1],
+                            dynamic_cast<PropertySet&>(shown->set()), contexts);
+
+    EXPECT_THAT(toggle.texts(), ElementsAre("The height", "", "The height"));
+    EXPECT_THAT(toggle.textsOfToggle(), ElementsAre("Has a height", "", "Has a height"));
 }
 
 TEST_F(Toggle, IsBackOnTheValueSideAfterAnException)

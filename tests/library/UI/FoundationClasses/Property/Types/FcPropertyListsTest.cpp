@@ -4,6 +4,7 @@
 #include "kit/ReportRecorder.h"
 #include "library/kit/SetBuilder.h"
 #include "library/kit/ShownSet.h"
+#include "library/kit/TranslationScope.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyBoundedValue.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyEnumeratedValue.h"
 #include "UI/FoundationClasses/Property/Types/FcPropertyListValue.h"
@@ -153,6 +154,21 @@ TEST_F(LocalizedEnumeration, AChosenTextIsStoredAsTheValueItStandsFor)
     EXPECT_TRUE(shown["Status"].updateValue(*model.data(), text("brand new")));
     EXPECT_THAT(storedStatus(wall), ElementsAre(label("NEW")));
     EXPECT_EQ(shown["Status"].getValue(), "brand new");
+}
+
+TEST_F(SeveralValues, OfTwoValuesWithOneTextTheFirstIsStored)
+{
+    TranslationScope texts;
+    texts.addIn("Host", "Pset.Status.NEW", "Neu");
+    texts.addIn("Host", "Pset.Status.RECENT", "Neu");
+    ShownSet::Options options;
+    options.contexts = {"Host"};
+    ShownSet const shown(SetBuilder("Pset").enumerated("Status", {"EXISTING", "NEW", "RECENT"}).take(),
+                         {wall}, options);
+
+    EXPECT_TRUE(shown["Status"].updateValue(*model.data(), text("Neu")));
+
+    EXPECT_THAT(storedStatus(wall), ElementsAre(label("NEW")));
 }
 
 TEST_F(LocalizedEnumeration, AValueThatIsNoOfferedTextIsStoredAsTyped)

@@ -172,4 +172,15 @@ TEST_F(GridControlPropertyFactoriesTest, AClassThatTheAttributeSchemaDoesNotKnow
     EXPECT_THAT(groupOf(*road, true)->getChildren(), IsEmpty());
 }
 
+TEST_F(GridControlPropertyFactoriesTest, AttributesAreThoseOfOneVersionOfTheStandard)
+{
+    // IFC4X1 is the first version with alignments and the last one without bridges.
+    auto const alignment = model.add<core::productextension::FcAlignment>("A1");
+    auto const bridge = model.add<core::productextension::FcBridge>("B1");
+
+    EXPECT_THAT(namesOf(groupOf(*alignment, true)), Contains("Axis"));
+    EXPECT_THAT(namesOf(groupOf(*alignment, true)), Contains("PredefinedType"));
+    EXPECT_THAT(groupOf(*bridge, true)->getChildren(), IsEmpty());
+}
+
 } // namespace
