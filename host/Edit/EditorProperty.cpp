@@ -2,58 +2,26 @@
 
 #include "Core/Localization/Localize.h"
 #include "Core/Unit/QuantityPresentation.h"
+#include "Object/PropertyText.h"
 #include "Ui/PropertyGrid/PropertyGridNumber.h"
 
 #include <algorithm>
-#include <charconv>
-#include <type_traits>
 #include <utility>
-#include <variant>
 
 namespace qev::ui::edit {
 
 namespace {
 
 using object::PropertyId;
+using object::PropertyText;
 using object::PropertyValue;
 
-/// A value as people read it, without regard to a unit.
-struct TextOfValue
-{
-    std::string operator()(std::monostate) const { return {}; }
-    std::string operator()(bool value) const { return value ? "true" : "false"; }
-    std::string operator()(std::string const& value) const { return value; }
-    std::string operator()(double value) const { return PropertyGridNumber::getShownText(value, nullptr); }
-    template <class Value>
-    std::string operator()(std::optional<Value> const& value) const
-    {
-        return value ? (*this)(*value) : std::string();
-    }
-    template <class Integer>
-    std::string operator()(Integer value) const
-    {
-        return std::to_string(value);
-    }
-};
-
-std::string textOf(PropertyValue const& value) { return std::visit(TextOfValue(), value.variant()); }
-
-bool isUnset(PropertyValue const& value)
-{
-    return value.kind() == PropertyValue::Kind::Nothing || value.isNullopt();
-}
-
-/// Nothing and an optional without a value look the same to people, as do plain and optional kinds.
+/// Values that look the same to people: plain and optional kinds do.
 bool areAlike(PropertyValue const& left, PropertyValue const& right)
 {
-    if (isUnset(left) || isUnset(right))
-        return isUnset(left) && isUnset(right);
+    if (PropertyText::isUnset(left) || PropertyText::isUnset(right))
+        return PropertyText::isUnset(left) && PropertyText::isUnset(right);
     return left.getUnwrappedOptionalValue() == right.getUnwrappedOptionalValue();
-}
-
-bool isOptionalKind(PropertyValue const& value)
-{
-    return value.kind() >= PropertyValue::Kind::OptionalInteger;
 }
 
 std::string_view getLastSegment(PropertyId const& id)
@@ -61,20 +29,6 @@ std::string_view getLastSegment(PropertyId const& id)
     std::string_view const text = id.text();
     auto const dot = text.rfind('.');
     return dot == std::string_view::npos ? text : text.substr(dot + 1);
-}
-
-std::optional<PropertyValue> readInteger(std::string const& text, PropertyValue::Kind kind)
-{
-    auto const read = [&](auto number) -> std::optional<PropertyValue> {
-        auto const* const end = text.data() + text.size();
-        auto const [stop, error] = std::from_chars(text.data(), end, number);
-        if (error != std::errc() || stop != end)
-            return std::nullopt;
-        return PropertyValue(number);
-    };
-    auto const isUnsigned =
-        kind == PropertyValue::Kind::Unsigned || kind == PropertyValue::Kind::OptionalUnsigned;
-    return isUnsigned ? read(std::uint32_t()) : read(int());
 }
 
 bool isEmptyInput(PropertyGridInput const& input)
@@ -202,9 +156,9 @@ std::string EditorProperty::getText() const
     auto const value = getValue();
     if (getKind() == Kind::Choice)
         for (auto const& choice : m_controller.getEnumeratedValues(m_id))
-            if (choice.value && !isUnset(value) && areAlike(*choice.value, value))
+            if (choice.value && !PropertyText::isUnset(value) && areAlike(*choice.value, value))
                 return choice.text;
-    return textOf(value);
+    return PropertyText::getText(value);
 }
 
 std::optional<double> EditorProperty::getNumber() const
@@ -220,7 +174,7 @@ EditorProperty::Choices EditorProperty::getChoices() const
     Choices choices;
     if (!m_objects.empty())
         for (auto const& value : m_objects.front()->getPropertyInterface()->getSuggestedValues(m_id))
-            choices.push_back({textOf(value), value});
+            choices.push_back({PropertyText::getText(value), value});
     return choices;
 }
 
@@ -238,9 +192,9 @@ std::optional<std::string> EditorProperty::findObjection(PropertyGridInput const
     for (auto const& object : m_objects) {
         auto const properties = object->getPropertyInterface();
         auto const value = interpret(input, getLike(properties->getValue(m_id)));
-        if (!value)
+        if (!value && getKind() == Kind::Integer)
             return localize("Input_NotAWholeNumber", "Ui", {input.text});
-        if (!properties->isValueAllowed(m_id, *value))
+        if (!value || !properties->isValueAllowed(m_id, *value))
             return describeRefusal(input);
     }
     return std::nullopt;
@@ -280,11 +234,10 @@ PropertyValue EditorProperty::getLike(PropertyValue const& value) const
         if (auto other = properties->getValue(m_id); other.kind() != PropertyValue::Kind::Nothing)
             return other;
     }
-    // A number that has no value yet may read as nothing; its presentation tells that it is one.
     auto const isNumber = std::any_of(m_objects.begin(), m_objects.end(), [&](auto const& object) {
         return object->getPropertyInterface()->hasQuantityPresentation(m_id);
     });
-    return isNumber ? PropertyValue(std::optional<double>()) : PropertyValue(std::optional<std::string>());
+    return PropertyText::getLike(PropertyValue(), isNumber);
 }
 
 std::optional<PropertyValue> EditorProperty::interpret(PropertyGridInput const& input,
@@ -292,11 +245,12 @@ std::optional<PropertyValue> EditorProperty::interpret(PropertyGridInput const& 
 {
     if (isEmptyInput(input))
         return like.getWrappedOptionalValue(PropertyValue());
-    auto value = getKind() == Kind::Integer ? readInteger(input.text, like.kind()) : interpretPlain(input);
-    return value && isOptionalKind(like) ? like.getWrappedOptionalValue(*value) : value;
+    if (auto const value = findValueOf(input))
+        return PropertyText::bringTo(like, *value);
+    return PropertyText::read(input.text, like, createQuantityPresentation().get());
 }
 
-std::optional<PropertyValue> EditorProperty::interpretPlain(PropertyGridInput const& input) const
+std::optional<PropertyValue> EditorProperty::findValueOf(PropertyGridInput const& input) const
 {
     if (input.checkState)
         return PropertyValue(*input.checkState == CheckState::Checked);
@@ -305,7 +259,7 @@ std::optional<PropertyValue> EditorProperty::interpretPlain(PropertyGridInput co
     for (auto const& choice : getChoices())
         if (choice.text == input.text && choice.value)
             return choice.value->getUnwrappedOptionalValue();
-    return PropertyValue(input.text);
+    return std::nullopt;
 }
 
 std::string EditorProperty::describeRefusal(PropertyGridInput const& input) const

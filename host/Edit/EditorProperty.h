@@ -69,7 +69,8 @@ public:
 
     /// Why \p input is refused, for the user; nothing when all objects take it.
     [[nodiscard]] std::optional<std::string> findObjection(PropertyGridInput const& input) const;
-    /// Gives all objects that can be changed the value that \p input means. \returns what the first was given
+    /// Gives all objects that understand \p input the value that it means for them. \returns what the first
+    /// was given
     PropertyValue write(PropertyGridInput const& input) const;
     /// Lets all objects that hold a value of their own take it over again.
     void reset() const;
@@ -81,7 +82,8 @@ private:
     /// understood.
     [[nodiscard]] std::optional<PropertyValue> interpret(PropertyGridInput const& input,
                                                          PropertyValue const& like) const;
-    [[nodiscard]] std::optional<PropertyValue> interpretPlain(PropertyGridInput const& input) const;
+    /// The value of an input that is more than a typed text; nothing for one that is no more.
+    [[nodiscard]] std::optional<PropertyValue> findValueOf(PropertyGridInput const& input) const;
     [[nodiscard]] std::string describeRefusal(PropertyGridInput const& input) const;
 
     ShownObjects const& m_objects;

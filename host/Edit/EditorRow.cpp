@@ -2,6 +2,7 @@
 
 #include "Core/Localization/Localize.h"
 #include "Core/Unit/QuantityPresentation.h"
+#include "Object/PropertyText.h"
 
 #include <algorithm>
 #include <array>
@@ -80,8 +81,7 @@ std::string getHint(PropertyGridRowState const& state, EditorProperty const& pro
         return localize("Value_Mixed", "Ui");
     if (row.hint)
         return *row.hint;
-    auto const value = property.getValue();
-    auto const isUnset = value.kind() == object::PropertyValue::Kind::Nothing || value.isNullopt();
+    auto const isUnset = object::PropertyText::isUnset(property.getValue());
     return isUnset && !property.isReadOnly() ? localize("Value_NotSet", "Ui") : std::string();
 }
 
