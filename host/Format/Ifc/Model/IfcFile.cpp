@@ -247,16 +247,11 @@ std::uint64_t IfcFile::droppedMessages() const
     return m_source.file().messages().dropped() + m_source.messages().dropped();
 }
 
-bool IfcFile::check(Progress const& progress)
+void IfcFile::check()
 {
-    constexpr std::size_t reportEvery = 65536;
     std::size_t const count = m_source.count();
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         m_source.check(static_cast<fc::EntityIndex>(i), *m_data);
-        if (progress && i % reportEvery == 0 && !progress(i, count))
-            return false;
-    }
-    return true;
 }
 
 step::InstanceId IfcFile::idOf(fc::EntityIndex index) const

@@ -87,8 +87,7 @@ public:
     /// How many messages were only counted, for there were too many.
     [[nodiscard]] std::uint64_t droppedMessages() const;
     /// Reads every record to find out what is wrong with it. Entities made meanwhile are let go again.
-    /// \returns false when \p progress asked to stop.
-    bool check(Progress const& progress = {});
+    void check();
 
     /// The id of an entity's record, also of one that will be new in the file.
     [[nodiscard]] step::InstanceId idOf(fc::EntityIndex index) const;
