@@ -1,5 +1,6 @@
 #include "ListPane.h"
 
+#include "BusyCursor.h"
 #include "Core/Localization/Dictionaries.h"
 #include "FilePath.h"
 #include "FilledDialog.h"
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
@@ -46,22 +46,6 @@ constexpr int classNameLength = 12;
 constexpr int identityLength = 32;
 constexpr std::size_t progressSteps = 1000;
 constexpr auto arrangementGroup = "list/arrangements/";
-
-std::optional<fc::ui::ColumnPropertyNames> getFirstColumn(PropertySetListControl const& control)
-{
-    auto const& columns = control.getColumns();
-    return columns.getColumnCount() > 0 ? std::optional(columns.getColumnNames(0)) : std::nullopt;
-}
-
-/// Shows that the program is at work, for as long as it lives.
-class BusyCursor
-{
-public:
-    BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyCursor() { QApplication::restoreOverrideCursor(); }
-    BusyCursor(BusyCursor const&) = delete;
-    BusyCursor& operator=(BusyCursor const&) = delete;
-};
 
 } // namespace
 
@@ -311,7 +295,7 @@ void ListPane::createControl()
         ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_session.getData(),
         m_dialog, listId, std::make_shared<ShowAllFilter>(), Formatters{nullptr, formatter},
         localization::Dictionaries::getContexts("IFC"), nullptr);
-    m_identity->setFirstColumn([control = m_control.get()] { return getFirstColumn(*control); });
+    m_identity->standBefore(*m_control);
     m_control->itemActivatedHandlers.iHandlerAdd(
         [this](fc::FcBase& object) { fireEvents(onActivated, object.getIndex()); });
     m_dialog->onSizeChanged(m_dialog->getClientAreaSize());

@@ -1,8 +1,21 @@
 #include "IdentityColumns.h"
 
 #include "FoundationClasses/FcBase.h"
+#include "UI/FoundationClasses/Controls/ListControl/PropertySetListControl.h"
 
 namespace qev::application {
+
+namespace {
+
+/// The names of the first column that is there already.
+std::optional<fc::ui::ColumnPropertyNames> firstColumnOf(fc::ui::PropertySetListControl const* control)
+{
+    if (!control || control->getColumns().getColumnCount() == 0)
+        return std::nullopt;
+    return control->getColumns().getColumnNames(0);
+}
+
+} // namespace
 
 void IdentityColumns::setObject(std::shared_ptr<fc::Data>, std::shared_ptr<fc::FcBase> object)
 {
@@ -22,7 +35,7 @@ std::optional<bool> IdentityColumns::isPropertyToBeHiddenByDefault(std::string c
 
 std::optional<std::vector<IdentityColumns::CustomColumn>> IdentityColumns::getCustomColumns() const
 {
-    auto const first = m_firstColumn ? m_firstColumn() : std::nullopt;
+    auto const first = firstColumnOf(m_control);
     CustomColumn const globalIdColumn{globalId, globalId, first};
     CustomColumn const nameColumn{name, name, first};
     // Columns without a place come out in reverse.

@@ -2,11 +2,14 @@
 
 #include "UI/FoundationClasses/Controls/Formatters/ListControlPropertyFormatterStrategyInterface.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+namespace qev::fc::ui {
+class PropertySetListControl;
+}
 
 namespace qev::application {
 
@@ -17,10 +20,8 @@ public:
     static constexpr char globalId[] = "GlobalId";
     static constexpr char name[] = "Name";
 
-    /// Tells the names of the first column that is there already; nothing when there is none.
-    using FirstColumn = std::function<std::optional<fc::ui::ColumnPropertyNames>()>;
-
-    void setFirstColumn(FirstColumn firstColumn) { m_firstColumn = std::move(firstColumn); }
+    /// The list whose columns these stand before; it has them among its strategies, and so outlives them.
+    void standBefore(fc::ui::PropertySetListControl const& control) { m_control = &control; }
 
     void setObject(std::shared_ptr<fc::Data>, std::shared_ptr<fc::FcBase> object) override;
     void setListControl(std::shared_ptr<ui::ListControl> const&) override {}
@@ -35,7 +36,7 @@ public:
     getCustomColumnItemString(std::string const& columnId) const override;
 
 private:
-    FirstColumn m_firstColumn;
+    fc::ui::PropertySetListControl const* m_control = nullptr;
     std::shared_ptr<fc::FcBase> m_object;
 };
 

@@ -14,7 +14,6 @@ namespace qev::application {
 
 namespace {
 
-using fc::ui::ColumnPropertyNames;
 using fc::ui::FcPropertySingleValue;
 using fc::ui::PropertySetListControl;
 using Factory = ui::details::WindowInterfaceFactory;
@@ -27,12 +26,6 @@ std::string unitOf(fc::ui::PropertyInterface const* property)
     auto const* const single = dynamic_cast<FcPropertySingleValue const*>(property);
     auto const presentation = single ? single->quantityPresentation() : nullptr;
     return presentation ? std::string(presentation->settings().displayUnit().symbol()) : std::string();
-}
-
-std::optional<ColumnPropertyNames> firstColumnOf(PropertySetListControl const& control)
-{
-    auto const& columns = control.getColumns();
-    return columns.getColumnCount() > 0 ? std::optional(columns.getColumnNames(0)) : std::nullopt;
 }
 
 } // namespace
@@ -65,7 +58,7 @@ ListSession::ListSession(std::shared_ptr<fc::Data> data, std::vector<std::string
         ifc::SchemaLoader::curr().pSchemaFromName(ifc::SchemaLoader::modelVersion), m_data, m_dialog, listId,
         std::make_shared<ListColumnFilter>(std::move(columns)), Formatters{nullptr, formatter},
         localization::Dictionaries::getContexts("IFC"), nullptr);
-    identity->setFirstColumn([control = m_control.get()] { return firstColumnOf(*control); });
+    identity->standBefore(*m_control);
 }
 
 ListSession::~ListSession() = default;
