@@ -1,14 +1,17 @@
 #include "FileActions.h"
 
 #include "ActionMenu.h"
+#include "BusyCursor.h"
 #include "FilePath.h"
 #include "RecentFiles.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/ProgressBarInterface.h"
 
-#include <QApplication>
+#include <functional>
+#include <memory>
 #include <QFileInfo>
+#include <string>
 
 namespace qev::application {
 
@@ -20,6 +23,29 @@ using ui::fromQString;
 using ui::toQString;
 
 QString getFileName(InspectorSession const& session) { return fromPath(session.getPath().filename()); }
+
+/// A progress bar over a work that tells how many bytes it has done.
+class ByteProgress
+{
+public:
+    explicit ByteProgress(QString const& title)
+        : m_title(fromQString(title))
+        , m_bar(ui::ProgressBarInterface::create(m_title))
+    {
+    }
+
+    /// Tells the bar of the work; false once the user has asked to stop.
+    bool operator()(std::uint64_t done, std::uint64_t total) const
+    {
+        if (total > 0)
+            m_bar->setProgress(static_cast<double>(done) / static_cast<double>(total), m_title);
+        return !m_bar->isCancelled();
+    }
+
+private:
+    std::string m_title;
+    std::unique_ptr<ui::ProgressBarInterface> m_bar;
+};
 
 } // namespace
 
@@ -49,10 +75,8 @@ bool FileActions::open(QString const& path)
 {
     if (!mayLeave())
         return false;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     fireEvents(onLeaving);
     auto const isOpen = openWithProgress(path);
-    QApplication::restoreOverrideCursor();
     fireEvents(onShown);
     if (isOpen)
         RecentFiles::add(path);
@@ -63,13 +87,23 @@ bool FileActions::open(QString const& path)
 
 bool FileActions::openWithProgress(QString const& path)
 {
-    auto const text = fromQString(getText("File_Opening", {QFileInfo(path).fileName()}));
-    auto const progress = ui::ProgressBarInterface::create(text);
-    return m_session.open(toPath(path), [&](std::uint64_t done, std::uint64_t total) {
-        if (total > 0)
-            progress->setProgress(static_cast<double>(done) / static_cast<double>(total), text);
-        return !progress->isCancelled();
-    });
+    BusyCursor const busy;
+    ByteProgress const progress(getText("File_Opening", {QFileInfo(path).fileName()}));
+    return m_session.open(toPath(path), std::cref(progress));
+}
+
+ifc::SaveResult FileActions::saveWithProgress(StepPatch::IfChanged ifChanged)
+{
+    BusyCursor const busy;
+    ByteProgress const progress(getText("File_Saving", {getFileName(m_session)}));
+    return m_session.save(ifChanged, std::cref(progress));
+}
+
+ifc::SaveResult FileActions::saveWithProgress(QString const& path)
+{
+    BusyCursor const busy;
+    ByteProgress const progress(getText("File_Saving", {QFileInfo(path).fileName()}));
+    return m_session.saveAs(toPath(path), std::cref(progress));
 }
 
 bool FileActions::close()
@@ -86,11 +120,11 @@ bool FileActions::save()
 {
     if (!m_session.isOpen())
         return false;
-    auto result = m_session.save();
+    auto result = saveWithProgress(StepPatch::IfChanged::Refuse);
     if (result.status == StepSaveResult::Status::ChangedMeanwhile) {
         if (!m_questions.overwriteChanged(getFileName(m_session)))
             return false;
-        result = m_session.save(StepPatch::IfChanged::Overwrite);
+        result = saveWithProgress(StepPatch::IfChanged::Overwrite);
     }
     return finishSave(result);
 }
@@ -100,7 +134,7 @@ bool FileActions::saveAs()
     if (!m_session.isOpen())
         return false;
     auto const path = m_questions.pathToSave(fromPath(m_session.getPath()));
-    if (path.isEmpty() || !finishSave(m_session.saveAs(toPath(path))))
+    if (path.isEmpty() || !finishSave(saveWithProgress(path)))
         return false;
     RecentFiles::add(path);
     return true;

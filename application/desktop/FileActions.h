@@ -46,6 +46,8 @@ private:
     void fillRecentMenu();
     void choose();
     bool openWithProgress(QString const& path);
+    ifc::SaveResult saveWithProgress(step::StepPatch::IfChanged ifChanged);
+    ifc::SaveResult saveWithProgress(QString const& path);
     bool finishSave(ifc::SaveResult const& result);
     void tellOpeningFailed(QString const& path);
 

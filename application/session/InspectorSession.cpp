@@ -82,21 +82,23 @@ void InspectorSession::redo()
         m_file->data()->changes().redo();
 }
 
-ifc::SaveResult InspectorSession::save(StepPatch::IfChanged ifChanged)
+ifc::SaveResult InspectorSession::save(StepPatch::IfChanged ifChanged, ifc::IfcFile::Progress const& progress)
 {
-    return saveTo(getPath(), ifChanged);
+    return saveTo(getPath(), ifChanged, progress);
 }
 
-ifc::SaveResult InspectorSession::saveAs(std::filesystem::path const& path)
+ifc::SaveResult InspectorSession::saveAs(std::filesystem::path const& path,
+                                         ifc::IfcFile::Progress const& progress)
 {
     // Whoever names a file that is there has agreed to replace it.
-    return saveTo(path, StepPatch::IfChanged::Overwrite);
+    return saveTo(path, StepPatch::IfChanged::Overwrite, progress);
 }
 
-ifc::SaveResult InspectorSession::saveTo(std::filesystem::path const& path, StepPatch::IfChanged ifChanged)
+ifc::SaveResult InspectorSession::saveTo(std::filesystem::path const& path, StepPatch::IfChanged ifChanged,
+                                         ifc::IfcFile::Progress const& progress)
 {
     if (m_file)
-        return m_file->save(path, ifChanged);
+        return m_file->save(path, ifChanged, progress);
     ifc::SaveResult result;
     result.status = StepSaveResult::Status::Failed;
     result.text = "No file is open.";

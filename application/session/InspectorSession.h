@@ -57,16 +57,18 @@ public:
     void redo();
 
     /// Saves to where the file is. Another program's changes since are only overwritten when \p ifChanged
-    /// says so.
-    ifc::SaveResult save(step::StepPatch::IfChanged ifChanged = step::StepPatch::IfChanged::Refuse);
+    /// says so. When \p progress asks to stop, file and model stay as they were.
+    ifc::SaveResult save(step::StepPatch::IfChanged ifChanged = step::StepPatch::IfChanged::Refuse,
+                         ifc::IfcFile::Progress const& progress = {});
     /// Saves to another place, which is the place of the file from then on.
-    ifc::SaveResult saveAs(std::filesystem::path const& path);
+    ifc::SaveResult saveAs(std::filesystem::path const& path, ifc::IfcFile::Progress const& progress = {});
 
     /// Fired after each change of the model, with the places of the entities touched.
     EventHandlerContainer<void, void, std::vector<fc::EntityIndex> const&> onModelChanged;
 
 private:
-    ifc::SaveResult saveTo(std::filesystem::path const& path, step::StepPatch::IfChanged ifChanged);
+    ifc::SaveResult saveTo(std::filesystem::path const& path, step::StepPatch::IfChanged ifChanged,
+                           ifc::IfcFile::Progress const& progress);
     void replaceFile(std::unique_ptr<ifc::IfcFile> file);
 
     std::unique_ptr<ifc::IfcFile> m_file;

@@ -8,6 +8,7 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QProgressDialog>
 #include <QUrl>
 
 namespace qev::test {
@@ -105,6 +106,41 @@ TEST_F(MainWindowTest, SaveOnLeavingSaves)
     leave = FileQuestions::Leave::Save;
     EXPECT_TRUE(window->close());
     EXPECT_THAT(readFile(path), HasSubstr("F90"));
+}
+
+/// Presses the button of every progress bar as soon as it is there.
+class Impatience final : public QObject
+{
+public:
+    Impatience() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (auto* const bar = qobject_cast<QProgressDialog*>(watched);
+            bar && event->type() == QEvent::WindowTitleChange)
+            bar->cancel();
+        return false;
+    }
+};
+
+TEST_F(MainWindowTest, ALargeFileCanBeKeptFromBeingSaved)
+{
+    std::string building(smallBuilding);
+    building.insert(building.find("#1="), "/*" + std::string(std::size_t{17} << 20, ' ') + "*/\n");
+    folder.write("small.ifc", building);
+    editEastWall();
+    pathToSave = QString::fromStdString((folder.path() / "other.ifc").string());
+    {
+        Impatience const user;
+        EXPECT_FALSE(window->getFileActions().save());
+        EXPECT_FALSE(window->getFileActions().saveAs());
+    }
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_TRUE(readFile(path) == building);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "other.ifc"));
+    EXPECT_THAT(asked, IsEmpty());
+    EXPECT_TRUE(window->getFileActions().save());
+    EXPECT_FALSE(window->isWindowModified());
 }
 
 TEST_F(MainWindowTest, ChangesOfAnotherProgramAreAskedAboutOnSave)

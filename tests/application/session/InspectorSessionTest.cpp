@@ -148,6 +148,28 @@ TEST_F(InspectorSessionTest, FileThatAnotherProgramChangedIsOnlyOverwrittenOnDem
     EXPECT_TRUE(session.save().saved());
 }
 
+TEST_F(InspectorSessionTest, SaveThatIsCancelledLeavesFileAndModelAsTheyWere)
+{
+    auto const text = "/*" + std::string(std::size_t{17} << 20, ' ') + "*/\n";
+    std::string building(smallBuilding);
+    building.insert(building.find("#1="), text);
+    ASSERT_TRUE(session.open(folder.write("small.ifc", building)));
+    setFireRating("F90");
+    auto const stop = [](std::uint64_t, std::uint64_t) { return false; };
+    EXPECT_EQ(session.save(step::StepPatch::IfChanged::Refuse, stop).status,
+              StepSaveResult::Status::Cancelled);
+    EXPECT_EQ(session.saveAs(folder.path() / "other.ifc", stop).status, StepSaveResult::Status::Cancelled);
+    EXPECT_TRUE(readFile(path) == building);
+    EXPECT_EQ(folder.entryCount(), 1u);
+    EXPECT_EQ(session.getPath(), path);
+    EXPECT_TRUE(session.isModified());
+
+    EXPECT_TRUE(session.save().saved());
+    session.undo();
+    EXPECT_TRUE(session.save().saved());
+    EXPECT_TRUE(readFile(path) == building);
+}
+
 TEST_F(InspectorSessionTest, SaveAsMovesOnToTheNewFile)
 {
     auto const other = folder.path() / "other.ifc";

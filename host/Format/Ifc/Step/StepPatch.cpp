@@ -230,16 +230,21 @@ StepSaveResult StepPatch::save(StepFile& file, StepPatch const& patch, std::file
         return changed;
 
     platform::AtomicFileWriter writer(target);
+    constexpr std::uint64_t step = std::uint64_t{16} << 20;
     std::uint64_t done = 0;
+    std::uint64_t nextReport = step;
     bool cancelled = false;
+    // The parts between many small changes are small too, so steps are counted over all of them.
     patch.write([&](std::string_view part) {
-        constexpr std::size_t step = std::size_t{16} << 20;
         while (!part.empty() && !cancelled && !writer.failed()) {
-            std::string_view const piece = part.substr(0, step);
+            std::string_view const piece = part.substr(0, nextReport - done);
             writer.write(piece);
             part.remove_prefix(piece.size());
             done += piece.size();
-            cancelled = piece.size() == step && progress && !progress(done, file.bytes().size());
+            if (done < nextReport)
+                continue;
+            nextReport += step;
+            cancelled = progress && !progress(done, file.bytes().size());
         }
     });
     if (cancelled)

@@ -224,5 +224,23 @@ TEST_F(StepPatchSave, CanBeCancelledAndLeavesTheOldFile)
     EXPECT_EQ(folder.entryCount(), 1U);
 }
 
+TEST_F(StepPatchSave, CanBeCancelledBetweenChangesToo)
+{
+    std::string records;
+    for (int id = 1; id <= 2; ++id)
+        records +=
+            "#" + std::to_string(id) + "=IFCWALL('" + std::string(std::size_t{9} << 20, 'x') + "','mark');\n";
+    std::string const text = fileText(records);
+    open(text);
+    StepPatch patch(*file);
+    std::pair<std::size_t, std::string> const change{1, "'another mark'"};
+    ASSERT_TRUE(patch.replaceArguments(0, {&change, 1}));
+    ASSERT_TRUE(patch.replaceArguments(1, {&change, 1}));
+    StepSaveResult const result = StepPatch::save(*file, patch, path, StepPatch::IfChanged::Refuse,
+                                                  [](std::uint64_t, std::uint64_t) { return false; });
+    EXPECT_EQ(result.status, StepSaveResult::Status::Cancelled);
+    EXPECT_TRUE(readFile(path) == text);
+}
+
 } // namespace
 } // namespace qev::step
