@@ -55,7 +55,7 @@ MainWindow::MainWindow(std::shared_ptr<ui::QtBackend> backend)
     , m_fileText(new QLabel)
     , m_fileActions(m_session, *this)
     , m_editActions(m_session, *m_search, *m_structureDock)
-    , m_viewActions(*m_properties, {m_structureDock, m_messagesDock})
+    , m_viewActions(*m_properties, [this] { return getVisibleGrid(); }, {m_structureDock, m_messagesDock})
     , m_settingsActions(*this)
 {
     setAcceptDrops(true);
@@ -159,6 +159,13 @@ void MainWindow::showList(bool shown)
     m_views->setCurrentWidget(shown ? static_cast<QWidget*>(m_list) : m_properties);
 }
 
+ui::QtPropertyGrid* MainWindow::getVisibleGrid() const
+{
+    if (m_views->currentWidget() == m_editor)
+        return m_editor->getGrid();
+    return m_views->currentWidget() == m_properties ? m_properties->getGrid() : nullptr;
+}
+
 void MainWindow::showEditor() { m_views->setCurrentWidget(m_editor); }
 
 void MainWindow::createViews()
@@ -172,6 +179,7 @@ void MainWindow::createViews()
         // An edit in another view may have changed what stands here.
         if (m_views->currentWidget() == m_properties)
             m_properties->showSelection();
+        m_viewActions.update();
     });
     m_editor->onGoTo.iHandlerAdd([this](std::string const& globalId) { selectObject(toQString(globalId)); });
     m_properties->onCurrentRowChanged.iHandlerAdd([this] { updateNote(); });

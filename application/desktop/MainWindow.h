@@ -17,7 +17,8 @@
 
 namespace qev::ui {
 class QtBackend;
-}
+class QtPropertyGrid;
+} // namespace qev::ui
 
 namespace qev::application {
 
@@ -28,8 +29,8 @@ class PropertyPane;
 class SearchPanel;
 class StructureModel;
 
-/// The window of the program: the structure of the building, the properties of the selected object or many
-/// objects as a list, and the messages of the file.
+/// The window of the program: the structure of the building, the properties of the selected object, the
+/// object editor or many objects as a list, and the messages of the file.
 ///
 /// It brings the panels together; what the menus do stands in `FileActions`, `EditActions`, `ViewActions` and
 /// `SettingsActions`.
@@ -89,6 +90,8 @@ private:
     void updateTexts();
     void updateNote();
     void updateMessages();
+    /// The grid of the tab in front; null where there is none.
+    [[nodiscard]] ui::QtPropertyGrid* getVisibleGrid() const;
 
     std::shared_ptr<ui::QtBackend> m_backend;
     InspectorSession m_session;

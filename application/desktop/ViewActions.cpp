@@ -15,8 +15,10 @@ constexpr auto showUnusedKey = "view/showUnused";
 
 } // namespace
 
-ViewActions::ViewActions(PropertyPane& properties, std::vector<QDockWidget*> docks)
+ViewActions::ViewActions(PropertyPane& properties, GridFunction getVisibleGrid,
+                         std::vector<QDockWidget*> docks)
     : m_properties(properties)
+    , m_getVisibleGrid(std::move(getVisibleGrid))
     , m_docks(std::move(docks))
 {
 }
@@ -45,7 +47,7 @@ void ViewActions::fill(QMenu& menu, LiveTexts& texts)
 void ViewActions::update()
 {
     for (auto* const action : {m_expandAll, m_collapseAll})
-        action->setEnabled(m_properties.getGrid() != nullptr);
+        action->setEnabled(m_getVisibleGrid() != nullptr);
 }
 
 void ViewActions::restore() { m_showUnused->setChecked(QSettings().value(showUnusedKey, true).toBool()); }
@@ -54,7 +56,7 @@ void ViewActions::store() const { QSettings().setValue(showUnusedKey, m_showUnus
 
 void ViewActions::setAllFolded(bool folded)
 {
-    if (auto* const grid = m_properties.getGrid())
+    if (auto* const grid = m_getVisibleGrid())
         grid->getView().setAllFolded(folded);
 }
 

@@ -3,6 +3,7 @@
 #include "LiveTexts.h"
 #include "PropertyPane.h"
 
+#include <functional>
 #include <QAction>
 #include <QDockWidget>
 #include <QMenu>
@@ -15,8 +16,12 @@ namespace qev::application {
 class ViewActions final : public QObject
 {
 public:
-    /// Acts on \p properties and shows and hides \p docks. All live longer than the actions.
-    ViewActions(PropertyPane& properties, std::vector<QDockWidget*> docks);
+    /// Gives the grid in front; null while there is none.
+    using GridFunction = std::function<ui::QtPropertyGrid*()>;
+
+    /// Acts on \p properties and on the grid in front, and shows and hides \p docks. All live longer than the
+    /// actions.
+    ViewActions(PropertyPane& properties, GridFunction getVisibleGrid, std::vector<QDockWidget*> docks);
     ~ViewActions() override;
 
     void fill(QMenu& menu, LiveTexts& texts);
@@ -31,6 +36,7 @@ private:
     void setAllFolded(bool folded);
 
     PropertyPane& m_properties;
+    GridFunction m_getVisibleGrid;
     std::vector<QDockWidget*> m_docks;
     QAction* m_showUnused = nullptr;
     QAction* m_expandAll = nullptr;

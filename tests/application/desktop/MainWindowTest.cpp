@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "EntityEditPane.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
 #include "InspectorWindow.h"
 #include "ListPane.h"
@@ -29,6 +30,20 @@ protected:
         ASSERT_TRUE(fireRating().isValid());
         typeInto(fireRating(), "F90");
     }
+
+    /// How many rows of \p view below \p parent have rows of their own, and how many of these are folded.
+    static int countGroups(QTreeView const& view, QModelIndex const& parent = {}, bool foldedOnly = false)
+    {
+        int count = 0;
+        for (int i = 0; i < view.model()->rowCount(parent); ++i) {
+            auto const index = view.model()->index(i, 0, parent);
+            if (!view.model()->hasChildren(index))
+                continue;
+            count += countGroups(view, index, foldedOnly) + (foldedOnly && view.isExpanded(index) ? 0 : 1);
+        }
+        return count;
+    }
+    static int countFolded(QTreeView const& view) { return countGroups(view, {}, true); }
 };
 
 TEST_F(MainWindowTest, SaysWhatToDoWhileThereIsNothingToShow)
@@ -246,6 +261,33 @@ TEST_F(MainWindowTest, FoldedGroupsStayFoldedInTheNextRun)
     window->selectObject(westWall);
     EXPECT_FALSE(view().isExpanded(row({"Pset_WallCommon"})));
     EXPECT_TRUE(view().isExpanded(row({"IfcWall"})));
+}
+
+TEST_F(MainWindowTest, AllGroupsOfTheViewInFrontAreFoldedAndUnfolded)
+{
+    open();
+    window->selectObject(eastWall);
+    auto const foldAll = [this] {
+        QTest::keyClick(window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    };
+    auto const unfoldAll = [this] {
+        QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+    };
+    window->showEditor();
+    auto const& editor = window->getEditor().getGrid()->getView();
+    unfoldAll();
+    EXPECT_EQ(countFolded(editor), 0);
+    foldAll();
+    EXPECT_EQ(countFolded(editor), countGroups(editor));
+    EXPECT_GT(countGroups(editor), editor.model()->rowCount()) << "no groups within groups";
+    EXPECT_LT(countFolded(view()), countGroups(view())) << "The view behind it is left alone.";
+
+    window->showList(false);
+    foldAll();
+    EXPECT_EQ(countFolded(view()), countGroups(view()));
+    unfoldAll();
+    EXPECT_EQ(countFolded(view()), 0);
+    EXPECT_EQ(countFolded(editor), countGroups(editor));
 }
 
 TEST_F(MainWindowTest, PropertiesWithoutAValueSaySo)

@@ -129,10 +129,18 @@ void QtPropertyGridView::setFolded(std::set<Path> folded)
         dressRow(m_rows.index(position, nameColumn));
 }
 
-void QtPropertyGridView::setAllFolded(bool folded)
+void QtPropertyGridView::setAllFolded(bool folded) { setAllFolded(QModelIndex(), folded); }
+
+void QtPropertyGridView::setAllFolded(QModelIndex const& parent, bool folded)
 {
-    for (int position = 0; position < m_rows.rowCount(); ++position)
-        setExpanded(m_rows.index(position, nameColumn), !folded);
+    for (int position = 0; position < m_rows.rowCount(parent); ++position) {
+        auto const index = m_rows.index(position, nameColumn, parent);
+        if (m_rows.rowCount(index) == 0)
+            continue;
+        // From below, so that nothing is laid out that an outer group then hides or shows as a whole.
+        setAllFolded(index, folded);
+        setExpanded(index, !folded);
+    }
 }
 
 QModelIndexList QtPropertyGridView::getSelectedRows() const

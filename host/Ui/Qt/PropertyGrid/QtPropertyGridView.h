@@ -37,7 +37,7 @@ public:
     /// The names down to each row that the user has folded, whether the row is there at present or not.
     [[nodiscard]] std::set<std::vector<std::string>> const& getFolded() const { return m_folded; }
     void setFolded(std::set<std::vector<std::string>> folded);
-    /// Folds or unfolds all groups there are.
+    /// Folds or unfolds all groups there are, and those within them.
     void setAllFolded(bool folded);
     /// Copies the selected rows to the clipboard.
     void copySelection();
@@ -94,6 +94,7 @@ private:
     /// The steps from the top level down to one row.
     using Place = std::vector<Step>;
 
+    void setAllFolded(QModelIndex const& parent, bool folded);
     [[nodiscard]] static Path getPath(QModelIndex const& index);
     [[nodiscard]] Place getPlace(QModelIndex const& index) const;
     [[nodiscard]] QModelIndex findIndex(Place const& place) const;
