@@ -9,7 +9,6 @@
 #include "ListWorkbook.h"
 #endif
 
-#include <system_error>
 #include <utility>
 
 namespace qev::application {
@@ -68,17 +67,6 @@ WorkbookCell cellOf(ui::ListControl& list, std::size_t row, ListColumn const& co
     return WorkbookCell::ofText(std::move(text));
 }
 
-/// Puts the finished file \p from in the place of \p to.
-std::optional<std::string> replaceFile(std::filesystem::path const& from, std::filesystem::path const& to)
-{
-    std::error_code error;
-    std::filesystem::rename(from, to, error);
-    if (!error)
-        return std::nullopt;
-    std::filesystem::remove(from, error);
-    return "The file cannot be made.";
-}
-
 } // namespace
 
 bool ListExport::canWriteWorkbooks() { return true; }
@@ -87,10 +75,10 @@ std::optional<std::string> ListExport::writeWorkbook(std::filesystem::path const
                                                      std::string const& sheetName,
                                                      Progress const& progress) const
 {
-    // The file that is there stays as it is until the new one is whole.
-    auto beside = path;
-    beside += ".part";
-    ListWorkbook workbook(beside, sheetName, getHeaders());
+    platform::AtomicFileWriter file(path);
+    if (file.failed())
+        return file.error();
+    ListWorkbook workbook(file.temporaryPath(), sheetName, getHeaders());
     bool isStopped = false;
     for (std::size_t i = 0; i < m_rows.size() && !isStopped; ++i) {
         auto texts = tableRow(m_list, m_rows[i], m_columns);
@@ -101,11 +89,11 @@ std::optional<std::string> ListExport::writeWorkbook(std::filesystem::path const
         isStopped = progress && !progress(i + 1, m_rows.size());
     }
     auto const problem = workbook.finish();
-    if (!problem && !isStopped)
-        return replaceFile(beside, path);
-    std::error_code ignored;
-    std::filesystem::remove(beside, ignored);
-    return isStopped ? std::nullopt : problem;
+    if (isStopped)
+        return std::nullopt;
+    if (problem)
+        return problem;
+    return file.commit() ? std::nullopt : std::optional(file.error());
 }
 
 #else

@@ -126,7 +126,7 @@ void ListWorkbook::addRow(std::vector<WorkbookCell> const& cells)
 std::optional<std::string> ListWorkbook::finish()
 {
     if (!m_state->workbook)
-        return "The file cannot be made.";
+        return lxw_strerror(LXW_ERROR_MEMORY_MALLOC_FAILED);
     if (m_state->columnCount > 0)
         worksheet_autofilter(m_state->sheet, 0, 0, m_state->rowCount,
                              static_cast<lxw_col_t>(m_state->columnCount - 1));

@@ -87,6 +87,8 @@ public:
         return reasonOf(EEXIST);
     }
 
+    [[nodiscard]] std::filesystem::path const& path() const { return m_path; }
+
     std::string write(std::string_view bytes)
     {
         while (!bytes.empty()) {
@@ -191,6 +193,8 @@ public:
         return {};
     }
 
+    [[nodiscard]] std::filesystem::path const& path() const { return m_path; }
+
     std::string write(std::string_view bytes)
     {
         m_file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -248,6 +252,8 @@ void AtomicFileWriter::write(std::string_view bytes)
     if (std::string const reason = m_file->write(bytes); !reason.empty())
         fail("write", reason);
 }
+
+std::filesystem::path const& AtomicFileWriter::temporaryPath() const { return m_file->path(); }
 
 bool AtomicFileWriter::commit()
 {

@@ -37,6 +37,10 @@ public:
     /// Appends \p bytes. After a failure nothing more is written, and `commit` fails.
     void write(std::string_view bytes);
 
+    /// The temporary file, for code that writes files by itself in place of `write`. There until `commit`;
+    /// empty after a failure.
+    [[nodiscard]] std::filesystem::path const& temporaryPath() const;
+
     /// Flushes and replaces the target. \returns false on any failure since construction.
     bool commit();
 

@@ -8,11 +8,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string_view>
+#include <system_error>
 
 namespace qev::test {
 namespace {
 
 using namespace application;
+using testing::AllOf;
 using testing::HasSubstr;
 
 /// A wall that is called like a number, with values of several kinds.
@@ -80,13 +82,26 @@ TEST_F(ListExportTest, AnExportThatIsStoppedLeavesTheOldFile)
     EXPECT_EQ(makeExport().writeCsv(folder.path() / "list.csv", stop), std::nullopt);
     EXPECT_EQ(std::filesystem::file_size(path), 3u);
     EXPECT_EQ(std::filesystem::file_size(folder.path() / "list.csv"), 3u);
-    EXPECT_FALSE(std::filesystem::exists(folder.path() / "list.xlsx.part"));
+    EXPECT_EQ(folder.entryCount(), 2u);
 }
 
 TEST_F(ListExportTest, AFileThatCannotBeWrittenIsTold)
 {
-    EXPECT_NE(makeExport().writeWorkbook(folder.path() / "missing" / "list.xlsx", "IfcWall"), std::nullopt);
-    EXPECT_NE(makeExport().writeCsv(folder.path() / "missing" / "list.csv"), std::nullopt);
+    auto const reason = std::make_error_code(std::errc::no_such_file_or_directory).message();
+    auto const csv = makeExport().writeCsv(folder.path() / "missing" / "list.csv");
+    auto const workbook = makeExport().writeWorkbook(folder.path() / "missing" / "list.xlsx", "IfcWall");
+    EXPECT_THAT(csv.value_or(""), AllOf(HasSubstr("list.csv"), HasSubstr(reason)));
+    EXPECT_THAT(workbook.value_or(""), AllOf(HasSubstr("list.xlsx"), HasSubstr(reason)));
+}
+
+TEST_F(ListExportTest, FilesOfTheUserBesideAWorkbookStay)
+{
+    folder.write("list.xlsx", "old");
+    folder.write("list.xlsx.part", "the user's");
+    EXPECT_EQ(makeExport().writeWorkbook(path, "IfcWall"), std::nullopt);
+    EXPECT_THAT(sheet(), HasSubstr("<t>007</t>"));
+    EXPECT_EQ(readFile(folder.path() / "list.xlsx.part"), "the user's");
+    EXPECT_EQ(folder.entryCount(), 2u);
 }
 
 } // namespace
