@@ -40,6 +40,23 @@ void tellSharedSets(ifc::IfcFile const& file, ListTable const& table, ImportResu
     }
 }
 
+char const* textOf(ImportRefusal::Reason reason)
+{
+    switch (reason) {
+    case ImportRefusal::Reason::NoSuchObject:
+        return "there is no object with this GlobalId";
+    case ImportRefusal::Reason::NoSuchProperty:
+        return "the object has and may have no such property";
+    case ImportRefusal::Reason::NotEditable:
+        return "it cannot be edited here";
+    case ImportRefusal::Reason::NotAnEntry:
+        return "it is none of the values to choose from";
+    case ImportRefusal::Reason::NotTaken:
+        break;
+    }
+    return "it is no value for this property";
+}
+
 void printRefusals(ImportResult const& result)
 {
     for (ImportRefusal const& refusal : result.refusals) {
@@ -49,7 +66,7 @@ void printRefusals(ImportResult const& result)
         std::cout << ", " << refusal.globalId;
         if (!refusal.column.empty())
             std::cout << ": '" << onOneLine(refusal.text) << "'";
-        std::cout << ": " << refusal.reason << '\n';
+        std::cout << ": " << textOf(refusal.reason) << '\n';
     }
 }
 

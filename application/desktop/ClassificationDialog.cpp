@@ -1,11 +1,11 @@
 #include "ClassificationDialog.h"
 
+#include "DialogButtons.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
 #include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -33,10 +33,8 @@ ClassificationDialog::ClassificationDialog(classification::ClassificationSystem 
     m_description->setMinimumHeight(2 * fontMetrics().lineSpacing());
     m_description->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* const buttons = makeButtons(*this);
     m_ok = buttons->button(QDialogButtonBox::Ok);
-    m_ok->setText(getText("Button_Ok"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(getText("Button_Cancel"));
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(m_search);
     layout->addWidget(m_tree);
@@ -47,8 +45,6 @@ ClassificationDialog::ClassificationDialog(classification::ClassificationSystem 
     connect(m_search, &QLineEdit::textChanged, this, &ClassificationDialog::search);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &ClassificationDialog::showChosen);
     connect(m_tree, &QTreeWidget::itemActivated, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     resize(fontMetrics().averageCharWidth() * 80, fontMetrics().height() * 32);
     m_tree->expandAll();

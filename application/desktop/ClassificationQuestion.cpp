@@ -1,10 +1,9 @@
 #include "ClassificationQuestion.h"
 
 #include "ClassificationDialog.h"
+#include "DialogButtons.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
-
-#include <QInputDialog>
 
 namespace qev::application {
 
@@ -28,12 +27,9 @@ std::vector<std::string> ClassificationQuestion::show(classification::Classifica
         return dialog.exec() == QDialog::Accepted ? dialog.getChosenPath() : std::vector<std::string>();
     }
     // A plug-in that does not tell its codes: the user has to know them.
-    bool isAccepted = false;
-    auto const code = QInputDialog::getText(
-        &m_window, getText("Classification_Title", {toQString(system.getKey())}),
-        getText("Classification_Code"), QLineEdit::Normal, toQString(selectedCode), &isAccepted);
-    return isAccepted && !code.trimmed().isEmpty() ? std::vector{fromQString(code.trimmed())}
-                                                   : std::vector<std::string>();
+    auto const code = askForText(m_window, getText("Classification_Title", {toQString(system.getKey())}),
+                                 getText("Classification_Code"), toQString(selectedCode));
+    return code.isEmpty() ? std::vector<std::string>() : std::vector{fromQString(code)};
 }
 
 } // namespace qev::application

@@ -1,9 +1,9 @@
 #include "FileQuestions.h"
 
+#include "DialogButtons.h"
 #include "Texts.h"
 
 #include <QFileDialog>
-#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -46,11 +46,7 @@ FileQuestions FileQuestions::asDialogs(QWidget& window)
         return askAboutOverwriting(window, fileName);
     };
     questions.tellProblem = [&window](QString const& text, QString const& details) {
-        QMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), text,
-                        QMessageBox::NoButton, &window);
-        box.addButton(getText("Button_Ok"), QMessageBox::AcceptRole);
-        box.setInformativeText(details);
-        box.exec();
+        showMessage(window, QMessageBox::Warning, text, details);
     };
     questions.pathToOpen = [&window](QString const& folder) {
         return QFileDialog::getOpenFileName(&window, getText("Question_OpenTitle"), folder,

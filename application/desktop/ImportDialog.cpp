@@ -1,11 +1,12 @@
 #include "ImportDialog.h"
 
+#include "DialogButtons.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
-#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace qev::application {
@@ -24,6 +25,23 @@ QTreeWidget* makeTable(QStringList const& headers)
     return table;
 }
 
+char const* getKey(ImportRefusal::Reason reason)
+{
+    switch (reason) {
+    case ImportRefusal::Reason::NoSuchObject:
+        return "Import_NoSuchObject";
+    case ImportRefusal::Reason::NoSuchProperty:
+        return "Import_NoSuchProperty";
+    case ImportRefusal::Reason::NotEditable:
+        return "Import_NotEditable";
+    case ImportRefusal::Reason::NotAnEntry:
+        return "Import_NotAnEntry";
+    case ImportRefusal::Reason::NotTaken:
+        break;
+    }
+    return "Import_NotTaken";
+}
+
 void fitColumns(QTreeWidget& table) { table.header()->resizeSections(QHeaderView::ResizeToContents); }
 
 } // namespace
@@ -34,16 +52,12 @@ ImportDialog::ImportDialog(ListTable const& table, ImportResult const& preview, 
                            getText("Import_After")}))
     , m_refusals(makeTable({getText("Import_Line"), getText("Import_GlobalId"), getText("Import_Column"),
                             getText("Import_Value"), getText("Import_Reason")}))
-    , m_import(nullptr)
 {
     setWindowTitle(getText("List_ImportTitle"));
     fillChanges(table, preview);
     fillRefusals(preview);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    m_import = buttons->addButton(getText("Import_Import"), QDialogButtonBox::AcceptRole);
-    m_import->setEnabled(!preview.changes.empty());
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const buttons = makeButtons(*this, getText("Import_Import"));
+    buttons->button(QDialogButtonBox::Ok)->setEnabled(!preview.changes.empty());
 
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(preview.changes.empty()
@@ -79,7 +93,7 @@ void ImportDialog::fillRefusals(ImportResult const& preview)
     for (auto const& refusal : preview.refusals)
         items.push_back(new QTreeWidgetItem({QString::number(refusal.line), toQString(refusal.globalId),
                                              toQString(refusal.column), toQString(refusal.text),
-                                             toQString(refusal.reason)}));
+                                             getText(getKey(refusal.reason))}));
     m_refusals->addTopLevelItems(items);
     fitColumns(*m_refusals);
 }

@@ -3,7 +3,6 @@
 #include "ListImport.h"
 
 #include <QDialog>
-#include <QPushButton>
 #include <QTreeWidget>
 
 namespace qev::application {
@@ -19,8 +18,6 @@ public:
     [[nodiscard]] QTreeWidget& getChanges() const { return *m_changes; }
     /// One line for each row or cell that cannot be taken, and why.
     [[nodiscard]] QTreeWidget& getRefusals() const { return *m_refusals; }
-    /// Enabled when there is anything to change.
-    [[nodiscard]] QPushButton& getImportButton() const { return *m_import; }
 
 private:
     void fillChanges(ListTable const& table, ImportResult const& preview);
@@ -28,7 +25,6 @@ private:
 
     QTreeWidget* m_changes;
     QTreeWidget* m_refusals;
-    QPushButton* m_import;
 };
 
 } // namespace qev::application

@@ -1,10 +1,10 @@
 #include "ListColumnsDialog.h"
 
+#include "DialogButtons.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
 #include <map>
-#include <QDialogButtonBox>
 #include <QVBoxLayout>
 
 namespace qev::application {
@@ -21,14 +21,11 @@ ListColumnsDialog::ListColumnsDialog(std::vector<ListColumn> const& columns,
     m_search->setClearButtonEnabled(true);
     m_tree->setHeaderHidden(true);
     m_tree->setUniformRowHeights(true);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(m_search);
     layout->addWidget(m_tree);
-    layout->addWidget(buttons);
+    layout->addWidget(makeButtons(*this));
     connect(m_search, &QLineEdit::textChanged, this, &ListColumnsDialog::search);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     fill(columns, setNames, shown);
     resize(fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 32);
 }

@@ -1,14 +1,12 @@
 #include "ListQuestions.h"
 
+#include "DialogButtons.h"
 #include "ImportDialog.h"
 #include "ListColumnsDialog.h"
 #include "ListExport.h"
 #include "Texts.h"
 
-#include <QCoreApplication>
 #include <QFileDialog>
-#include <QInputDialog>
-#include <QMessageBox>
 
 namespace qev::application {
 
@@ -35,12 +33,9 @@ ListQuestions ListQuestions::asDialogs(QWidget& parent)
                                             getText("List_Tables") + ";;" + getText("List_AllFiles"));
     };
     questions.nameOfLayout = [&parent] {
-        return QInputDialog::getText(&parent, getText("List_KeepLayout"), getText("List_LayoutName"))
-            .trimmed();
+        return askForText(parent, getText("List_KeepLayout"), getText("List_LayoutName"));
     };
-    questions.tell = [&parent](QString const& text) {
-        QMessageBox::information(&parent, QCoreApplication::applicationName(), text);
-    };
+    questions.tell = [&parent](QString const& text) { showMessage(parent, QMessageBox::Information, text); };
     return questions;
 }
 

@@ -1,14 +1,13 @@
 #include "SettingsDialog.h"
 
 #include "Core/Localization/LocalizationAdmin.h"
+#include "DialogButtons.h"
 #include "LanguageName.h"
 #include "Texts.h"
 #include "Ui/Qt/QtText.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -58,14 +57,9 @@ SettingsDialog::SettingsDialog(ProgramSettings const& settings, locale::Locale c
     auto* const pages = new QTabWidget;
     pages->addTab(createUnitsPage(), getText("Settings_UnitsTab"));
     pages->addTab(createProgramPage(), getText("Settings_ProgramTab"));
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Ok)->setText(getText("Button_Ok"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(getText("Button_Cancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(pages);
-    layout->addWidget(buttons);
+    layout->addWidget(makeButtons(*this));
     fill(settings);
     resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 36);
 }

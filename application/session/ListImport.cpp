@@ -70,17 +70,17 @@ bool says(ListSession const& session, ui::ListControl::ItemInfo const& item, Lis
     return number && number == fireEvent(session.control().getListControl()->onGetItemNumber, item);
 }
 
-std::string reasonText(ui::ListRefusalReason reason)
+ImportRefusal::Reason reasonOf(ui::ListRefusalReason reason)
 {
     switch (reason) {
     case ui::ListRefusalReason::NotEditable:
-        return "it cannot be edited here";
+        return ImportRefusal::Reason::NotEditable;
     case ui::ListRefusalReason::NotAnEntry:
-        return "it is none of the values to choose from";
+        return ImportRefusal::Reason::NotAnEntry;
     case ui::ListRefusalReason::NotTaken:
-        return "it is no value for this property";
+        break;
     }
-    return {};
+    return ImportRefusal::Reason::NotTaken;
 }
 
 void sortRefusals(ImportResult& result)
@@ -136,7 +136,7 @@ std::vector<ListImport::Group> ListImport::makeGroups(ImportResult& result) cons
         auto const object = m_file.entityFromGlobalId(tableRow.globalId);
         if (!fc::entityCast<FcObjectDefinition>(object)) {
             result.refusals.push_back(
-                {tableRow.line, tableRow.globalId, {}, {}, "there is no object with this GlobalId"});
+                {tableRow.line, tableRow.globalId, {}, {}, ImportRefusal::Reason::NoSuchObject});
             continue;
         }
         Group& group = groups[object->getIdFirst()];
@@ -190,7 +190,7 @@ ImportRefusal ListImport::refusalOf(ImportChange const& change, ui::ListRefusalR
 {
     ListTable::Row const& row = m_table.rows[change.row];
     return {row.line, row.globalId, m_table.columns[change.column], row.cells[change.column],
-            reasonText(reason)};
+            reasonOf(reason)};
 }
 
 void ListImport::findChangesOfSingleObjects(ListSession& session, Group const& group,
@@ -208,8 +208,7 @@ void ListImport::findChangesOfSingleObjects(ListSession& session, Group const& g
         for (std::size_t const column :
              findChanges(session, {{group.rows[row]}, {group.objects[row]}}, filled, result))
             result.refusals.push_back({tableRow.line, tableRow.globalId, m_table.columns[column],
-                                       tableRow.cells[column],
-                                       "the object has and may have no such property"});
+                                       tableRow.cells[column], ImportRefusal::Reason::NoSuchProperty});
     }
 }
 

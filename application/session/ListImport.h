@@ -27,13 +27,27 @@ struct ImportChange
 /// A row or a cell of a table that was not taken.
 struct ImportRefusal
 {
+    enum class Reason
+    {
+        /// No object has the GlobalId of the row.
+        NoSuchObject,
+        /// The object has no such property, and may not have it.
+        NoSuchProperty,
+        /// The cell cannot be edited in a list.
+        NotEditable,
+        /// The text is none of the values to choose from.
+        NotAnEntry,
+        /// The text is no value for the property.
+        NotTaken,
+    };
+
     /// Where the row stands in the file.
     std::size_t line = 0;
     std::string globalId;
     /// Empty for a whole row.
     std::string column;
     std::string text;
-    std::string reason;
+    Reason reason = Reason::NotTaken;
 };
 
 /// What becomes, or became, of a table.
