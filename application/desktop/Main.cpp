@@ -1,4 +1,5 @@
 #include "Core/Assert/Assert.h"
+#include "ExitCode.h"
 #include "FilePath.h"
 #include "MainWindow.h"
 #include "Ui/Qt/QtBackend.h"
@@ -12,25 +13,24 @@
 
 namespace {
 
+using qev::application::ExitCode;
 using qev::application::FileQuestions;
 using qev::application::MainWindow;
 using qev::application::ProgramSettings;
 using qev::application::Theme;
 using qev::unit::UnitPreferences;
 
-enum ExitCode : int
-{
-    success = 0,
-    notOpened = 1,
-    noSuchObject = 2,
-    notWritten = 3,
-    badUsage = 4,
-};
+void tell(QString const& text) { std::fputs(qPrintable("qev-inspector: " + text + '\n'), stderr); }
 
-int fail(ExitCode code, QString const& text)
+ExitCode fail(ExitCode code, QString const& text)
 {
-    std::fputs(qPrintable("qev-inspector: " + text + '\n'), stderr);
+    tell(text);
     return code;
+}
+
+QString getNoSuchObject(QString const& globalId)
+{
+    return "there is no object with the GlobalId " + globalId;
 }
 
 /// A picture has nobody to ask: whatever would be asked is told on the error stream instead.
@@ -39,9 +39,7 @@ FileQuestions makeSilentQuestions()
     FileQuestions questions;
     questions.leaveChanges = [](QString const&) { return FileQuestions::Leave::Stay; };
     questions.overwriteChanged = [](QString const&) { return false; };
-    questions.tellProblem = [](QString const& text, QString const& details) {
-        std::fputs(qPrintable("qev-inspector: " + text + ' ' + details + '\n'), stderr);
-    };
+    questions.tellProblem = [](QString const& text, QString const& details) { tell(text + ' ' + details); };
     questions.pathToOpen = [](QString const&) { return QString(); };
     questions.pathToSave = [](QString const&) { return QString(); };
     return questions;
@@ -105,24 +103,24 @@ ProgramSettings getSettingsForPicture()
     return settings;
 }
 
-int takePicture(MainWindow& window, QCommandLineParser const& parser, Options const& options)
+ExitCode takePicture(MainWindow& window, QCommandLineParser const& parser, Options const& options)
 {
     auto const file = parser.positionalArguments().value(0);
     auto const object = parser.value(options.object);
     auto const picture = parser.value(options.screenshot);
     window.setQuestions(makeSilentQuestions());
     if (!file.isEmpty() && !window.getFileActions().open(file))
-        return notOpened;
+        return ExitCode::UnreadableFile;
     if (!object.isEmpty() && !window.selectObject(object))
-        return fail(noSuchObject, "there is no object with the GlobalId " + object);
+        return fail(ExitCode::NothingFound, getNoSuchObject(object));
     window.showList(parser.isSet(options.list));
     if (parser.isSet(options.editor))
         window.showEditor();
     window.show();
     QCoreApplication::processEvents();
     if (!window.grab().save(picture))
-        return fail(notWritten, "cannot write " + picture);
-    return success;
+        return fail(ExitCode::NotSaved, "cannot write " + picture);
+    return ExitCode::Success;
 }
 
 } // namespace
@@ -137,12 +135,15 @@ int main(int argc, char** argv)
 
     QCommandLineParser parser;
     parser.setApplicationDescription("Shows and edits the properties of a building model (IFC).");
-    parser.addHelpOption();
+    auto const help = parser.addHelpOption();
     parser.addPositionalArgument("FILE", "an IFC file to open", "[FILE]");
     Options const options;
     parser.addOptions({options.object, options.list, options.editor, options.screenshot, options.language,
                        options.units, options.theme, options.classifications, options.reports});
-    parser.process(application);
+    if (!parser.parse(QApplication::arguments()))
+        return static_cast<int>(fail(ExitCode::BadUsage, parser.errorText()));
+    if (parser.isSet(help))
+        parser.showHelp();
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
     // only.
     qev::assert::Assert::setEnabled(parser.isSet(options.reports));
@@ -153,10 +154,11 @@ int main(int argc, char** argv)
     auto const isPicture = parser.isSet(options.screenshot);
     auto settings = isPicture ? getSettingsForPicture() : ProgramSettings::restore();
     if (!takeOptions(parser, options, settings))
-        return fail(badUsage, "an option has a value that is not known; see --help");
+        return static_cast<int>(
+            fail(ExitCode::BadUsage, "an option has a value that is not known; see --help"));
     window.getSettingsActions().apply(settings);
     if (isPicture)
-        return takePicture(window, parser, options);
+        return static_cast<int>(takePicture(window, parser, options));
 
     window.restoreWindow();
     if (parser.isSet(options.list))
@@ -166,6 +168,6 @@ int main(int argc, char** argv)
     window.show();
     if (!file.isEmpty() && window.getFileActions().open(file) && parser.isSet(options.object) &&
         !window.selectObject(parser.value(options.object)))
-        std::fputs("qev-inspector: there is no object with that GlobalId\n", stderr);
+        tell(getNoSuchObject(parser.value(options.object)));
     return QApplication::exec();
 }

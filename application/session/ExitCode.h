@@ -2,7 +2,7 @@
 
 namespace qev::application {
 
-/// What `qev-ifc` ends with; documented in docs/command-line.md.
+/// What both programs end with; documented in docs/command-line.md and docs/settings.md.
 enum class ExitCode
 {
     Success = 0,
