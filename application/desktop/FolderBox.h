@@ -6,7 +6,7 @@
 
 namespace qev::application {
 
-/// A line for the path of a folder, which may be none, with a button to choose it.
+/// A line for a path, which may be none, with a button to choose a folder; a file is typed.
 class FolderBox final : public QWidget
 {
 public:
