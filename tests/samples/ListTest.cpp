@@ -301,7 +301,8 @@ void List::importEdit(ListSession const& list, ColumnEdit const& edit)
     auto const result = listImport.apply(preview);
     EXPECT_EQ(result.refusals.size(), preview.refusals.size()) << edit.column;
     for (auto const& refusal : result.refusals)
-        ADD_FAILURE() << refusal.globalId << " " << refusal.column << ": " << refusal.reason;
+        ADD_FAILURE() << refusal.globalId << " " << refusal.column << ": " << refusal.text << ", reason "
+                      << static_cast<int>(refusal.reason);
 }
 
 TEST_P(List, GoesOutAsATableAndComesBackChanged)
