@@ -69,8 +69,8 @@ public:
 
     /// Why \p input is refused, for the user; nothing when all objects take it.
     [[nodiscard]] std::optional<std::string> findObjection(PropertyGridInput const& input) const;
-    /// Gives all objects that understand \p input the value that it means for them. \returns what the first
-    /// was given
+    /// Gives all objects that understand \p input the value that it means for them. Whether they may be
+    /// changed is the caller's to ask (`isReadOnly`). \returns what the first was given
     PropertyValue write(PropertyGridInput const& input) const;
     /// Lets all objects that hold a value of their own take it over again.
     void reset() const;

@@ -130,7 +130,7 @@ void addReset(PropertyGridRowState& state)
 {
     static auto const image = std::make_shared<Image>(Image{"reset"});
     state.isLocalValue = true;
-    state.buttons.push_back({{}, image, localize("Button_reset", "Ui")});
+    state.buttons.push_back({std::string(EditorRow::resetKey), image, localize("Button_reset", "Ui")});
 }
 
 PropertyGridRowState makeState(Context const& context, EditorNode const& node, std::string const& labelAbove)

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qev::ui::edit {
@@ -13,6 +14,9 @@ namespace qev::ui::edit {
 /// A row of the grid as it is to be, with the rows below it.
 struct HOSTEDIT_EXPORT EditorRow
 {
+    /// The key of the button that lets a value of an object's own go. No other button may have it.
+    static constexpr std::string_view resetKey = "reset";
+
     PropertyGridRowState state;
     /// Null for rows without a quantity.
     std::unique_ptr<unit::QuantityPresentationBase> presentation;

@@ -173,7 +173,7 @@ void PropertyGridObjectEditor::updateView()
 {
     if (!m_controller || m_isMakingRows)
         return;
-    showRows(EditorRow::makeRows(m_objects, *m_controller, {"Instance"}));
+    showRows(EditorRow::makeRows(m_objects, *m_controller, EditorLevel::instance()));
     auto const row = m_grid->getCurrentRow();
     auto current = row ? std::optional(PropertyId(row->getState().key)) : std::nullopt;
     if (current && current == m_selected)
@@ -314,13 +314,11 @@ void PropertyGridObjectEditor::pressButton(PropertyId const& id, std::size_t but
     auto const row = findRow(id);
     if (!row || button >= row->getState().buttons.size())
         return;
-    auto const& state = row->getState();
-    auto const isReset = state.isLocalValue && button + 1 == state.buttons.size();
-    if (isReset) {
+    auto const key = row->getState().buttons[button].key;
+    if (key == EditorRow::resetKey) {
         reset(id);
         return;
     }
-    auto const key = state.buttons[button].key;
     auto const controller = m_controller;
     // What a click does, now or from a popup later on, is named by whoever does it.
     controller->onButtonClicked(id, key);

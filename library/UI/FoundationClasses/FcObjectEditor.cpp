@@ -30,7 +30,8 @@ using EditProperty = qev::ui::edit::Property;
 namespace {
 
 constexpr char classificationsId[] = "Classifications";
-/// The level of the editor on which dynamic rows stand.
+/// The level of the editor on which dynamic rows stand, by the name that an editor has for it. What an
+/// `EditorLevel` is beyond its name is the editor's alone.
 constexpr char instanceLevel[] = "Instance";
 
 Button openButton() { return {"", FcObjectEditor::getOpenInExternalAppButtonImage(), ""}; }

@@ -35,10 +35,10 @@ TEST(ObjectPropertyEditInterface, LetsEverythingPassUnlessOverridden)
 {
     ToyEditor const editor;
     EXPECT_FALSE(editor.isReadOnlyObject());
-    EXPECT_TRUE(editor.doPropertiesApplyAtEditorLevel({"Instance"}));
+    EXPECT_TRUE(editor.doPropertiesApplyAtEditorLevel(EditorLevel::instance()));
     EXPECT_TRUE(editor.isOkToAddProperty(object::PropertyId("Name")));
     std::vector<Property> rows{{object::PropertyId("Name"), 0, {}, nullptr}};
-    editor.onPropertiesFetchedFromConfiguration({"Instance"}, rows);
+    editor.onPropertiesFetchedFromConfiguration(EditorLevel::instance(), rows);
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].id, object::PropertyId("Name"));
 }

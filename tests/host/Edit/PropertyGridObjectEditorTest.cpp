@@ -230,8 +230,8 @@ TEST_F(PropertyGridObjectEditorTest, ALocalValueIsResetByItsButton)
 {
     first.object->globalValues[Id("Name")] = Value(std::string("Type"));
     show({first});
-    EXPECT_THAT(grid->dump(), HasSubstr("Name = Wall {text, button \"\", local}"));
-    EXPECT_TRUE(grid->pressButton(row("Name"), ""));
+    EXPECT_THAT(grid->dump(), HasSubstr("Name = Wall {text, button \"reset\", local}"));
+    EXPECT_TRUE(grid->pressButton(row("Name"), "reset"));
     EXPECT_EQ(first.object->values[Id("Name")], Value(std::string("Type")));
     EXPECT_THAT(log, ElementsAre("may reset Name", "begin Name", "reset Name", "regenerate",
                                  "reset, regenerated Name", "end"));
@@ -244,7 +244,7 @@ TEST_F(PropertyGridObjectEditorTest, AResetThatIsNotPermittedChangesNothing)
     first.edit->buttons[Id("Name")] = {"edit"};
     controller->permitsReset = false;
     show({first});
-    EXPECT_TRUE(grid->pressButton(row("Name"), ""));
+    EXPECT_TRUE(grid->pressButton(row("Name"), "reset"));
     EXPECT_TRUE(grid->pressButton(row("Name"), "edit"));
     EXPECT_EQ(first.object->values[Id("Name")], Value(std::string("Wall")));
     EXPECT_THAT(log, ElementsAre("may reset Name", "clicked Name edit"));
@@ -274,8 +274,7 @@ TEST_F(PropertyGridObjectEditorTest, ButtonsAreClickedByTheirKeys)
     EXPECT_EQ(row("Name")->getState().buttons[0].image, ObjectPropertyEditInterface::getDeleteButtonImage());
     EXPECT_TRUE(grid->pressButton(row("Name"), "edit"));
     EXPECT_TRUE(grid->pressButton(row("Wall"), ""));
-    EXPECT_THAT(log,
-                ElementsAre("clicked Name edit", "clicked Wall "));
+    EXPECT_THAT(log, ElementsAre("clicked Name edit", "clicked Wall "));
 }
 
 TEST_F(PropertyGridObjectEditorTest, AClickMayShowOtherObjectsOrEndTheEditor)
