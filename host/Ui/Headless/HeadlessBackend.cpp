@@ -2,8 +2,8 @@
 
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
+#include "Ui/Window/Details/WindowClassName.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
-#include "Ui/Window/DialogControl.h"
 #include "Ui/Window/GroupBox.h"
 #include "Ui/Window/PopupMenu.h"
 
@@ -16,21 +16,17 @@ namespace {
 
 std::shared_ptr<HeadlessWindow> makePlatformWindow(WindowCreation const& creation)
 {
-    auto const& name = creation.className;
-    auto const plain = [&](WindowClass windowClass) {
-        return std::make_shared<HeadlessWindow>(windowClass, creation.controlId, creation.placement);
-    };
-    if (name == PropertyGridControl::getClassName())
+    auto const windowClass = details::windowClassFromName(creation.className);
+    if (!windowClass)
+        return nullptr;
+    switch (*windowClass) {
+    case WindowClass::PropertyGridControl:
         return std::make_shared<HeadlessPropertyGrid>(creation.controlId, creation.placement);
-    if (name == ListControl::getClassName())
+    case WindowClass::ListControl:
         return std::make_shared<HeadlessListControl>(creation.controlId, creation.placement, creation.style);
-    if (name == Dialog::getClassName())
-        return plain(WindowClass::Dialog);
-    if (name == DialogControl::getClassName())
-        return plain(WindowClass::DialogControl);
-    if (name == GroupBox::getClassName())
-        return plain(WindowClass::GroupBox);
-    return name == Window::getClassName() ? plain(WindowClass::Window) : nullptr;
+    default:
+        return std::make_shared<HeadlessWindow>(*windowClass, creation.controlId, creation.placement);
+    }
 }
 
 /// Tells the window, or the one around it where it is a mere part such as an editor.

@@ -9,6 +9,7 @@
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridControl.h"
+#include "Ui/Window/Details/WindowClassName.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
 #include "Ui/Window/DialogControl.h"
 #include "Ui/Window/GroupBox.h"
@@ -74,23 +75,6 @@ public:
 private:
     std::shared_ptr<PropertyGridModel> m_model;
 };
-
-std::optional<WindowClass> getWindowClassOf(std::string const& className)
-{
-    if (className == PropertyGridControl::getClassName())
-        return WindowClass::PropertyGridControl;
-    if (className == ListControl::getClassName())
-        return WindowClass::ListControl;
-    if (className == Dialog::getClassName())
-        return WindowClass::Dialog;
-    if (className == DialogControl::getClassName())
-        return WindowClass::DialogControl;
-    if (className == GroupBox::getClassName())
-        return WindowClass::GroupBox;
-    if (className == Window::getClassName())
-        return WindowClass::Window;
-    return std::nullopt;
-}
 
 /// \p style means something for lists only.
 QWidget* makeWidget(WindowClass windowClass, QWidget* parent, unsigned int style = 0)
@@ -210,7 +194,7 @@ QWidget* QtBackend::getWidget(WindowHandle const& handle) const
 
 WindowHandle QtBackend::createWindow(WindowCreation const& creation)
 {
-    auto const windowClass = getWindowClassOf(creation.className);
+    auto const windowClass = details::windowClassFromName(creation.className);
     auto* const owner = getWidget(creation.owner);
     if (!windowClass || (creation.owner.isValid() && !owner))
         return {};
