@@ -324,20 +324,21 @@ bool QtPropertyGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* vie
     auto const* const row = QtPropertyGridItemModel::getRow(index);
     if (!row || event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    if (index.column() == QtPropertyGridItemModel::valueColumn)
-        if (auto const button = QtPropertyGridLayout::of(*row, option).findButton(event->pos())) {
-            QToolTip::showText(event->globalPos(),
-                               QtPropertyGridButtons::getText(row->getState().buttons[*button]), view);
-            return true;
-        }
+    auto const layout = QtPropertyGridLayout::of(*row, option);
+    auto const isName = index.column() == QtPropertyGridItemModel::nameColumn;
+    if (auto const button = isName ? std::nullopt : layout.findButton(event->pos())) {
+        auto const text = QtPropertyGridButtons::getText(row->getState().buttons[*button]);
+        QToolTip::showText(event->globalPos(), QtCellDrawing::getToolTip(text), view);
+        return true;
+    }
     auto const shown = index.data(Qt::DisplayRole).toString();
     auto cell = option;
     applyFont(cell, *row);
     QString text;
-    auto const room = QtPropertyGridLayout::of(*row, option).value.width();
+    auto const room = isName ? option.rect.width() : layout.value.width();
     if (cell.fontMetrics.horizontalAdvance(shown) + 2 * QtCellDrawing::getTextMargin(option) > room)
         text = shown;
-    if (index.column() == QtPropertyGridItemModel::nameColumn && !row->getState().description.empty())
+    if (isName && !row->getState().description.empty())
         text = toQString(row->getState().name + "\n" + row->getState().description);
     QToolTip::showText(event->globalPos(), QtCellDrawing::getToolTip(text), view);
     return true;

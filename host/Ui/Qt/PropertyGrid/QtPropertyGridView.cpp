@@ -5,12 +5,11 @@
 #include "Ui/PropertyGrid/PropertyGridText.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridDelegate.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
+#include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtClipboard.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -29,15 +28,6 @@ constexpr auto nameColumn = QtPropertyGridItemModel::nameColumn;
 constexpr auto valueColumn = QtPropertyGridItemModel::valueColumn;
 constexpr double leastSplit = 0.1;
 constexpr int messageMilliseconds = 6000;
-
-QColor mix(QColor const& front, QColor const& back, double share)
-{
-    auto const part = [share](int frontPart, int backPart) {
-        return static_cast<int>(share * frontPart + (1 - share) * backPart);
-    };
-    return {part(front.red(), back.red()), part(front.green(), back.green()),
-            part(front.blue(), back.blue())};
-}
 
 bool isEditable(QModelIndex const& index)
 {
@@ -242,22 +232,22 @@ void QtPropertyGridView::drawRow(QPainter* painter, QStyleOptionViewItem const& 
     auto const base = palette().color(QPalette::Base);
     auto const text = palette().color(QPalette::Text);
     if (auto const colour = rowState.backgroundColour)
-        painter->fillRect(option.rect, QColor(colour->red, colour->green, colour->blue, colour->alpha));
+        painter->fillRect(option.rect, QtCellDrawing::toQColor(*colour));
     else if (rowState.kind == Kind::Group)
-        painter->fillRect(option.rect, mix(text, base, 0.07));
+        painter->fillRect(option.rect, QtCellDrawing::getMuted(text, base, 0.07F));
     QTreeView::drawRow(painter, option, index);
     if (rowState.kind == Kind::EmptyLine)
         return;
 
     painter->save();
-    painter->setPen(mix(text, base, 0.14));
+    painter->setPen(QtCellDrawing::getMuted(text, base, 0.14F));
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     if (rowState.kind != Kind::Group) {
         auto const x = columnViewportPosition(valueColumn) - 1;
         painter->drawLine(x, option.rect.top(), x, option.rect.bottom());
     }
     if (rowState.horizontalLine) {
-        painter->setPen(QPen(mix(text, base, 0.6), 1));
+        painter->setPen(QPen(QtCellDrawing::getMuted(text, base, 0.6F), 1));
         if (*rowState.horizontalLine != PropertyGridHorizontalLine::Below)
             painter->drawLine(option.rect.topLeft(), option.rect.topRight());
         if (*rowState.horizontalLine != PropertyGridHorizontalLine::Above)

@@ -21,7 +21,7 @@ namespace qev::ui {
 /// The tree of rows: draws them, and turns keys and clicks into inputs.
 ///
 /// When the rows are made anew, what the user has folded stays folded, the current row stays current and
-/// nothing scrolls; rows are known by their names from the top level down.
+/// nothing scrolls; rows are known by their keys, those without one by their names from the top level down.
 class HOSTUIQT_EXPORT QtPropertyGridView final : public QTreeView
 {
 public:
@@ -34,7 +34,8 @@ public:
 
     /// Puts back what was current and where the view was scrolled to before the rows were made anew.
     void restorePlace();
-    /// The names down to each row that the user has folded, whether the row is there at present or not.
+    /// The key, or the names down to it, of each row that the user has folded, whether the row is there at
+    /// present or not.
     [[nodiscard]] std::set<std::vector<std::string>> const& getFolded() const { return m_folded; }
     void setFolded(std::set<std::vector<std::string>> folded);
     /// Folds or unfolds all groups there are, and those within them.

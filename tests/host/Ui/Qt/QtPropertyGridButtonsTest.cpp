@@ -2,9 +2,11 @@
 
 #include "Ui/Window/Controls/PropertyGridControl/PropertyGridStateProperty.h"
 
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QPixmap>
+#include <QToolTip>
 
 namespace qev::test {
 namespace {
@@ -81,6 +83,24 @@ protected:
     bool refillOnPress = false;
     std::vector<std::string> presses;
 };
+
+TEST_F(QtPropertyGridButtonsTest, TheTextOfAButtonIsNoMarkup)
+{
+    addMore = [this](PropertyGridProperty& set) {
+        PropertyGridRowState state;
+        state.kind = PropertyGridRowState::Kind::Value;
+        state.name = "Code";
+        state.buttons = {makeButton("", "Add <b>new</b>")};
+        addRow(set, state);
+    };
+    fill();
+    settle();
+    auto const position = buttonAt({"Pset_WallCommon", "Code"}, 0);
+    QHelpEvent event(QEvent::ToolTip, position, view.viewport()->mapToGlobal(position));
+    QApplication::sendEvent(view.viewport(), &event);
+    EXPECT_EQ(fromQString(QToolTip::text()), "Add &lt;b&gt;new&lt;/b&gt;");
+    QToolTip::hideText();
+}
 
 TEST_F(QtPropertyGridButtonsTest, ButtonsStandAtTheRightEndOfTheValue)
 {

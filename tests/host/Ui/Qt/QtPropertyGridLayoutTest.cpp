@@ -91,6 +91,21 @@ TEST_F(QtPropertyGridLayoutTest, AllGroupsAreFoldedAtOnceAndStaySo)
     EXPECT_FALSE(view.isExpanded(index({"Pset_WallCommon"}, 0)));
 }
 
+TEST_F(QtPropertyGridLayoutTest, GroupsWithinGroupsAreFoldedWithAllOthers)
+{
+    addMore = [](PropertyGridProperty& set) {
+        PropertyGridProperty group("More");
+        group.addSubProperty(*text("Colour", "red"));
+        set.addSubProperty(group);
+    };
+    fill();
+    EXPECT_TRUE(view.isExpanded(index({"Pset_WallCommon", "More"}, 0)));
+    view.setAllFolded(true);
+    EXPECT_FALSE(view.isExpanded(index({"Pset_WallCommon", "More"}, 0)));
+    view.setAllFolded(false);
+    EXPECT_TRUE(view.isExpanded(index({"Pset_WallCommon", "More"}, 0)));
+}
+
 TEST_F(QtPropertyGridLayoutTest, SplitIsDraggedBetweenTheRowsAndKept)
 {
     auto const before = view.header()->sectionSize(0);
