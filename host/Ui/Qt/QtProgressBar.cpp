@@ -1,6 +1,6 @@
 #include "Ui/Qt/QtProgressBar.h"
 
-#include "Core/Localization/Localize.h"
+#include "Ui/Qt/QtLocalize.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ QtProgressBar::QtProgressBar(QString const& title)
 {
     m_dialog->setWindowTitle(title);
     m_dialog->setLabelText(title);
-    m_dialog->setCancelButtonText(toQString(localize("Progress_Cancel", "Ui")));
+    m_dialog->setCancelButtonText(getUiText("Progress_Cancel"));
     m_dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog->setMinimumDuration(patienceMilliseconds);
     m_dialog->setRange(0, steps);

@@ -3,6 +3,7 @@
 #include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListHeaderPanel.h"
 #include "Ui/Qt/QtCellDrawing.h"
+#include "Ui/Qt/QtLocalize.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/Details/WindowInterfaceFactory.h"
 
@@ -31,8 +32,6 @@ constexpr std::size_t mostRefusalsInNotice = 5;
 constexpr std::size_t mostRefusalsInDetails = 50;
 /// A popup of more rows than this has a filter from the start; in others it comes with the first letter.
 constexpr std::size_t mostRowsWithoutFilter = 12;
-
-QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
 QString getNumberText(std::size_t number) { return QLocale().toString(static_cast<qulonglong>(number)); }
 
@@ -270,10 +269,10 @@ void QtListControl::resizeEvent(QResizeEvent* event)
 
 void QtListControl::setTexts()
 {
-    m_filterBox->setPlaceholderText(getText("List_Filter"));
-    m_findBox->setPlaceholderText(getText("List_Find"));
-    m_nextButton->setToolTip(getText("List_FindNext"));
-    m_previousButton->setToolTip(getText("List_FindPrevious"));
+    m_filterBox->setPlaceholderText(getUiText("List_Filter"));
+    m_findBox->setPlaceholderText(getUiText("List_Find"));
+    m_nextButton->setToolTip(getUiText("List_FindNext"));
+    m_previousButton->setToolTip(getUiText("List_FindPrevious"));
     updateCounts();
 }
 
@@ -614,7 +613,7 @@ bool QtListControl::advanceFinder()
         m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
         m_view->scrollTo(index);
     } else {
-        m_findState->setText(getText("List_NotFound"));
+        m_findState->setText(getUiText("List_NotFound"));
     }
     m_finder.reset();
     return false;
@@ -625,14 +624,14 @@ void QtListControl::updateCounts()
     auto const& order = m_cells->getOrder();
     auto const all = getNumberText(order.getRowCount());
     auto text = order.getShownCount() == order.getRowCount()
-                    ? getText("List_Rows").arg(all)
-                    : getText("List_RowsShown").arg(getNumberText(order.getShownCount()), all);
+                    ? getUiText("List_Rows").arg(all)
+                    : getUiText("List_RowsShown").arg(getNumberText(order.getShownCount()), all);
     if (auto const selected = m_view->countSelectedRows(); selected > 0)
-        text += ", " + getText("List_Selected").arg(getNumberText(selected));
+        text += ", " + getUiText("List_Selected").arg(getNumberText(selected));
     if (order.isPending() && order.getRowCount() > 0)
-        text += " – " + getText("List_Working").arg(100 * order.getProgress() / order.getRowCount());
+        text += " – " + getUiText("List_Working").arg(100 * order.getProgress() / order.getRowCount());
     else if (m_finder)
-        text += " – " + getText("List_Searching");
+        text += " – " + getUiText("List_Searching");
     m_counts->setText(text);
 }
 
@@ -659,10 +658,10 @@ void QtListControl::tell(ListEditResult const& result)
     QStringList lines;
     for (std::size_t i = 0; i < std::min(count, mostRefusalsInDetails); ++i)
         lines.push_back(describe(result.refusals[i]));
-    auto text = getText("List_Refused").arg(getNumberText(result.takenCells), getNumberText(count)) + ' ';
+    auto text = getUiText("List_Refused").arg(getNumberText(result.takenCells), getNumberText(count)) + ' ';
     text += lines.mid(0, static_cast<qsizetype>(mostRefusalsInNotice)).join(QLatin1String("; "));
     if (count > mostRefusalsInNotice)
-        text += "; " + getText("List_MoreRefused").arg(getNumberText(count - mostRefusalsInNotice));
+        text += "; " + getUiText("List_MoreRefused").arg(getNumberText(count - mostRefusalsInNotice));
     showNotice(text, lines.join(QLatin1Char('\n')));
 }
 

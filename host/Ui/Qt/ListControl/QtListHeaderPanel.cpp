@@ -1,8 +1,7 @@
 #include "Ui/Qt/ListControl/QtListHeaderPanel.h"
 
-#include "Core/Localization/Localize.h"
 #include "Ui/Qt/ListControl/QtListControl.h"
-#include "Ui/Qt/QtText.h"
+#include "Ui/Qt/QtLocalize.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -13,8 +12,6 @@
 namespace qev::ui {
 
 namespace {
-
-QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
 } // namespace
 
@@ -46,7 +43,7 @@ void QtListHeaderPanel::addSortButtons(QVBoxLayout& layout)
 {
     auto* const row = new QHBoxLayout;
     auto const addButton = [&](char const* key, auto action) {
-        auto* const button = new QPushButton(getText(key));
+        auto* const button = new QPushButton(getUiText(key));
         connect(button, &QPushButton::clicked, this, [this, action] {
             action();
             close();
@@ -64,7 +61,7 @@ void QtListHeaderPanel::addSortButtons(QVBoxLayout& layout)
 void QtListHeaderPanel::addFilter(QVBoxLayout& layout)
 {
     m_filter->setObjectName(QStringLiteral("columnFilter"));
-    m_filter->setPlaceholderText(getText("List_ColumnFilter"));
+    m_filter->setPlaceholderText(getUiText("List_ColumnFilter"));
     m_filter->setClearButtonEnabled(true);
     m_filter->setText(m_list.getColumnFilter(static_cast<std::size_t>(m_column)));
     connect(m_filter, &QLineEdit::textChanged, this, [this](QString const& text) {
@@ -76,7 +73,7 @@ void QtListHeaderPanel::addFilter(QVBoxLayout& layout)
 
 void QtListHeaderPanel::addColumns(QVBoxLayout& layout)
 {
-    m_search->setPlaceholderText(getText("List_SearchColumns"));
+    m_search->setPlaceholderText(getUiText("List_SearchColumns"));
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this, [this](QString const& text) { searchColumns(text); });
     layout.addWidget(m_search);
@@ -86,7 +83,7 @@ void QtListHeaderPanel::addColumns(QVBoxLayout& layout)
                                    item->checkState() != Qt::Checked);
     });
     layout.addWidget(m_columnList);
-    auto* const resetButton = new QPushButton(getText("List_ResetColumns"));
+    auto* const resetButton = new QPushButton(getUiText("List_ResetColumns"));
     connect(resetButton, &QPushButton::clicked, this, [this] {
         m_list.resetArrangement();
         fillColumnList();

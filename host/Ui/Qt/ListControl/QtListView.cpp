@@ -5,6 +5,7 @@
 #include "Ui/Qt/ListControl/QtListDelegate.h"
 #include "Ui/Qt/QtCellDrawing.h"
 #include "Ui/Qt/QtClipboard.h"
+#include "Ui/Qt/QtLocalize.h"
 #include "Ui/Qt/QtText.h"
 #include "Ui/Window/PopupMenu.h"
 
@@ -41,8 +42,6 @@ public:
 private:
     std::function<void()> m_action;
 };
-
-QString getText(std::string_view key) { return toQString(localize(key, "Ui")); }
 
 std::string getMenuText(std::string_view key, char const* keys) { return localize(key, "Ui") + '\t' + keys; }
 
@@ -146,7 +145,7 @@ void QtListView::paste()
                         })->size();
     tell(editing->paste(rows, columns, block));
     if (rows.size() < block.size() || columns.size() < widest)
-        fireEvents(onMessage, getText("List_NoPlace"));
+        fireEvents(onMessage, getUiText("List_NoPlace"));
 }
 
 void QtListView::clearCells()
@@ -451,7 +450,7 @@ bool QtListView::mayTouchSelection()
     if (count <= mostCells)
         return true;
     fireEvents(onMessage,
-               getText("List_TooManyCells").arg(QLocale().toString(count), QLocale().toString(mostCells)));
+               getUiText("List_TooManyCells").arg(QLocale().toString(count), QLocale().toString(mostCells)));
     return false;
 }
 
@@ -501,7 +500,7 @@ bool QtListView::handleKey(QKeyEvent const& event)
     if (event.key() == Qt::Key_F2 && modifiers == Qt::NoModifier) {
         if (!beginEdit(currentIndex()) && !(getCells().rowCount() == 0 && goBelowLastRow({}, 0)) &&
             currentIndex().isValid())
-            fireEvents(onMessage, getText("List_CannotBeChanged"));
+            fireEvents(onMessage, getUiText("List_CannotBeChanged"));
         return true;
     }
     if (event.key() == Qt::Key_Delete && modifiers == Qt::NoModifier) {

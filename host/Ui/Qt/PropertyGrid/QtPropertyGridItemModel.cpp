@@ -1,6 +1,6 @@
 #include "Ui/Qt/PropertyGrid/QtPropertyGridItemModel.h"
 
-#include "Core/Localization/Localize.h"
+#include "Ui/Qt/QtLocalize.h"
 #include "Ui/Qt/QtText.h"
 
 #include <algorithm>
@@ -158,7 +158,7 @@ QVariant QtPropertyGridItemModel::headerData(int section, Qt::Orientation orient
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    return toQString(localize(section == nameColumn ? "Grid_Name" : "Grid_Value", "Ui"));
+    return getUiText(section == nameColumn ? "Grid_Name" : "Grid_Value");
 }
 
 bool QtPropertyGridItemModel::drive(QModelIndex const& index, Input const& input)

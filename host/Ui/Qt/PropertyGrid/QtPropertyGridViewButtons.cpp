@@ -1,9 +1,8 @@
 #include "Ui/Qt/PropertyGrid/QtPropertyGridView.h"
 
-#include "Core/Localization/Localize.h"
 #include "Ui/PropertyGrid/PropertyGridEditing.h"
 #include "Ui/Qt/PropertyGrid/QtPropertyGridLayout.h"
-#include "Ui/Qt/QtText.h"
+#include "Ui/Qt/QtLocalize.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -58,13 +57,12 @@ void QtPropertyGridView::fillMenu(QMenu& menu, QModelIndex const& index)
         menu.addAction(QtPropertyGridButtons::getText(buttons[button]), this,
                        [this, value, button] { m_rows.pressButton(value, button); });
     if (PropertyGridEditing::canPressButton(*row))
-        menu.addAction(toQString(localize("Button_edit", "Ui")), this,
-                       [this, value] { m_rows.pressButton(value); });
+        menu.addAction(getUiText("Button_edit"), this, [this, value] { m_rows.pressButton(value); });
     if (!menu.isEmpty())
         menu.addSeparator();
-    menu.addAction(toQString(localize("Grid_Copy", "Ui")), this, [this] { copySelection(); });
+    menu.addAction(getUiText("Grid_Copy"), this, [this] { copySelection(); });
     if (PropertyGridEditing::getEditor(*row) != PropertyGridEditor::None)
-        menu.addAction(toQString(localize("Grid_Clear", "Ui")), this, [this, value] { m_rows.clear(value); });
+        menu.addAction(getUiText("Grid_Clear"), this, [this, value] { m_rows.clear(value); });
 }
 
 QtPropertyGridButtons::Look QtPropertyGridView::getButtonLook(QModelIndex const& index,
