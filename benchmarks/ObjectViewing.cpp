@@ -2,7 +2,7 @@
 
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Data.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ std::size_t viewObjects(std::shared_ptr<fc::Data> const& data, std::size_t objec
     using fc::core::kernel::FcObject;
     auto const objects = data->indicesFromId(FcObject::idFirst, FcObject::idLast);
     std::size_t const step = std::max<std::size_t>(1, objects.size() / objectCount);
-    application::GridSession session(data, true);
+    application::HeadlessGrid session(data, true);
     std::size_t rows = 0;
     for (std::size_t i = 0; i < objects.size() && i / step < objectCount; i += step) {
         session.show({data->entity(objects[i])});

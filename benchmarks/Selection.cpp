@@ -3,7 +3,7 @@
 #include "Format/Ifc/Schema/SchemaLoader.h"
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Data.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 #include "ShowAllFilter.h"
 #include "StopWatch.h"
 #include "UI/FoundationClasses/Controls/PropertySetGridControl/PropertySetGridControl.h"
@@ -74,7 +74,7 @@ Measurement slowestChangeOfSelection(std::shared_ptr<fc::Data> const& data, std:
 {
     auto const objects = data->indicesFromId(FcObject::idFirst, FcObject::idLast);
     std::size_t const step = std::max<std::size_t>(1, objects.size() / (count + 1));
-    application::GridSession session(data, true);
+    application::HeadlessGrid session(data, true);
     Measurement slowest;
     for (std::size_t i = 0; i < objects.size() && i / step <= count; i += step) {
         StopWatch const watch;
@@ -89,7 +89,7 @@ Measurement slowestChangeOfSelection(std::shared_ptr<fc::Data> const& data, std:
 Measurement firstSelection(std::shared_ptr<fc::Data> const& data)
 {
     auto const objects = data->indicesFromId(FcObject::idFirst, FcObject::idLast);
-    application::GridSession session(data, true);
+    application::HeadlessGrid session(data, true);
     StopWatch const watch;
     session.show({data->entity(objects[objects.size() / 2])});
     return watch.read();

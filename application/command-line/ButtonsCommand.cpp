@@ -1,6 +1,6 @@
 #include "Commands.h"
-#include "EditorSession.h"
 #include "FileAccess.h"
+#include "HeadlessEditor.h"
 #include "ObjectLabel.h"
 #include "Output.h"
 
@@ -10,11 +10,11 @@ namespace qev::application {
 
 namespace {
 
-Json asJson(EditorSessionRow const& row)
+Json asJson(HeadlessEditorRow const& row)
 {
     auto const& record = row.record;
     Json children = Json::array();
-    for (EditorSessionRow const& child : row.children)
+    for (HeadlessEditorRow const& child : row.children)
         children.push_back(asJson(child));
     return {{"path", row.path},
             {"label", row.label},
@@ -46,29 +46,29 @@ std::string buttonText(ui::PropertyGridRowRecord const& record)
     return text;
 }
 
-void appendRows(EditorSessionRow const& row, std::size_t depth, std::vector<std::vector<std::string>>& rows)
+void appendRows(HeadlessEditorRow const& row, std::size_t depth, std::vector<std::vector<std::string>>& rows)
 {
     rows.push_back(
         {std::string(2 * depth, ' ') + row.label, valueText(row.record), buttonText(row.record), row.path});
-    for (EditorSessionRow const& child : row.children)
+    for (HeadlessEditorRow const& child : row.children)
         appendRows(child, depth + 1, rows);
 }
 
-void printAsText(std::vector<EditorSessionRow> const& tree)
+void printAsText(std::vector<HeadlessEditorRow> const& tree)
 {
     std::vector<std::vector<std::string>> rows;
-    for (EditorSessionRow const& row : tree)
+    for (HeadlessEditorRow const& row : tree)
         appendRows(row, 0, rows);
     printTable(rows);
 }
 
-void printAsJson(ObjectLabel const& label, std::vector<EditorSessionRow> const& tree)
+void printAsJson(ObjectLabel const& label, std::vector<HeadlessEditorRow> const& tree)
 {
     Json document = {{"globalId", label.globalId},
                      {"class", label.className},
                      {"name", label.name},
                      {"rows", Json::array()}};
-    for (EditorSessionRow const& row : tree)
+    for (HeadlessEditorRow const& row : tree)
         document["rows"].push_back(asJson(row));
     printJson(document);
 }
@@ -83,12 +83,12 @@ ExitCode runButtons(ButtonsOptions const& options)
     auto const object = findObject(*file, options.globalId);
     if (!object)
         return ExitCode::NothingFound;
-    EditorSession session;
-    session.show(file->data(), {object});
+    HeadlessEditor editor;
+    editor.show(file->data(), {object});
     if (options.format == Format::Json)
-        printAsJson(ObjectLabel::of(*object), session.rows());
+        printAsJson(ObjectLabel::of(*object), editor.rows());
     else
-        printAsText(session.rows());
+        printAsText(editor.rows());
     return ExitCode::Success;
 }
 

@@ -108,18 +108,18 @@ ClickAnswers::ClickAnswers(std::vector<std::string> choices, std::vector<std::st
 
 ClickAnswers::~ClickAnswers() { classification::ui::setClassificationDialog(nullptr); }
 
-ExitCode ClickAnswers::answer(EditorSession& session)
+ExitCode ClickAnswers::answer(HeadlessEditor& editor)
 {
     std::shared_ptr<ListControl> answered;
-    for (auto popup = session.popup(); popup && popup != answered; popup = session.popup()) {
+    for (auto popup = editor.popup(); popup && popup != answered; popup = editor.popup()) {
         answered = popup;
-        answerPopup(session);
+        answerPopup(editor);
         bool const mayGoOn =
             m_state->exitCode == ExitCode::Success || m_state->exitCode == ExitCode::RefusedEdit;
         if (!mayGoOn)
             return m_state->exitCode;
     }
-    session.closePopup();
+    editor.closePopup();
     for (std::string const& choice : std::exchange(m_state->choices, {}))
         m_state->fail(ExitCode::BadUsage, "nothing asks for the choice of " + choice);
     if (!m_values.empty())
@@ -127,21 +127,21 @@ ExitCode ClickAnswers::answer(EditorSession& session)
     return m_state->exitCode;
 }
 
-void ClickAnswers::answerPopup(EditorSession& session)
+void ClickAnswers::answerPopup(HeadlessEditor& editor)
 {
-    auto const list = session.popupList();
+    auto const list = editor.popupList();
     bool const hasBoxes = list->getCheckBoxMode(0).has_value();
     if (hasBoxes && list->getColumnCount() == 1)
         tick(*list);
     else if (hasBoxes)
         typeBounds(*list);
     else if ((list->getStyleFlags() & ListControl::EditLabels) != 0)
-        typeTable(session, *list);
+        typeTable(editor, *list);
     else
-        choose(session, *list);
+        choose(editor, *list);
 }
 
-void ClickAnswers::choose(EditorSession& session, HeadlessListControl& list)
+void ClickAnswers::choose(HeadlessEditor& editor, HeadlessListControl& list)
 {
     auto const choice = m_state->takeChoice();
     if (!choice) {
@@ -152,12 +152,12 @@ void ClickAnswers::choose(EditorSession& session, HeadlessListControl& list)
     auto const row = findRow(list, *choice);
     if (!row)
         return;
-    auto const popup = session.popup();
+    auto const popup = editor.popup();
     m_state->wasDialogShown = false;
-    auto const messagesBefore = session.messages().size();
+    auto const messagesBefore = editor.messages().size();
     list.activate(*row, 0);
     bool const didNothing =
-        session.popup() == popup && !m_state->wasDialogShown && session.messages().size() == messagesBefore;
+        editor.popup() == popup && !m_state->wasDialogShown && editor.messages().size() == messagesBefore;
     if (didNothing)
         refuse("the row " + *choice + " cannot be chosen");
 }
@@ -210,7 +210,7 @@ void ClickAnswers::typeBounds(HeadlessListControl& list)
     }
 }
 
-void ClickAnswers::typeTable(EditorSession& session, HeadlessListControl& list)
+void ClickAnswers::typeTable(HeadlessEditor& editor, HeadlessListControl& list)
 {
     auto const values = takeValues("defining and defined value of each row in turn");
     if (values.empty())
@@ -221,22 +221,22 @@ void ClickAnswers::typeTable(EditorSession& session, HeadlessListControl& list)
         return;
     }
     std::size_t const wantedRows = cells.size() / 2;
-    while (list.getRowCount() > wantedRows && session.deletePopupRow(list.getRowCount() - 1)) {
+    while (list.getRowCount() > wantedRows && editor.deletePopupRow(list.getRowCount() - 1)) {
     }
     for (std::size_t cell = 0; cell < cells.size(); ++cell)
-        typeCell(session, cell / 2, cell % 2, cells[cell]);
+        typeCell(editor, cell / 2, cell % 2, cells[cell]);
 }
 
-void ClickAnswers::typeCell(EditorSession& session, std::size_t row, std::size_t column,
+void ClickAnswers::typeCell(HeadlessEditor& editor, std::size_t row, std::size_t column,
                             std::string const& value)
 {
-    auto const list = session.popupList();
+    auto const list = editor.popupList();
     if (row < list->getRowCount()) {
         if (list->type(row, column, value))
             return;
     } else {
         // Below the last row an edit begins a new one.
-        session.popup()->startLabelEdit(row, column);
+        editor.popup()->startLabelEdit(row, column);
         if (list->commitText(value) && row < list->getRowCount())
             return;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "EditorSession.h"
 #include "ExitCode.h"
+#include "HeadlessEditor.h"
 
 #include <memory>
 #include <optional>
@@ -25,7 +25,7 @@ public:
     /// Answers what opens until nothing is open any more. The object answers the dialog of classifications
     /// from its beginning on, as a click may open that at once.
     /// \returns Success, RefusedEdit when values were refused, or why nothing is to be saved
-    ExitCode answer(EditorSession& session);
+    ExitCode answer(HeadlessEditor& editor);
     /// What went wrong, a line each.
     [[nodiscard]] std::vector<std::string> const& problems() const { return m_state->problems; }
 
@@ -43,12 +43,12 @@ private:
     };
     class Dialog;
 
-    void answerPopup(EditorSession& session);
-    void choose(EditorSession& session, ui::HeadlessListControl& list);
+    void answerPopup(HeadlessEditor& editor);
+    void choose(HeadlessEditor& editor, ui::HeadlessListControl& list);
     void tick(ui::HeadlessListControl& list);
     void typeBounds(ui::HeadlessListControl& list);
-    void typeTable(EditorSession& session, ui::HeadlessListControl& list);
-    void typeCell(EditorSession& session, std::size_t row, std::size_t column, std::string const& value);
+    void typeTable(HeadlessEditor& editor, ui::HeadlessListControl& list);
+    void typeCell(HeadlessEditor& editor, std::size_t row, std::size_t column, std::string const& value);
     /// Nothing, and a problem, when the list has no such row.
     std::optional<std::size_t> findRow(ui::HeadlessListControl const& list, std::string const& choice);
     /// Empty, with a problem, when there are none.

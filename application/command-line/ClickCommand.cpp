@@ -1,8 +1,8 @@
 #include "ClickAnswers.h"
 #include "Commands.h"
-#include "EditorSession.h"
 #include "FileAccess.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
+#include "HeadlessEditor.h"
 #include "SharedSets.h"
 
 #include <algorithm>
@@ -17,9 +17,9 @@ using fc::core::kernel::FcObjectDefinition;
 void tell(std::string const& problem) { std::cerr << "qev-ifc: " << problem << '\n'; }
 
 /// Tells why there is no such button. Names may hold anything, so keys stand in quotation marks.
-bool hasButton(EditorSession const& session, ClickOptions const& options)
+bool hasButton(HeadlessEditor const& editor, ClickOptions const& options)
 {
-    auto const row = session.findRow(options.path);
+    auto const row = editor.findRow(options.path);
     if (!row) {
         tell("there is no row " + options.path);
         return false;
@@ -52,11 +52,11 @@ void tellShared(FcObjectDefinition const& object, std::string const& path)
     }
 }
 
-void tellWhatHappened(EditorSession const& session, ClickAnswers const& answers)
+void tellWhatHappened(HeadlessEditor const& editor, ClickAnswers const& answers)
 {
-    for (std::string const& reference : session.openedReferences())
+    for (std::string const& reference : editor.openedReferences())
         std::cout << "leads to " << reference << '\n';
-    for (std::string const& message : session.messages())
+    for (std::string const& message : editor.messages())
         tell(message);
     for (std::string const& problem : answers.problems())
         tell(problem);
@@ -72,16 +72,16 @@ ExitCode runClick(ClickOptions const& options)
     auto const object = findObject(*file, options.globalId);
     if (!object)
         return ExitCode::NothingFound;
-    EditorSession session;
-    session.show(file->data(), {object});
-    if (!hasButton(session, options))
+    HeadlessEditor editor;
+    editor.show(file->data(), {object});
+    if (!hasButton(editor, options))
         return ExitCode::NothingFound;
     if (auto const definition = fc::entityCast<FcObjectDefinition>(object))
         tellShared(*definition, options.path);
     ClickAnswers answers(options.choices, options.values);
-    session.press(options.path, options.button);
-    ExitCode const outcome = answers.answer(session);
-    tellWhatHappened(session, answers);
+    editor.press(options.path, options.button);
+    ExitCode const outcome = answers.answer(editor);
+    tellWhatHappened(editor, answers);
     if (outcome != ExitCode::Success && outcome != ExitCode::RefusedEdit)
         return outcome;
     ExitCode const saved = saveFile(*file, options.output);

@@ -1,6 +1,6 @@
 #include "Commands.h"
 #include "FileAccess.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 #include "ObjectLabel.h"
 #include "Output.h"
 
@@ -89,7 +89,7 @@ ExitCode runGrid(GridOptions const& options)
     if (!file)
         return ExitCode::UnreadableFile;
     auto const places = findObjects(*file, options.objects);
-    GridSession session(file->data(), !options.usedOnly);
+    HeadlessGrid grid(file->data(), !options.usedOnly);
     std::vector<std::shared_ptr<fc::FcBase>> objects;
     for (fc::EntityIndex const place : places) {
         auto object = file->data()->entity(place);
@@ -98,15 +98,15 @@ ExitCode runGrid(GridOptions const& options)
         objects.push_back(std::move(object));
         if (!options.each)
             continue;
-        session.show(objects);
-        print(objects, session.groups(), options);
-        session.show({});
+        grid.show(objects);
+        print(objects, grid.groups(), options);
+        grid.show({});
         objects.clear();
         releaseIfMany(*file->data());
     }
     if (!options.each && !objects.empty()) {
-        session.show(objects);
-        print(objects, session.groups(), options);
+        grid.show(objects);
+        print(objects, grid.groups(), options);
     }
     return places.empty() ? ExitCode::NothingFound : ExitCode::Success;
 }

@@ -1,8 +1,8 @@
 #include "Commands.h"
 #include "Core/String/DelimitedText.h"
 #include "FileAccess.h"
+#include "HeadlessList.h"
 #include "IdentityColumns.h"
-#include "ListSession.h"
 #include "ListTable.h"
 #include "Output.h"
 
@@ -44,9 +44,9 @@ std::vector<ListColumn> chooseColumns(std::vector<ListColumn> const& columns,
 class Printer
 {
 public:
-    Printer(fc::Data& data, ListSession& session, std::vector<ListColumn> columns)
+    Printer(fc::Data& data, HeadlessList& list, std::vector<ListColumn> columns)
         : m_data(data)
-        , m_session(session)
+        , m_list(list)
         , m_columns(std::move(columns))
     {
     }
@@ -62,7 +62,7 @@ public:
     }
 
 private:
-    [[nodiscard]] std::size_t rowCount() const { return m_session.list().getRowCount(); }
+    [[nodiscard]] std::size_t rowCount() const { return m_list.list().getRowCount(); }
 
     void printAsCsv()
     {
@@ -71,8 +71,8 @@ private:
             headers.push_back(tableHeader(column));
         std::cout << str::writeDelimited({headers}, ',');
         for (std::size_t row = 0; row < rowCount(); ++row) {
-            std::cout << str::writeDelimited(
-                {tableRow(*m_session.control().getListControl(), row, m_columns)}, ',');
+            std::cout << str::writeDelimited({tableRow(*m_list.control().getListControl(), row, m_columns)},
+                                             ',');
             release();
         }
     }
@@ -97,9 +97,9 @@ private:
         Json object = {{"globalId", nullptr}, {"name", nullptr}, {"values", Json::object()}};
         for (ListColumn const& column : m_columns) {
             if (column.id == IdentityColumns::globalId)
-                object["globalId"] = m_session.list().getText(row, column.index);
+                object["globalId"] = m_list.list().getText(row, column.index);
             else if (column.id == IdentityColumns::name)
-                object["name"] = m_session.list().getText(row, column.index);
+                object["name"] = m_list.list().getText(row, column.index);
             else
                 object["values"][column.id] = valueAsJson(row, column.index);
         }
@@ -108,9 +108,9 @@ private:
 
     [[nodiscard]] Json valueAsJson(std::size_t row, std::size_t column) const
     {
-        if (m_session.list().getCheckBoxMode(column) != ui::ListControl::BoxAlone)
-            return m_session.list().getText(row, column);
-        auto const text = m_session.editing().getCopyText({row, column});
+        if (m_list.list().getCheckBoxMode(column) != ui::ListControl::BoxAlone)
+            return m_list.list().getText(row, column);
+        auto const text = m_list.editing().getCopyText({row, column});
         return text.empty() ? Json(nullptr) : Json(text == "TRUE");
     }
 
@@ -122,7 +122,7 @@ private:
         for (std::size_t row = 0; row < rowCount(); ++row) {
             auto& texts = table.emplace_back();
             for (ListColumn const& column : m_columns)
-                texts.push_back(m_session.list().getCellText(row, column.index));
+                texts.push_back(m_list.list().getCellText(row, column.index));
             release();
         }
         printTable(table);
@@ -131,7 +131,7 @@ private:
     void release() { releaseIfMany(m_data, rowCount()); }
 
     fc::Data& m_data;
-    ListSession& m_session;
+    HeadlessList& m_list;
     std::vector<ListColumn> m_columns;
 };
 
@@ -150,15 +150,15 @@ ExitCode runList(ListOptions const& options)
     if (objects.empty())
         return ExitCode::NothingFound;
     auto const wanted = wantedColumns(options.columns);
-    ListSession session(file->data(), wanted);
-    session.show(objects);
-    auto columns = chooseColumns(session.columns(), wanted);
+    HeadlessList list(file->data(), wanted);
+    list.show(objects);
+    auto columns = chooseColumns(list.columns(), wanted);
     bool const isNoneFound =
         !wanted.empty() &&
         std::all_of(columns.begin(), columns.end(), [](ListColumn const& column) { return column.isCustom; });
     if (isNoneFound)
         return ExitCode::NothingFound;
-    Printer(*file->data(), session, std::move(columns)).print(options.format);
+    Printer(*file->data(), list, std::move(columns)).print(options.format);
     return ExitCode::Success;
 }
 

@@ -1,7 +1,7 @@
 #include "Commands.h"
 #include "FileAccess.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 #include "ObjectLabel.h"
 #include "SharedSets.h"
 
@@ -41,11 +41,11 @@ struct Outcome
     std::size_t refused = 0;
 };
 
-void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetOptions const& options,
+void setIn(std::shared_ptr<fc::FcBase> const& object, HeadlessGrid& grid, SetOptions const& options,
            Outcome& outcome)
 {
-    session.show({object});
-    auto const groups = session.groups();
+    grid.show({object});
+    auto const groups = grid.groups();
     auto const [group, row] = findPlace(groups, options.property);
     if (!row)
         return;
@@ -54,11 +54,10 @@ void setIn(std::shared_ptr<fc::FcBase> const& object, GridSession& session, SetO
     if (std::size_t const others = countOthersWithSet(*definition, group->name); others > 0)
         std::cerr << "qev-ifc: the set is shared: " << others << " further objects change with "
                   << ObjectLabel::of(*object).getDescription() << '\n';
-    if (session.type(*row, options.value))
+    if (grid.type(*row, options.value))
         return;
     ++outcome.refused;
-    std::cout << "refused: " << ObjectLabel::of(*object).getDescription() << ": " << session.message()
-              << '\n';
+    std::cout << "refused: " << ObjectLabel::of(*object).getDescription() << ": " << grid.message() << '\n';
 }
 
 } // namespace
@@ -69,14 +68,14 @@ ExitCode runSet(SetOptions const& options)
     if (!file)
         return ExitCode::UnreadableFile;
     auto const places = findObjects(*file, options.objects);
-    GridSession session(file->data(), true,
-                        [&options](std::string const& setName, std::string const& propertyName) {
-                            return setName + "." + propertyName == options.property;
-                        });
+    HeadlessGrid grid(file->data(), true,
+                      [&options](std::string const& setName, std::string const& propertyName) {
+                          return setName + "." + propertyName == options.property;
+                      });
     Outcome outcome;
     for (fc::EntityIndex const place : places) {
         if (auto const object = file->data()->entity(place))
-            setIn(object, session, options, outcome);
+            setIn(object, grid, options, outcome);
     }
     if (outcome.offered == 0) {
         std::cerr << "qev-ifc: none of the objects has or may have the property " << options.property << '\n';

@@ -2,7 +2,7 @@
 #include "FileAccess.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySetDefinition.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 #include "Output.h"
 #include "UI/FoundationClasses/Set/PropertySetDefinition.h"
 
@@ -44,11 +44,11 @@ ExitCode runSets(SetsOptions const& options)
     std::vector<std::shared_ptr<fc::FcBase>> objects;
     for (fc::EntityIndex const place : findObjects(*file, options.objects))
         objects.push_back(file->data()->entity(place));
-    GridSession session(file->data(), true);
-    session.show(objects);
+    HeadlessGrid grid(file->data(), true);
+    grid.show(objects);
     Json sets = Json::array();
     std::vector<std::vector<std::string>> rows;
-    for (auto const& set : session.definitions()) {
+    for (auto const& set : grid.definitions()) {
         if (!set)
             continue;
         std::string const source = set->getDefinition() ? "standard" : "objects";

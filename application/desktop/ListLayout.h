@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ListSession.h"
+#include "HeadlessList.h"
 #include "Ui/Window/Controls/ListControl/ListControlSettings.h"
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ListSession.h"
+#include "HeadlessList.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -51,23 +51,23 @@ std::string textForList(std::string const& cell, std::string const& header, List
 }
 
 /// The number that \p text stands for in a column with a unit, in SI units; nothing in other columns.
-std::optional<double> numberOf(std::string const& text, ListSession const& session, ListColumn const& column)
+std::optional<double> numberOf(std::string const& text, HeadlessList const& list, ListColumn const& column)
 {
     auto const* const property =
-        column.isCustom ? nullptr : session.control().getColumns().getProperty(column.index);
+        column.isCustom ? nullptr : list.control().getColumns().getProperty(column.index);
     auto const* const single = dynamic_cast<fc::ui::FcPropertySingleValue const*>(property);
     auto const presentation = single ? single->quantityPresentation() : nullptr;
     return presentation ? presentation->parse(text) : std::nullopt;
 }
 
 /// Tells if a cell has the value \p text, as it may be written in another unit or with another decimal sign.
-bool says(ListSession const& session, ui::ListControl::ItemInfo const& item, ListColumn const& column,
+bool says(HeadlessList const& list, ui::ListControl::ItemInfo const& item, ListColumn const& column,
           std::string const& text)
 {
-    if (session.editing().says(item, text))
+    if (list.editing().says(item, text))
         return true;
-    auto const number = numberOf(text, session, column);
-    return number && number == fireEvent(session.control().getListControl()->onGetItemNumber, item);
+    auto const number = numberOf(text, list, column);
+    return number && number == fireEvent(list.control().getListControl()->onGetItemNumber, item);
 }
 
 ImportRefusal::Reason reasonOf(ui::ListRefusalReason reason)
@@ -101,14 +101,14 @@ ListImport::ListImport(ifc::IfcFile& file, ListTable const& table)
 ImportResult ListImport::preview() const
 {
     ImportResult result;
-    ListSession session(m_file.data(), columnIds());
+    HeadlessList list(m_file.data(), columnIds());
     std::vector<std::size_t> allColumns(m_table.columns.size());
     std::iota(allColumns.begin(), allColumns.end(), std::size_t{0});
     for (Group const& group : makeGroups(result)) {
-        session.show(group.objects);
+        list.show(group.objects);
         // Properties that not all objects of the class have are still those of some of them.
-        auto const missing = findChanges(session, group, allColumns, result);
-        findChangesOfSingleObjects(session, group, missing, result);
+        auto const missing = findChanges(list, group, allColumns, result);
+        findChangesOfSingleObjects(list, group, missing, result);
     }
     std::sort(result.changes.begin(), result.changes.end(),
               [](ImportChange const& left, ImportChange const& right) {
@@ -122,8 +122,8 @@ ImportResult ListImport::apply(ImportResult preview) const
 {
     ImportResult result = std::move(preview);
     fc::ChangeLog::Step const step(m_file.data()->changes(), "Import");
-    ListSession session(m_file.data(), columnIds());
-    write(session, result);
+    HeadlessList list(m_file.data(), columnIds());
+    write(list, result);
     sortRefusals(result);
     return result;
 }
@@ -149,12 +149,12 @@ std::vector<ListImport::Group> ListImport::makeGroups(ImportResult& result) cons
     return list;
 }
 
-std::vector<std::size_t> ListImport::findChanges(ListSession& session, Group const& group,
+std::vector<std::size_t> ListImport::findChanges(HeadlessList& list, Group const& group,
                                                  std::vector<std::size_t> const& tableColumns,
                                                  ImportResult& result) const
 {
     std::vector<std::size_t> missing;
-    auto const columns = session.columns();
+    auto const columns = list.columns();
     for (std::size_t const tableColumn : tableColumns) {
         std::string const& header = m_table.columns[tableColumn];
         ListColumn const* const column = findColumn(columns, header);
@@ -162,22 +162,21 @@ std::vector<std::size_t> ListImport::findChanges(ListSession& session, Group con
             missing.push_back(tableColumn);
             continue;
         }
-        auto const& setName = session.control().getColumns().getColumnNames(column->index).setName;
+        auto const& setName = list.control().getColumns().getColumnNames(column->index).setName;
         for (std::size_t row = 0; row < group.rows.size(); ++row) {
             ui::ListControl::ItemInfo const item{row, column->index};
             auto text = textForList(m_table.rows[group.rows[row]].cells[tableColumn], header, *column);
-            if (!says(session, item, *column, text))
-                addChange(session, item, {group.rows[row], tableColumn, setName, {}, std::move(text)},
-                          result);
+            if (!says(list, item, *column, text))
+                addChange(list, item, {group.rows[row], tableColumn, setName, {}, std::move(text)}, result);
         }
     }
     return missing;
 }
 
-void ListImport::addChange(ListSession const& session, ui::ListControl::ItemInfo const& item,
+void ListImport::addChange(HeadlessList const& list, ui::ListControl::ItemInfo const& item,
                            ImportChange change, ImportResult& result) const
 {
-    auto const editing = session.editing();
+    auto const editing = list.editing();
     if (auto const reason = editing.findRefusal(item, change.newText)) {
         result.refusals.push_back(refusalOf(change, *reason));
         return;
@@ -193,7 +192,7 @@ ImportRefusal ListImport::refusalOf(ImportChange const& change, ui::ListRefusalR
             reasonOf(reason)};
 }
 
-void ListImport::findChangesOfSingleObjects(ListSession& session, Group const& group,
+void ListImport::findChangesOfSingleObjects(HeadlessList& list, Group const& group,
                                             std::vector<std::size_t> const& tableColumns,
                                             ImportResult& result) const
 {
@@ -204,25 +203,25 @@ void ListImport::findChangesOfSingleObjects(ListSession& session, Group const& g
                      [&tableRow](std::size_t column) { return !tableRow.cells[column].empty(); });
         if (filled.empty())
             continue;
-        session.show({group.objects[row]});
+        list.show({group.objects[row]});
         for (std::size_t const column :
-             findChanges(session, {{group.rows[row]}, {group.objects[row]}}, filled, result))
+             findChanges(list, {{group.rows[row]}, {group.objects[row]}}, filled, result))
             result.refusals.push_back({tableRow.line, tableRow.globalId, m_table.columns[column],
                                        tableRow.cells[column], ImportRefusal::Reason::NoSuchProperty});
     }
 }
 
-void ListImport::write(ListSession& session, ImportResult& result) const
+void ListImport::write(HeadlessList& list, ImportResult& result) const
 {
     std::vector<ImportChange> taken;
-    auto const editing = session.editing();
+    auto const editing = list.editing();
     for (auto change = result.changes.begin(); change != result.changes.end();) {
         ListTable::Row const& tableRow = m_table.rows[change->row];
         auto const endOfRow = std::find_if(change, result.changes.end(), [&](ImportChange const& other) {
             return other.row != change->row;
         });
-        session.show({m_file.entityFromGlobalId(tableRow.globalId)});
-        auto const columns = session.columns();
+        list.show({m_file.entityFromGlobalId(tableRow.globalId)});
+        auto const columns = list.columns();
         for (; change != endOfRow; ++change) {
             std::string const& header = m_table.columns[change->column];
             ListColumn const* const column = findColumn(columns, header);

@@ -84,16 +84,16 @@ private:
     [[nodiscard]] std::vector<Group> makeGroups(ImportResult& result) const;
     /// Looks for what differs in the columns of the table at \p tableColumns.
     /// \returns those that the list of the group does not have.
-    std::vector<std::size_t> findChanges(ListSession& session, Group const& group,
+    std::vector<std::size_t> findChanges(HeadlessList& list, Group const& group,
                                          std::vector<std::size_t> const& tableColumns,
                                          ImportResult& result) const;
     /// Notes a cell that says something else than the model: as a change, or as a refusal where the model
     /// would not take it.
-    void addChange(ListSession const& session, ui::ListControl::ItemInfo const& item, ImportChange change,
+    void addChange(HeadlessList const& list, ui::ListControl::ItemInfo const& item, ImportChange change,
                    ImportResult& result) const;
-    void findChangesOfSingleObjects(ListSession& session, Group const& group,
+    void findChangesOfSingleObjects(HeadlessList& list, Group const& group,
                                     std::vector<std::size_t> const& tableColumns, ImportResult& result) const;
-    void write(ListSession& session, ImportResult& result) const;
+    void write(HeadlessList& list, ImportResult& result) const;
     [[nodiscard]] ImportRefusal refusalOf(ImportChange const& change, ui::ListRefusalReason reason) const;
     [[nodiscard]] std::vector<std::string> columnIds() const;
 

@@ -16,7 +16,7 @@ using namespace qev::test::samples;
 using namespace qev::test::reference;
 using namespace qev::fc::ui;
 using qev::application::GridGroup;
-using qev::application::GridSession;
+using qev::application::HeadlessGrid;
 using Kind = ReferenceProperty::Kind;
 
 /// Tells whether a set that only objects have gets an entry for a property.
@@ -64,7 +64,7 @@ bool isOffered(qev::ifc::def::xml::SetDef const& definition, std::string const& 
 class Agreement : public ComparisonTest
 {
 protected:
-    void compareSets(GridSession const& session, std::vector<GridGroup> const& groups, std::uint64_t id);
+    void compareSets(HeadlessGrid const& session, std::vector<GridGroup> const& groups, std::uint64_t id);
     void compareSet(PropertySetDefinition const& definition, GridGroup const* group, ReferenceSet const& set);
     void compareProperty(PropertyInterface const& shown, Row const* row, ReferenceProperty const& property);
     void compareAttributes(GridGroup const& group, std::uint64_t id);
@@ -76,7 +76,7 @@ protected:
     std::size_t failedObjects = 0;
 };
 
-void Agreement::compareSets(GridSession const& session, std::vector<GridGroup> const& groups,
+void Agreement::compareSets(HeadlessGrid const& session, std::vector<GridGroup> const& groups,
                             std::uint64_t id)
 {
     // The control lists the own sets of objects and types; a project is neither.
@@ -209,7 +209,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, Agreement, testing::ValuesIn(wellFormedFiles()
 TEST_P(Agreement, OfEveryObjectWithTheReferenceReader)
 {
     ASSERT_TRUE(opened.file);
-    GridSession session(opened.file->data(), false);
+    HeadlessGrid session(opened.file->data(), false);
     for (std::uint64_t const id : reader.objects()) {
         SCOPED_TRACE('#' + std::to_string(id) + " " + reader.keyword(id));
         std::vector<GridGroup> const groups = show(session, {id});

@@ -15,7 +15,7 @@ using namespace qev::test::samples;
 using namespace qev::test::reference;
 using namespace qev::fc::ui;
 using qev::application::GridGroup;
-using qev::application::GridSession;
+using qev::application::HeadlessGrid;
 using Kind = ReferenceProperty::Kind;
 
 /// Objects that are shown together.
@@ -111,8 +111,8 @@ protected:
     [[nodiscard]] std::vector<Selection> eachAlone() const;
 
     void compareAll(std::vector<Selection> const& selections, bool showUnused);
-    void compare(GridSession const& session, std::vector<GridGroup> const& groups, Selection const& objects);
-    void compareSetNames(GridSession const& session, SetsOfAll const& sets, bool hasContext);
+    void compare(HeadlessGrid const& session, std::vector<GridGroup> const& groups, Selection const& objects);
+    void compareSetNames(HeadlessGrid const& session, SetsOfAll const& sets, bool hasContext);
     void compareProperty(PropertyInterface const& shown, Row const* row, CommonProperty const& common);
     void compareText(PropertyInterface const& shown, Row const* row, ReferenceProperty const& property);
     void expectEmpty(PropertyInterface const& shown, Row const* row);
@@ -151,7 +151,7 @@ void CommonValues::compareAll(std::vector<Selection> const& selections, bool sho
 {
     ASSERT_TRUE(opened.file);
     showsUnused = showUnused;
-    GridSession session(opened.file->data(), showUnused);
+    HeadlessGrid session(opened.file->data(), showUnused);
     for (Selection const& selection : selections) {
         SCOPED_TRACE('#' + std::to_string(selection.front()) + " " + reader.keyword(selection.front()) +
                      ", " + std::to_string(selection.size()) + " objects");
@@ -167,7 +167,7 @@ void CommonValues::compareAll(std::vector<Selection> const& selections, bool sho
     reports.print();
 }
 
-void CommonValues::compare(GridSession const& session, std::vector<GridGroup> const& groups,
+void CommonValues::compare(HeadlessGrid const& session, std::vector<GridGroup> const& groups,
                            Selection const& objects)
 {
     SetsOfAll sets;
@@ -193,7 +193,7 @@ void CommonValues::compare(GridSession const& session, std::vector<GridGroup> co
     }
 }
 
-void CommonValues::compareSetNames(GridSession const& session, SetsOfAll const& sets, bool hasContext)
+void CommonValues::compareSetNames(HeadlessGrid const& session, SetsOfAll const& sets, bool hasContext)
 {
     std::map<std::string, std::size_t> counts;
     for (auto const& setsOfObject : sets) {

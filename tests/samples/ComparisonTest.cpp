@@ -22,7 +22,7 @@ namespace qev::test::samples {
 
 using namespace fc::ui;
 using application::GridGroup;
-using application::GridSession;
+using application::HeadlessGrid;
 using reference::ReferenceProperty;
 using reference::ReferenceReader;
 using reference::ReferenceValue;
@@ -51,7 +51,7 @@ ComparisonTest::ComparisonTest()
 {
 }
 
-std::vector<GridGroup> ComparisonTest::show(GridSession& session, std::vector<std::uint64_t> const& ids)
+std::vector<GridGroup> ComparisonTest::show(HeadlessGrid& session, std::vector<std::uint64_t> const& ids)
 {
     std::vector<std::shared_ptr<fc::FcBase>> objects;
     for (std::uint64_t const id : ids)
@@ -62,7 +62,7 @@ std::vector<GridGroup> ComparisonTest::show(GridSession& session, std::vector<st
     return groups;
 }
 
-void ComparisonTest::release(GridSession& session)
+void ComparisonTest::release(HeadlessGrid& session)
 {
     constexpr std::size_t enough = 20000;
     if (opened.file->data()->objectCount() < enough)

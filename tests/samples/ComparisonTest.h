@@ -2,7 +2,7 @@
 
 #include "ExpectedReports.h"
 #include "Format/Ifc/Model/IfcFile.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 #include "reference-reader/ReferenceReader.h"
 #include "SampleFiles.h"
 #include "UI/FoundationClasses/Property/PropertyInterface.h"
@@ -24,11 +24,11 @@ protected:
     ComparisonTest();
 
     /// Shows objects by the numbers of their records; the groups are valid until the next ones are shown.
-    std::vector<application::GridGroup> show(application::GridSession& session,
+    std::vector<application::GridGroup> show(application::HeadlessGrid& session,
                                              std::vector<std::uint64_t> const& ids);
     /// Lets go of objects that were shown, so that big files stay small in memory; not each time, for objects
     /// of a kind share their relations.
-    void release(application::GridSession& session);
+    void release(application::HeadlessGrid& session);
 
     /// Holds the row of a single value against the value in the file.
     static void compareSingle(fc::ui::PropertyInterface const& shown, Row const& row,

@@ -16,7 +16,7 @@
 namespace qev::test::samples {
 
 using application::GridGroup;
-using application::GridSession;
+using application::HeadlessGrid;
 using fc::ui::PropertyInterface;
 using reference::ReferenceProperty;
 using reference::ReferenceReader;
@@ -165,7 +165,7 @@ std::string EditTarget::describe() const
     return '#' + std::to_string(object) + " " + setName + "." + propertyName + " becomes " + newText;
 }
 
-std::optional<Row> findRow(GridSession const& session, EditTarget const& target)
+std::optional<Row> findRow(HeadlessGrid const& session, EditTarget const& target)
 {
     for (GridGroup const& group : session.groups()) {
         if (group.kind != (target.isQuantity() ? "quantity set" : "property set") ||
@@ -179,7 +179,7 @@ std::optional<Row> findRow(GridSession const& session, EditTarget const& target)
     return std::nullopt;
 }
 
-std::vector<EditTarget> findTargets(GridSession& session, ReferenceReader const& reader,
+std::vector<EditTarget> findTargets(HeadlessGrid& session, ReferenceReader const& reader,
                                     std::shared_ptr<fc::FcBase> const& entity, std::uint64_t object,
                                     std::set<Kind> const& done)
 {
@@ -212,7 +212,7 @@ std::vector<EditTarget> findTargets(GridSession& session, ReferenceReader const&
     return targets;
 }
 
-std::vector<EditTarget> findMissing(GridSession const& session, ReferenceReader const& reader,
+std::vector<EditTarget> findMissing(HeadlessGrid const& session, ReferenceReader const& reader,
                                     std::uint64_t object, std::set<Kind> const& done)
 {
     std::set<std::string> present;
@@ -240,7 +240,7 @@ std::vector<EditTarget> findMissing(GridSession const& session, ReferenceReader 
     return targets;
 }
 
-std::string describe(GridSession const& session)
+std::string describe(HeadlessGrid const& session)
 {
     std::ostringstream text;
     for (GridGroup const& group : session.groups()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 #include "reference-reader/ReferenceReader.h"
 
 #include <cstddef>
@@ -45,13 +45,13 @@ struct EditTarget
 };
 
 /// The row of a target; none when it is not shown.
-[[nodiscard]] std::optional<application::GridGroup::Row> findRow(application::GridSession const& session,
+[[nodiscard]] std::optional<application::GridGroup::Row> findRow(application::HeadlessGrid const& session,
                                                                  EditTarget const& target);
 
 /// Values of an object that can be changed, at most one of each kind that is not in \p done.
 ///
 /// The object is shown when it has a value of such a kind. No two targets share a set.
-[[nodiscard]] std::vector<EditTarget> findTargets(application::GridSession& session,
+[[nodiscard]] std::vector<EditTarget> findTargets(application::HeadlessGrid& session,
                                                   reference::ReferenceReader const& reader,
                                                   std::shared_ptr<fc::FcBase> const& entity,
                                                   std::uint64_t object,
@@ -59,12 +59,12 @@ struct EditTarget
 
 /// Values of sets that the object does not have, one of each kind and each in a set of its own. The object
 /// is shown already, with its unused properties.
-[[nodiscard]] std::vector<EditTarget> findMissing(application::GridSession const& session,
+[[nodiscard]] std::vector<EditTarget> findMissing(application::HeadlessGrid const& session,
                                                   reference::ReferenceReader const& reader,
                                                   std::uint64_t object,
                                                   std::set<EditTarget::Kind> const& done);
 
 /// All groups and rows with their values, line by line.
-[[nodiscard]] std::string describe(application::GridSession const& session);
+[[nodiscard]] std::string describe(application::HeadlessGrid const& session);
 
 } // namespace qev::test::samples

@@ -17,7 +17,7 @@ namespace {
 
 using namespace qev::test::samples;
 using namespace qev::test::reference;
-using qev::application::GridSession;
+using qev::application::HeadlessGrid;
 using qev::ifc::IfcFile;
 using qev::test::readFile;
 using testing::IsEmpty;
@@ -58,17 +58,17 @@ protected:
     {
     }
 
-    void show(GridSession& session, IfcFile const& file, std::uint64_t id)
+    void show(HeadlessGrid& session, IfcFile const& file, std::uint64_t id)
     {
         session.show({file.entityFromId(id)});
         reports.take('#' + std::to_string(id));
     }
 
     /// Of each class of objects a value of each kind, where there is one that can be changed.
-    std::vector<EditTarget> targetsOfAllClasses(GridSession& session);
+    std::vector<EditTarget> targetsOfAllClasses(HeadlessGrid& session);
 
     /// Types a text into the row of a target; the object is shown anew first.
-    bool type(GridSession& session, EditTarget const& target, std::string const& text)
+    bool type(HeadlessGrid& session, EditTarget const& target, std::string const& text)
     {
         show(session, *opened.file, target.object);
         auto const row = findRow(session, target);
@@ -130,7 +130,7 @@ protected:
     ExpectedReports reports;
 };
 
-std::vector<EditTarget> Edit::targetsOfAllClasses(GridSession& session)
+std::vector<EditTarget> Edit::targetsOfAllClasses(HeadlessGrid& session)
 {
     // Of each class the first objects are looked at, in view of the time.
     constexpr int mostTries = 5;
@@ -160,13 +160,13 @@ void Edit::expectSameGrids(std::string const& text, std::vector<EditTarget> cons
     ASSERT_TRUE(again.file);
     std::map<std::uint64_t, std::string> grids;
     {
-        GridSession session(opened.file->data(), false);
+        HeadlessGrid session(opened.file->data(), false);
         for (EditTarget const& target : targets) {
             show(session, *opened.file, target.object);
             grids[target.object] = describe(session);
         }
     }
-    GridSession session(again.file->data(), false);
+    HeadlessGrid session(again.file->data(), false);
     for (auto const& [object, grid] : grids) {
         show(session, *again.file, object);
         EXPECT_EQ(describe(session), grid) << '#' << object;
@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, Edit, testing::ValuesIn(wellFormedFiles()),
 
 TEST_P(Edit, OfAValueChangesItsRecordAndNoOtherByte)
 {
-    GridSession session(opened.file->data(), false);
+    HeadlessGrid session(opened.file->data(), false);
     std::vector<EditTarget> const targets = targetsOfAllClasses(session);
     for (EditTarget const& target : targets) {
         SCOPED_TRACE(target.describe());
@@ -227,7 +227,7 @@ TEST_P(Edit, OfAValueChangesItsRecordAndNoOtherByte)
 
 TEST_P(Edit, OfOneValueAfterTheOtherChangesOneRecordEach)
 {
-    GridSession session(opened.file->data(), false);
+    HeadlessGrid session(opened.file->data(), false);
     std::vector<EditTarget> targets = targetsOfAllClasses(session);
     // Each takes a whole text of the file: of many, six are tried.
     constexpr std::size_t most = 6;
@@ -242,7 +242,7 @@ TEST_P(Edit, OfOneValueAfterTheOtherChangesOneRecordEach)
 
 TEST_P(Edit, ThatIsRefusedLeavesTheFileAsItWas)
 {
-    GridSession session(opened.file->data(), false);
+    HeadlessGrid session(opened.file->data(), false);
     std::size_t count = 0;
     for (EditTarget const& target : targetsOfAllClasses(session)) {
         // Labels take any text.
@@ -265,7 +265,7 @@ TEST_P(Edit, ThatClearsAValueTakesThePropertyAwayAndTheSetWithItsLast)
 {
     // A number that is cleared is no number.
     reports.add("Quantity formatted property should be compatible with double.");
-    GridSession session(opened.file->data(), false);
+    HeadlessGrid session(opened.file->data(), false);
     std::vector<EditTarget> targets = targetsOfAllClasses(session);
     // A check box cannot be cleared.
     std::erase_if(targets, [](EditTarget const& target) { return target.kind == Kind::Boolean; });
@@ -323,7 +323,7 @@ TEST_P(Edit, ThatClearsAValueTakesThePropertyAwayAndTheSetWithItsLast)
 
 TEST_P(Edit, OfAValueThatTheObjectLacksCreatesTheSetAndClearingItTakesTheSetAway)
 {
-    GridSession session(opened.file->data(), true);
+    HeadlessGrid session(opened.file->data(), true);
     // Of each class the first object, and of the classes the first ten, in view of the time.
     constexpr std::size_t mostClasses = 10;
     std::vector<EditTarget> targets;
@@ -388,7 +388,7 @@ TEST_P(Edit, OfTwentyObjectsReachesEachOfThem)
         if (objects.size() < twenty)
             objects.push_back(id);
     }
-    GridSession session(opened.file->data(), true);
+    HeadlessGrid session(opened.file->data(), true);
     for (auto const& [keyword, objects] : ofClass) {
         std::vector<std::shared_ptr<qev::fc::FcBase>> entities;
         for (std::uint64_t const id : objects)

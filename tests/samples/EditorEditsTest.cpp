@@ -1,8 +1,8 @@
 #include "Classifications.h"
 #include "ClickAnswers.h"
-#include "EditorSession.h"
 #include "ExpectedReports.h"
 #include "Format/Ifc/Model/IfcFile.h"
+#include "HeadlessEditor.h"
 #include "kit/TemporaryFolder.h"
 #include "RecordChanges.h"
 #include "RecordReferences.h"
@@ -22,9 +22,9 @@ namespace {
 using namespace qev::test::samples;
 using namespace qev::test::reference;
 using qev::application::ClickAnswers;
-using qev::application::EditorSession;
-using qev::application::EditorSessionRow;
 using qev::application::ExitCode;
+using qev::application::HeadlessEditor;
+using qev::application::HeadlessEditorRow;
 using qev::ifc::IfcFile;
 using qev::test::readFile;
 using testing::IsEmpty;
@@ -116,7 +116,7 @@ protected:
     {
         Choices paths;
         if (auto const row = session.findRow(path)) {
-            for (EditorSessionRow const& child : row->children)
+            for (HeadlessEditorRow const& child : row->children)
                 paths.push_back(child.path);
         }
         return paths;
@@ -178,7 +178,7 @@ protected:
         }
     }
 
-    EditorSession session;
+    HeadlessEditor session;
     ReferenceReader reader = ReferenceReader::fromFile(GetParam().path.string(), SCHEMA_DIRECTORY);
     std::string before;
     ExpectedReports reports;

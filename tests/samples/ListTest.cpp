@@ -3,9 +3,9 @@
 #include "ExpectedReports.h"
 #include "Format/Ifc/Model/IfcFile.h"
 #include "FoundationClasses/Core/Kernel/FcObjectDefinition.h"
-#include "GridSession.h"
+#include "HeadlessGrid.h"
+#include "HeadlessList.h"
 #include "ListImport.h"
-#include "ListSession.h"
 #include "ListTable.h"
 #include "ObjectLabel.h"
 #include "RecordChanges.h"
@@ -94,13 +94,13 @@ protected:
         return known;
     }
 
-    void compareRow(ListSession const& list, std::size_t row, GridSession& grid);
-    void compareCell(ListSession const& list, ListControl::ItemInfo const& cell,
+    void compareRow(HeadlessList const& list, std::size_t row, HeadlessGrid& grid);
+    void compareCell(HeadlessList const& list, ListControl::ItemInfo const& cell,
                      PropertyInterface const& shown, GridGroup::Row const* gridRow);
 
     /// Expects that a table says what the model says.
     void expectNoChange(std::string const& csv);
-    void importEdit(ListSession const& list, ColumnEdit const& edit);
+    void importEdit(HeadlessList const& list, ColumnEdit const& edit);
 
     qev::ifc::OpenResult opened;
     ExpectedReports reports;
@@ -108,7 +108,7 @@ protected:
     std::size_t cellsOfOtherKinds = 0;
 };
 
-PropertyInterface const* findProperty(GridSession const& grid, std::string const& setName,
+PropertyInterface const* findProperty(HeadlessGrid const& grid, std::string const& setName,
                                       std::string const& name)
 {
     for (auto const& definition : grid.definitions()) {
@@ -133,7 +133,7 @@ GridGroup::Row const* findRow(std::vector<GridGroup> const& groups, PropertyInte
     return nullptr;
 }
 
-void List::compareRow(ListSession const& list, std::size_t row, GridSession& grid)
+void List::compareRow(HeadlessList const& list, std::size_t row, HeadlessGrid& grid)
 {
     auto const& object = list.control().getObjects()[row];
     SCOPED_TRACE(ObjectLabel::of(*object).globalId + " " + object->getEntityName());
@@ -155,7 +155,7 @@ void List::compareRow(ListSession const& list, std::size_t row, GridSession& gri
     }
 }
 
-void List::compareCell(ListSession const& list, ListControl::ItemInfo const& cell,
+void List::compareCell(HeadlessList const& list, ListControl::ItemInfo const& cell,
                        PropertyInterface const& shown, GridGroup::Row const* gridRow)
 {
     ++cellsCompared;
@@ -178,8 +178,8 @@ INSTANTIATE_TEST_SUITE_P(Samples, List, testing::ValuesIn(wellFormedFiles()),
 TEST_P(List, OfEachClassShowsWhatTheGridShowsForEachObjectAlone)
 {
     ASSERT_TRUE(opened.file);
-    ListSession list(opened.file->data());
-    GridSession grid(opened.file->data(), true);
+    HeadlessList list(opened.file->data());
+    HeadlessGrid grid(opened.file->data(), true);
     for (auto const& [name, objects] : objectsByClass()) {
         list.show(objects);
         reports.take(name);
@@ -196,7 +196,7 @@ TEST_P(List, OfEachClassShowsWhatTheGridShowsForEachObjectAlone)
 }
 
 /// The rows of a column with a text or a number that can be changed.
-std::vector<std::size_t> editableRows(ListSession const& list, ListColumn const& column)
+std::vector<std::size_t> editableRows(HeadlessList const& list, ListColumn const& column)
 {
     std::vector<std::size_t> rows;
     auto const editing = list.editing();
@@ -215,7 +215,7 @@ std::vector<std::size_t> editableRows(ListSession const& list, ListColumn const&
 
 /// The first column of a list that has texts or numbers to change. All of them become the same, made from
 /// \p number: rows may share a set.
-std::optional<ColumnEdit> findEdit(ListSession const& list, std::size_t number)
+std::optional<ColumnEdit> findEdit(HeadlessList const& list, std::size_t number)
 {
     for (auto const& column : list.columns()) {
         auto const rows = column.isCustom ? std::vector<std::size_t>() : editableRows(list, column);
@@ -248,7 +248,7 @@ std::vector<std::string> exported(IfcFile const& file, ColumnEdit const& edit)
     Objects objects;
     for (auto const& globalId : edit.globalIds)
         objects.push_back(file.entityFromGlobalId(globalId));
-    ListSession list(file.data());
+    HeadlessList list(file.data());
     list.show(objects);
     auto const columns = list.columns();
     auto const column = std::find_if(columns.begin(), columns.end(), [&edit](ListColumn const& candidate) {
@@ -263,7 +263,7 @@ std::vector<std::string> exported(IfcFile const& file, ColumnEdit const& edit)
 }
 
 /// The table of all rows and columns of a list.
-Table exportedTable(ListSession const& list)
+Table exportedTable(HeadlessList const& list)
 {
     auto const columns = list.columns();
     Table rows(1);
@@ -283,7 +283,7 @@ void List::expectNoChange(std::string const& csv)
                       << change.oldText << " is not " << change.newText;
 }
 
-void List::importEdit(ListSession const& list, ColumnEdit const& edit)
+void List::importEdit(HeadlessList const& list, ColumnEdit const& edit)
 {
     auto rows = exportedTable(list);
     auto const& headers = rows.front();
@@ -312,7 +312,7 @@ TEST_P(List, GoesOutAsATableAndComesBackChanged)
     std::vector<ColumnEdit> edits;
     std::size_t edited = 0;
     for (auto const& [name, objects] : objectsByClass()) {
-        ListSession list(opened.file->data());
+        HeadlessList list(opened.file->data());
         list.show(knownByGlobalId(objects));
         expectNoChange(qev::str::writeDelimited(exportedTable(list), ','));
         if (auto const edit = findEdit(list, edits.size())) {

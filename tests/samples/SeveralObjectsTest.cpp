@@ -1,7 +1,7 @@
 #include "Classifications.h"
 #include "ClickAnswers.h"
-#include "EditorSession.h"
 #include "Format/Ifc/Model/IfcFile.h"
+#include "HeadlessEditor.h"
 #include "kit/TemporaryFolder.h"
 #include "RecordChanges.h"
 #include "RecordReferences.h"
@@ -23,9 +23,9 @@ namespace {
 using namespace qev::test::samples;
 using namespace qev::test::reference;
 using qev::application::ClickAnswers;
-using qev::application::EditorSession;
-using qev::application::EditorSessionRow;
 using qev::application::ExitCode;
+using qev::application::HeadlessEditor;
+using qev::application::HeadlessEditorRow;
 using qev::ifc::IfcFile;
 using qev::test::readFile;
 using testing::ElementsAre;
@@ -81,7 +81,7 @@ protected:
     {
         Choices paths;
         if (auto const found = session.findRow(row)) {
-            for (EditorSessionRow const& child : found->children)
+            for (HeadlessEditorRow const& child : found->children)
                 paths.push_back(child.path);
         }
         return paths;
@@ -141,7 +141,7 @@ protected:
         return ids;
     }
 
-    EditorSession session;
+    HeadlessEditor session;
     qev::test::TemporaryFolder target;
     std::filesystem::path path;
     std::string before;

@@ -53,7 +53,7 @@ protected:
     TemporaryFolder folder;
     std::filesystem::path path = folder.path() / "list.xlsx";
     std::unique_ptr<ifc::IfcFile> file = ifc::IfcFile::fromText(model).file;
-    ListSession session{file->data(), {"Own.Offset", "Own.Factor", "Own.Mark"}};
+    HeadlessList session{file->data(), {"Own.Offset", "Own.Factor", "Own.Mark"}};
 };
 
 TEST_F(ListExportTest, NumbersOfAWorkbookAreNumbersAndNamesStayNames)

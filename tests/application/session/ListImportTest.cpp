@@ -84,7 +84,7 @@ protected:
     [[nodiscard]] std::string csv(std::vector<std::string> const& ids,
                                   std::vector<std::string> const& columns) const
     {
-        ListSession session(file->data(), columns);
+        HeadlessList session(file->data(), columns);
         session.show(objects(ids));
         std::vector<std::vector<std::string>> rows(1);
         for (auto const& column : session.columns())
@@ -156,7 +156,7 @@ TEST_F(ListImportTest, TablesHaveAllDigitsUnitsAndTruthValues)
 TEST_F(ListImportTest, TheCurrentBackEndStaysTheCurrentOne)
 {
     auto const backend = ui::HeadlessBackend::install();
-    ListSession const session(file->data());
+    HeadlessList const session(file->data());
     EXPECT_EQ(ui::details::WindowInterfaceFactory::getBackend(), backend);
     ui::details::WindowInterfaceFactory::setBackend(nullptr);
 }

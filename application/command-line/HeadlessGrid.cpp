@@ -1,4 +1,4 @@
-#include "GridSession.h"
+#include "HeadlessGrid.h"
 
 #include "Core/Localization/Dictionaries.h"
 #include "Format/Ifc/Schema/SchemaLoader.h"
@@ -24,7 +24,7 @@ constexpr int gridId = 101;
 
 /// Listens while the control builds its rows: rows of attributes carry no hint of their own of what they
 /// show.
-class GridSession::Recorder final : public fc::ui::PropertySetDefinitionFilterInterface, public RowStrategy
+class HeadlessGrid::Recorder final : public fc::ui::PropertySetDefinitionFilterInterface, public RowStrategy
 {
 public:
     /// The attributes of one object or type, as their rows come into being.
@@ -71,7 +71,7 @@ private:
     mutable std::vector<AttributeGroup> m_groups;
 };
 
-GridSession::GridSession(std::shared_ptr<fc::Data> data, bool showUnused, RowFilter filter)
+HeadlessGrid::HeadlessGrid(std::shared_ptr<fc::Data> data, bool showUnused, RowFilter filter)
     : m_data(std::move(data))
     , m_backend(ui::HeadlessBackend::install())
     , m_dialog(m_backend->createDialog({800, 600}))
@@ -91,25 +91,25 @@ GridSession::GridSession(std::shared_ptr<fc::Data> data, bool showUnused, RowFil
     m_control->init(gridId, std::nullopt, true);
 }
 
-GridSession::~GridSession() = default;
+HeadlessGrid::~HeadlessGrid() = default;
 
-void GridSession::show(std::vector<std::shared_ptr<fc::FcBase>> const& objects)
+void HeadlessGrid::show(std::vector<std::shared_ptr<fc::FcBase>> const& objects)
 {
     m_recorder->clear();
     m_control->setObjects(m_data, objects);
 }
 
-ui::HeadlessPropertyGrid& GridSession::grid() const
+ui::HeadlessPropertyGrid& HeadlessGrid::grid() const
 {
     return *m_backend->getPropertyGrid(*m_control->getPropertyGridControl());
 }
 
-std::vector<std::unique_ptr<PropertySetDefinition>> const& GridSession::definitions() const
+std::vector<std::unique_ptr<PropertySetDefinition>> const& HeadlessGrid::definitions() const
 {
     return m_control->getDefinitions();
 }
 
-std::vector<GridGroup> GridSession::groups() const
+std::vector<GridGroup> HeadlessGrid::groups() const
 {
     std::vector<GridGroup> groups;
     std::size_t attributeGroup = 0;
@@ -118,7 +118,7 @@ std::vector<GridGroup> GridSession::groups() const
     return groups;
 }
 
-GridGroup GridSession::groupOf(ui::PropertyGridRow const& top, std::size_t& attributeGroup) const
+GridGroup HeadlessGrid::groupOf(ui::PropertyGridRow const& top, std::size_t& attributeGroup) const
 {
     GridGroup group;
     group.label = top.getName();
@@ -146,7 +146,7 @@ GridGroup GridSession::groupOf(ui::PropertyGridRow const& top, std::size_t& attr
     return group;
 }
 
-bool GridSession::type(GridGroup::Row const& row, std::string const& text)
+bool HeadlessGrid::type(GridGroup::Row const& row, std::string const& text)
 {
     ui::HeadlessPropertyGrid& window = grid();
     bool isAccepted = false;
@@ -168,7 +168,7 @@ bool GridSession::type(GridGroup::Row const& row, std::string const& text)
     return isAccepted && !isBlanked;
 }
 
-bool GridSession::setCheckBox(GridGroup::Row const& row, std::string const& text)
+bool HeadlessGrid::setCheckBox(GridGroup::Row const& row, std::string const& text)
 {
     bool const isTrue = text == "true" || text == "1";
     if (!isTrue && text != "false" && text != "0") {

@@ -36,14 +36,14 @@ struct GridGroup
 };
 
 /// A property grid of objects on the headless back end, read and driven as by a user.
-class GridSession
+class HeadlessGrid
 {
 public:
     /// Which rows are wanted; all without one.
     using RowFilter = std::function<bool(std::string const& setName, std::string const& propertyName)>;
 
-    GridSession(std::shared_ptr<fc::Data> data, bool showUnused, RowFilter filter = {});
-    ~GridSession();
+    HeadlessGrid(std::shared_ptr<fc::Data> data, bool showUnused, RowFilter filter = {});
+    ~HeadlessGrid();
 
     /// Shows these objects; groups of former ones end here.
     void show(std::vector<std::shared_ptr<fc::FcBase>> const& objects);

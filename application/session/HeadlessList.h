@@ -34,12 +34,12 @@ struct ListColumn
 /// properties that the objects have in common.
 ///
 /// The current back end stays the current one, so that a program with windows can use this beside them.
-class ListSession
+class HeadlessList
 {
 public:
     /// Shows only \p columns, by their ids, or all when there are none.
-    explicit ListSession(std::shared_ptr<fc::Data> data, std::vector<std::string> columns = {});
-    ~ListSession();
+    explicit HeadlessList(std::shared_ptr<fc::Data> data, std::vector<std::string> columns = {});
+    ~HeadlessList();
 
     void show(std::vector<std::shared_ptr<fc::FcBase>> const& objects);
     [[nodiscard]] std::vector<ListColumn> columns() const { return listColumnsOf(*m_control); }

@@ -12,32 +12,32 @@
 namespace qev::application {
 
 /// A row of the object editor, with those below it.
-struct EditorSessionRow
+struct HeadlessEditorRow
 {
     /// The path by which the objects answer for the row.
     std::string path;
     std::string label;
     ui::PropertyGridRowRecord record;
-    std::vector<EditorSessionRow> children;
+    std::vector<HeadlessEditorRow> children;
 };
 
 /// The object editor of some objects on the headless back end, read and driven as by a user.
 ///
 /// Enumerations have a button that opens a list of their values while a session lives.
-class EditorSession
+class HeadlessEditor
 {
 public:
-    EditorSession();
-    ~EditorSession();
-    EditorSession(EditorSession const&) = delete;
-    EditorSession& operator=(EditorSession const&) = delete;
+    HeadlessEditor();
+    ~HeadlessEditor();
+    HeadlessEditor(HeadlessEditor const&) = delete;
+    HeadlessEditor& operator=(HeadlessEditor const&) = delete;
 
     /// Shows entities of a model together, in place of former ones.
     void show(std::shared_ptr<fc::Data> data, std::vector<std::shared_ptr<fc::FcBase>> entities);
 
-    [[nodiscard]] std::vector<EditorSessionRow> rows() const;
+    [[nodiscard]] std::vector<HeadlessEditorRow> rows() const;
     /// The row of a path; nothing when there is none.
-    [[nodiscard]] std::optional<EditorSessionRow> findRow(std::string const& path) const;
+    [[nodiscard]] std::optional<HeadlessEditorRow> findRow(std::string const& path) const;
     /// Types into a row. False when there is no such row, or it refuses the text.
     bool type(std::string const& path, std::string const& text);
     /// Presses the first button of that key. False when the row has none.

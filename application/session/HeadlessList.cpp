@@ -1,4 +1,4 @@
-#include "ListSession.h"
+#include "HeadlessList.h"
 
 #include "Core/Localization/Dictionaries.h"
 #include "Core/Unit/QuantityPresentation.h"
@@ -43,7 +43,7 @@ std::vector<ListColumn> listColumnsOf(PropertySetListControl const& control)
     return result;
 }
 
-ListSession::ListSession(std::shared_ptr<fc::Data> data, std::vector<std::string> columns)
+HeadlessList::HeadlessList(std::shared_ptr<fc::Data> data, std::vector<std::string> columns)
     : m_data(std::move(data))
 {
     auto const previous = Factory::getBackend();
@@ -61,14 +61,14 @@ ListSession::ListSession(std::shared_ptr<fc::Data> data, std::vector<std::string
     identity->standBefore(*m_control);
 }
 
-ListSession::~ListSession() = default;
+HeadlessList::~HeadlessList() = default;
 
-void ListSession::show(std::vector<std::shared_ptr<fc::FcBase>> const& objects)
+void HeadlessList::show(std::vector<std::shared_ptr<fc::FcBase>> const& objects)
 {
     m_control->setObjects(m_data, objects);
 }
 
-ui::HeadlessListControl& ListSession::list() const
+ui::HeadlessListControl& HeadlessList::list() const
 {
     return *m_backend->getListControl(*m_control->getListControl());
 }

@@ -1,4 +1,4 @@
-#include "EditorSession.h"
+#include "HeadlessEditor.h"
 
 #include "Ui/Window/Controls/ListControl/ListControl.h"
 #include "Ui/Window/Controls/PopupControl/PopupControlAborter.h"
@@ -9,9 +9,9 @@ namespace qev::application {
 
 namespace {
 
-std::vector<EditorSessionRow> describe(std::vector<std::shared_ptr<ui::PropertyGridRow>> const& rows)
+std::vector<HeadlessEditorRow> describe(std::vector<std::shared_ptr<ui::PropertyGridRow>> const& rows)
 {
-    std::vector<EditorSessionRow> described;
+    std::vector<HeadlessEditorRow> described;
     for (auto const& row : rows)
         described.push_back({row->getState().key, row->getName(), ui::PropertyGridRowRecord::of(*row),
                              describe(row->getChildren())});
@@ -20,71 +20,71 @@ std::vector<EditorSessionRow> describe(std::vector<std::shared_ptr<ui::PropertyG
 
 } // namespace
 
-EditorSession::EditorSession()
+HeadlessEditor::HeadlessEditor()
     : m_backend(ui::HeadlessBackend::install())
     , m_session(m_backend->createDialog({800, 600}), requests())
 {
 }
 
-EditorSession::~EditorSession() = default;
+HeadlessEditor::~HeadlessEditor() = default;
 
-EntityEditSession::Requests EditorSession::requests()
+EntityEditSession::Requests HeadlessEditor::requests()
 {
     auto const keep = [this](std::string const& reference) { m_openedReferences.push_back(reference); };
     return {keep, keep, {}};
 }
 
-void EditorSession::show(std::shared_ptr<fc::Data> data, std::vector<std::shared_ptr<fc::FcBase>> entities)
+void HeadlessEditor::show(std::shared_ptr<fc::Data> data, std::vector<std::shared_ptr<fc::FcBase>> entities)
 {
     m_session.show(std::move(data), std::move(entities));
 }
 
-ui::HeadlessPropertyGrid& EditorSession::grid() const
+ui::HeadlessPropertyGrid& HeadlessEditor::grid() const
 {
     return *m_backend->getPropertyGrid(*m_session.getGrid());
 }
 
-std::shared_ptr<ui::PropertyGridRow> EditorSession::gridRow(std::string const& path) const
+std::shared_ptr<ui::PropertyGridRow> HeadlessEditor::gridRow(std::string const& path) const
 {
     return m_session.getEditor().findRow(object::PropertyId(path));
 }
 
-std::vector<EditorSessionRow> EditorSession::rows() const { return describe(grid().getModel()->getRows()); }
+std::vector<HeadlessEditorRow> HeadlessEditor::rows() const { return describe(grid().getModel()->getRows()); }
 
-std::optional<EditorSessionRow> EditorSession::findRow(std::string const& path) const
+std::optional<HeadlessEditorRow> HeadlessEditor::findRow(std::string const& path) const
 {
     auto const row = gridRow(path);
     return row ? std::optional(describe({row}).front()) : std::nullopt;
 }
 
-bool EditorSession::type(std::string const& path, std::string const& text)
+bool HeadlessEditor::type(std::string const& path, std::string const& text)
 {
     return grid().type(gridRow(path), text);
 }
 
-bool EditorSession::press(std::string const& path, std::string const& key)
+bool HeadlessEditor::press(std::string const& path, std::string const& key)
 {
     return grid().pressButton(gridRow(path), key);
 }
 
-std::shared_ptr<ui::ListControl> EditorSession::popup() const
+std::shared_ptr<ui::ListControl> HeadlessEditor::popup() const
 {
     return std::dynamic_pointer_cast<ui::ListControl>(ui::PopupControlAborter::current().getOpenPopup());
 }
 
-std::shared_ptr<ui::HeadlessListControl> EditorSession::popupList() const
+std::shared_ptr<ui::HeadlessListControl> HeadlessEditor::popupList() const
 {
     auto const control = popup();
     return control ? m_backend->getListControl(*control) : nullptr;
 }
 
-void EditorSession::closePopup()
+void HeadlessEditor::closePopup()
 {
     if (popup())
         m_session.getGrid()->setFocus();
 }
 
-bool EditorSession::deletePopupRow(std::size_t row)
+bool HeadlessEditor::deletePopupRow(std::size_t row)
 {
     auto const list = popupList();
     if (!list)
@@ -96,7 +96,7 @@ bool EditorSession::deletePopupRow(std::size_t row)
     return list->getRowCount() + 1 == countBefore;
 }
 
-std::vector<std::string> EditorSession::messages() const
+std::vector<std::string> HeadlessEditor::messages() const
 {
     std::vector<std::string> texts;
     for (auto const& message : m_backend->getMessages())
