@@ -52,7 +52,10 @@ template <class T>
 class Attribute : public AttributeBase
 {
 public:
-    Attribute(FcBase* owner, unsigned int slot) : AttributeBase(owner, slot) {}
+    Attribute(FcBase* owner, unsigned int slot)
+        : AttributeBase(owner, slot)
+    {
+    }
 
     [[nodiscard]] T const& get() const { return m_value; }
     operator T const&() const { return m_value; }
@@ -60,8 +63,7 @@ public:
     T const* operator->() const { return &m_value; }
 
     template <class U>
-        requires std::assignable_from<T&, U&&>
-    Attribute& operator=(U&& value)
+    requires std::assignable_from<T&, U&&> Attribute& operator=(U&& value)
     {
         willChange();
         m_value = std::forward<U>(value);
@@ -76,7 +78,11 @@ public:
         struct Bracket
         {
             Attribute& attribute;
-            explicit Bracket(Attribute& a) : attribute(a) { attribute.willChange(); }
+            explicit Bracket(Attribute& a)
+                : attribute(a)
+            {
+                attribute.willChange();
+            }
             ~Bracket() { attribute.didChange(); }
         } bracket(*this);
         return std::forward<Change>(change)(m_value);

@@ -18,7 +18,8 @@ struct AttributeDescriptor;
 /// What can be done with an attribute without knowing its type. One table exists per C++ type.
 struct AttributeOperations
 {
-    /// Takes the value from a record. A value of the wrong kind is told to the reader and leaves the attribute unset.
+    /// Takes the value from a record. A value of the wrong kind is told to the reader and leaves the
+    /// attribute unset.
     void (*read)(AttributeBase&, AttributeDescriptor const&, step::StepValue const&, AttributeReader&);
     /// The value as a record has it.
     step::StepValue (*write)(AttributeBase const&, AttributeDescriptor const&, AttributeWriter const&);

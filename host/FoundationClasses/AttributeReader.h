@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Format/Ifc/Step/StepValue.h"
 #include "FoundationClasses/EntityIndex.h"
 #include "FoundationClasses/UnitScale.h"
-#include "Format/Ifc/Step/StepValue.h"
 #include "HostFoundationClassesExport.h"
 
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FoundationClasses/UnitScale.h"
 #include "Format/Ifc/Step/StepValue.h"
+#include "FoundationClasses/UnitScale.h"
 #include "HostFoundationClassesExport.h"
 
 #include <string_view>

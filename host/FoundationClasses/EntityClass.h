@@ -14,7 +14,8 @@ class FcBase;
 struct AttributeOperations;
 
 /// The kind of the innermost element of an attribute.
-enum class ValueKind : std::uint8_t {
+enum class ValueKind : std::uint8_t
+{
     Text,
     Real,
     Integer,
@@ -61,7 +62,8 @@ struct SelectDescriptor
 struct AttributeDescriptor
 {
     std::string_view name;
-    /// The declared element type, for example "IfcLengthMeasure", "IfcWallTypeEnum", "IfcOwnerHistory", "REAL".
+    /// The declared element type, for example "IfcLengthMeasure", "IfcWallTypeEnum", "IfcOwnerHistory",
+    /// "REAL".
     std::string_view typeName;
     ValueKind kind = ValueKind::Text;
     /// 0 for a plain attribute, 1 for a list, set or array, 2 for a list of lists.
@@ -110,6 +112,7 @@ struct EntityClass
 HOSTFOUNDATIONCLASSES_EXPORT EntityClass const* entityClassFromNumber(unsigned int number);
 
 /// The slot of an attribute, or no value: `attributes.size()`.
-HOSTFOUNDATIONCLASSES_EXPORT unsigned int slotFromName(EntityClass const& entityClass, std::string_view attribute);
+HOSTFOUNDATIONCLASSES_EXPORT unsigned int slotFromName(EntityClass const& entityClass,
+                                                       std::string_view attribute);
 
 } // namespace qev::fc

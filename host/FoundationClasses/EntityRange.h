@@ -25,7 +25,8 @@ public:
     using reference = value_type;
 
     EntityIterator() = default;
-    EntityIterator(Data const& data, std::shared_ptr<std::vector<EntityIndex> const> indices, std::size_t position);
+    EntityIterator(Data const& data, std::shared_ptr<std::vector<EntityIndex> const> indices,
+                   std::size_t position);
 
     [[nodiscard]] std::shared_ptr<FcBase> operator*() const;
     EntityIterator& operator++();
@@ -33,7 +34,10 @@ public:
     /// The place of the entity, without making an object of it.
     [[nodiscard]] EntityIndex index() const { return (*m_indices)[m_position]; }
 
-    friend bool operator==(EntityIterator const& a, EntityIterator const& b) { return a.m_position == b.m_position; }
+    friend bool operator==(EntityIterator const& a, EntityIterator const& b)
+    {
+        return a.m_position == b.m_position;
+    }
 
 private:
     Data const* m_data = nullptr;
@@ -56,7 +60,10 @@ public:
         using reference = value_type;
 
         Iterator() = default;
-        explicit Iterator(EntityIterator iterator) : m_iterator(std::move(iterator)) {}
+        explicit Iterator(EntityIterator iterator)
+            : m_iterator(std::move(iterator))
+        {
+        }
         std::shared_ptr<T> operator*() const { return std::static_pointer_cast<T>(*m_iterator); }
         Iterator& operator++()
         {
@@ -75,7 +82,11 @@ public:
         EntityIterator m_iterator;
     };
 
-    EntityRange(EntityIterator begin, EntityIterator end) : m_begin(std::move(begin)), m_end(std::move(end)) {}
+    EntityRange(EntityIterator begin, EntityIterator end)
+        : m_begin(std::move(begin))
+        , m_end(std::move(end))
+    {
+    }
     [[nodiscard]] Iterator begin() const { return Iterator(m_begin); }
     [[nodiscard]] Iterator end() const { return Iterator(m_end); }
     [[nodiscard]] bool empty() const { return begin() == end(); }

@@ -67,7 +67,8 @@ public:
     virtual unsigned int getIdFirst() const;
     virtual unsigned int getIdLast() const;
 
-    /// Visits this entity as its exact class and then as each base class, for as long as the visits return true.
+    /// Visits this entity as its exact class and then as each base class, for as long as the visits return
+    /// true.
     virtual void accept(FcVisitorBaseNonConst& visitor);
     virtual void accept(FcVisitorBase& visitor) const;
 

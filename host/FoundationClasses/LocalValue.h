@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstdint>
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -38,9 +38,9 @@ struct LocalValueBase
         friend bool operator==(VectorNumbers const&, VectorNumbers const&) = default;
     };
     using List = std::vector<LocalValueBase>;
-    using Variant = std::variant<std::monostate, Unset, bool, double, std::int64_t, std::string, LogicalNumber,
-                                 std::vector<std::int64_t>, Guid, EntityPointer, std::array<double, 2>,
-                                 std::array<double, 3>, VectorNumbers, List>;
+    using Variant = std::variant<std::monostate, Unset, bool, double, std::int64_t, std::string,
+                                 LogicalNumber, std::vector<std::int64_t>, Guid, EntityPointer,
+                                 std::array<double, 2>, std::array<double, 3>, VectorNumbers, List>;
 
     Variant value;
     /// The schema name of the type, where a select has to know it.

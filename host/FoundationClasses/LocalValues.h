@@ -13,7 +13,7 @@ HOSTFOUNDATIONCLASSES_EXPORT LocalValue localValueOf(AttributeBase const& attrib
                                                      AttributeDescriptor const& descriptor);
 
 /// Stores a local value in an attribute; false, and no change, when it does not fit the attribute's type.
-HOSTFOUNDATIONCLASSES_EXPORT bool assignLocalValue(AttributeBase& attribute, AttributeDescriptor const& descriptor,
-                                                   LocalValue const& value);
+HOSTFOUNDATIONCLASSES_EXPORT bool
+assignLocalValue(AttributeBase& attribute, AttributeDescriptor const& descriptor, LocalValue const& value);
 
 } // namespace qev::fc

@@ -12,6 +12,7 @@ HOSTFOUNDATIONCLASSES_EXPORT std::string localize(std::string_view key);
 /// The text of an entity's \p key: `localize("IfcSite", "Name")`; the key where there is none.
 HOSTFOUNDATIONCLASSES_EXPORT std::string localize(std::string_view entity, std::string_view key);
 /// The text of \p key, or \p fallback where there is none.
-HOSTFOUNDATIONCLASSES_EXPORT std::string localizeWithFallback(std::string_view key, std::string_view fallback);
+HOSTFOUNDATIONCLASSES_EXPORT std::string localizeWithFallback(std::string_view key,
+                                                              std::string_view fallback);
 
 } // namespace qev::fc

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Format/Ifc/Step/StepValue.h"
 #include "FoundationClasses/Binary.h"
 #include "FoundationClasses/EntityClass.h"
 #include "FoundationClasses/Logical.h"
-#include "Format/Ifc/Step/StepValue.h"
 #include "HostFoundationClassesExport.h"
 
 #include <cstdint>
@@ -33,11 +33,13 @@ HOSTFOUNDATIONCLASSES_EXPORT std::optional<std::string> payloadText(Payload cons
 HOSTFOUNDATIONCLASSES_EXPORT std::optional<double> payloadNumber(Payload const& payload);
 
 /// Parses \p text as a payload of the kind; no value when it does not parse.
-HOSTFOUNDATIONCLASSES_EXPORT std::optional<Payload> parsePayload(ValueKind kind, bool isAggregate, std::string_view text);
+HOSTFOUNDATIONCLASSES_EXPORT std::optional<Payload> parsePayload(ValueKind kind, bool isAggregate,
+                                                                 std::string_view text);
 
 /// Reads a payload of \p typeName ("IfcLengthMeasure") from a record, converted to SI units.
 /// No value when \p value is of another kind.
-HOSTFOUNDATIONCLASSES_EXPORT std::optional<Payload> readPayload(std::string_view typeName, ValueKind kind, bool isAggregate,
+HOSTFOUNDATIONCLASSES_EXPORT std::optional<Payload> readPayload(std::string_view typeName, ValueKind kind,
+                                                                bool isAggregate,
                                                                 step::StepValue const& value,
                                                                 AttributeReader const& reader);
 

@@ -10,12 +10,18 @@ namespace qev::fc {
 class PlainReader final : public AttributeReader
 {
 public:
-    explicit PlainReader(Data* data = nullptr) : m_data(data) {}
+    explicit PlainReader(Data* data = nullptr)
+        : m_data(data)
+    {
+    }
 
     [[nodiscard]] Data& data() const override { return *m_data; }
     [[nodiscard]] EntityIndex indexFromId(step::InstanceId) const override { return noEntity; }
     [[nodiscard]] UnitScale scaleOf(std::string_view) const override { return {}; }
-    void mismatch(AttributeDescriptor const&, std::string_view, step::StepValue const&) override { m_fits = false; }
+    void mismatch(AttributeDescriptor const&, std::string_view, step::StepValue const&) override
+    {
+        m_fits = false;
+    }
 
     [[nodiscard]] bool fits() const { return m_fits; }
 

@@ -16,13 +16,17 @@ class FcBase;
 /// A reference from one entity to another, without its type.
 ///
 /// A reference into a model is a place there and becomes an object when asked for; the model keeps the entity
-/// alive, and has to outlive whatever refers into it from outside. A reference to an entity that is not in any
-/// model holds the entity itself. At the end of a model its own references let go.
+/// alive, and has to outlive whatever refers into it from outside. A reference to an entity that is not in
+/// any model holds the entity itself. At the end of a model its own references let go.
 class HOSTFOUNDATIONCLASSES_EXPORT ReferenceBase
 {
 public:
     ReferenceBase() = default;
-    ReferenceBase(Data& data, EntityIndex index) : m_data(&data), m_index(index) {}
+    ReferenceBase(Data& data, EntityIndex index)
+        : m_data(&data)
+        , m_index(index)
+    {
+    }
     explicit ReferenceBase(std::shared_ptr<FcBase> entity);
 
     /// Tells whether the reference leads anywhere; a reference to a deleted entity does not.
@@ -51,9 +55,10 @@ class Reference : public ReferenceBase
 public:
     Reference() = default;
     template <class U>
-        requires std::derived_from<U, T>
-    Reference(std::shared_ptr<U> entity) : ReferenceBase(std::move(entity))
-    {}
+    requires std::derived_from<U, T> Reference(std::shared_ptr<U> entity)
+        : ReferenceBase(std::move(entity))
+    {
+    }
     Reference(std::nullptr_t) {}
 
     [[nodiscard]] std::shared_ptr<T> get() const { return std::static_pointer_cast<T>(entity()); }

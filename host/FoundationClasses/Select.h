@@ -39,7 +39,8 @@ public:
     bool setReference(Data& data, EntityIndex index);
     /// Sets the member of the defined type \p typeName; false, and unset, when there is none.
     bool setValue(std::string_view typeName, Payload payload);
-    /// Sets the member of the defined type \p typeName, an aggregate of entities; false, and unset, when there is none.
+    /// Sets the member of the defined type \p typeName, an aggregate of entities; false, and unset, when
+    /// there is none.
     bool setReferences(std::string_view typeName, std::vector<ReferenceBase> references);
     void reset();
     void leaveModel();

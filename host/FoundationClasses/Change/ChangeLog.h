@@ -20,7 +20,10 @@ class FcBase;
 class HOSTFOUNDATIONCLASSES_EXPORT ChangeLog
 {
 public:
-    explicit ChangeLog(Data& data) : m_data(data) {}
+    explicit ChangeLog(Data& data)
+        : m_data(data)
+    {
+    }
 
     /// Collects the changes of one action of the user into one step, until the object ends.
     class HOSTFOUNDATIONCLASSES_EXPORT Step
@@ -50,7 +53,12 @@ public:
 private:
     friend class Data;
 
-    enum class Kind { Attribute, Addition, Deletion };
+    enum class Kind
+    {
+        Attribute,
+        Addition,
+        Deletion
+    };
 
     /// One change. For an attribute, `value` is the value that is not in force: the former one
     /// while the change stands, the later one while it is undone.

@@ -28,7 +28,8 @@ std::optional<std::string> unlessEmpty(std::string text)
     return text.empty() ? std::nullopt : std::optional(std::move(text));
 }
 
-std::shared_ptr<FcClassification> findOrCreateClassification(Data& data, ClassificationInterface const& system)
+std::shared_ptr<FcClassification> findOrCreateClassification(Data& data,
+                                                             ClassificationInterface const& system)
 {
     for (auto const& classification : data.entities<FcClassification>()) {
         if (classification->Name.get() == system.getKey())
@@ -42,8 +43,8 @@ std::shared_ptr<FcClassification> findOrCreateClassification(Data& data, Classif
     return created;
 }
 
-/// The reference with this code in \p classification. A code means one thing in its whole system, and files of
-/// older versions cannot say which code stands below which: so it is looked for wherever it stands.
+/// The reference with this code in \p classification. A code means one thing in its whole system, and files
+/// of older versions cannot say which code stands below which: so it is looked for wherever it stands.
 std::shared_ptr<FcClassificationReference>
 findReference(Data& data, std::shared_ptr<FcClassification> const& classification, std::string const& code)
 {

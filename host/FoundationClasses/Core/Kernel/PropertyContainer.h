@@ -15,7 +15,8 @@ class FcProperty;
 namespace qev::fc::core::kernel {
 
 /// The properties of a property set.
-class HOSTFOUNDATIONCLASSES_EXPORT PropertyContainer : public Attribute<ReferenceList<resource::property::FcProperty>>
+class HOSTFOUNDATIONCLASSES_EXPORT PropertyContainer
+    : public Attribute<ReferenceList<resource::property::FcProperty>>
 {
 public:
     using Attribute::Attribute;

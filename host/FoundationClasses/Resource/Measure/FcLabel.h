@@ -10,7 +10,10 @@ class FcLabel
 {
 public:
     FcLabel() = default;
-    explicit FcLabel(std::string text) : m_text(std::move(text)) {}
+    explicit FcLabel(std::string text)
+        : m_text(std::move(text))
+    {
+    }
 
     [[nodiscard]] std::string const& text() const { return m_text; }
 

@@ -11,9 +11,15 @@ class FcSimpleValue : public TypedValue<FcSimpleValueTypes, simpleValueTypes>
 {
 public:
     using TypedValue::TypedValue;
-    explicit FcSimpleValue(FcLabel&& label) : TypedValue(Types::Label, label.text()) {}
+    explicit FcSimpleValue(FcLabel&& label)
+        : TypedValue(Types::Label, label.text())
+    {
+    }
     /// A label with this text.
-    explicit FcSimpleValue(std::string text) : TypedValue(Types::Label, std::move(text)) {}
+    explicit FcSimpleValue(std::string text)
+        : TypedValue(Types::Label, std::move(text))
+    {
+    }
 };
 
 } // namespace qev::fc::resource::measure

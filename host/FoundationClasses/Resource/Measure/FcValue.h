@@ -26,12 +26,27 @@ class HOSTFOUNDATIONCLASSES_EXPORT FcValue
 {
 public:
     /// The alphabetical positions of the families among the members of IfcValue.
-    enum Discriminator : unsigned int { DerivedMeasure, Measure, Simple, Empty };
+    enum Discriminator : unsigned int
+    {
+        DerivedMeasure,
+        Measure,
+        Simple,
+        Empty
+    };
 
     FcValue() = default;
-    FcValue(FcSimpleValue&& value) : m_value(std::move(value)) {}
-    FcValue(FcMeasureValue&& value) : m_value(std::move(value)) {}
-    FcValue(FcDerivedMeasureValue&& value) : m_value(std::move(value)) {}
+    FcValue(FcSimpleValue&& value)
+        : m_value(std::move(value))
+    {
+    }
+    FcValue(FcMeasureValue&& value)
+        : m_value(std::move(value))
+    {
+    }
+    FcValue(FcDerivedMeasureValue&& value)
+        : m_value(std::move(value))
+    {
+    }
 
     [[nodiscard]] unsigned int discriminator() const { return static_cast<unsigned int>(m_value.index()); }
     [[nodiscard]] bool isEmpty() const { return discriminator() == Empty; }
@@ -46,7 +61,8 @@ public:
     [[nodiscard]] ValueTypeInfo const* typeInfo() const;
     /// The payload; nothing for the empty value.
     [[nodiscard]] Payload const& payload() const;
-    /// Gives the value the type named \p schemaName ("IfcLengthMeasure") and this payload; false for an unknown type.
+    /// Gives the value the type named \p schemaName ("IfcLengthMeasure") and this payload; false for an
+    /// unknown type.
     bool assign(std::string_view schemaName, Payload payload);
 
     /// A strict order: by family, type and payload. Two values are equal when neither is less.
@@ -79,7 +95,8 @@ public:
 private:
     void setPayload(Payload payload);
 
-    std::variant<FcDerivedMeasureValue, FcMeasureValue, FcSimpleValue, std::monostate> m_value{std::monostate{}};
+    std::variant<FcDerivedMeasureValue, FcMeasureValue, FcSimpleValue, std::monostate> m_value{
+        std::monostate{}};
 };
 
 } // namespace qev::fc::resource::measure

@@ -33,12 +33,17 @@ public:
 
     TypedValue() = default;
     /// A value of \p type with its default payload.
-    explicit TypedValue(Types type) : m_type(type)
+    explicit TypedValue(Types type)
+        : m_type(type)
     {
         if (ValueTypeInfo const* const found = info())
             m_payload = defaultPayload(found->kind, found->isAggregate);
     }
-    TypedValue(Types type, Payload payload) : m_type(type), m_payload(std::move(payload)) {}
+    TypedValue(Types type, Payload payload)
+        : m_type(type)
+        , m_payload(std::move(payload))
+    {
+    }
 
     [[nodiscard]] Types type() const { return m_type; }
     [[nodiscard]] static constexpr Types noType() { return Types::None; }

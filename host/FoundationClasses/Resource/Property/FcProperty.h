@@ -20,7 +20,8 @@ public:
     /// The model's own choice of a presentation for a value of this property, carrying the value;
     /// null when it has none. \p setName picks a presentation that is set for the property of that set.
     [[nodiscard]] std::unique_ptr<unit::QuantityPresentationBase>
-    createQuantityPresentationFor(measure::FcValue const& value, std::optional<std::string> const& setName) const;
+    createQuantityPresentationFor(measure::FcValue const& value,
+                                  std::optional<std::string> const& setName) const;
 };
 
 } // namespace qev::fc::resource::property

@@ -32,7 +32,8 @@ TEST(PageRelease, KeepsWhatStandsAroundTheBlock)
     releasePages(block.get() + margin, size - 2 * margin);
 
     EXPECT_TRUE(std::all_of(block.get(), block.get() + margin, [](char c) { return c == 'x'; }));
-    EXPECT_TRUE(std::all_of(block.get() + size - margin, block.get() + size, [](char c) { return c == 'x'; }));
+    EXPECT_TRUE(
+        std::all_of(block.get() + size - margin, block.get() + size, [](char c) { return c == 'x'; }));
 }
 
 TEST(PageRelease, LeavesASmallBlockToBeFreed)

@@ -205,8 +205,8 @@ public:
     EventHandlerContainer<Window, std::shared_ptr<void>> onEditsBegin;
     EventHandlerContainer<Window, LabelEditBeginResultParams, LabelEditBeginParams const&> onLabelEditBegin;
     EventHandlerContainer<Window, void, LabelEditEndParams const&> onLabelEditEnd;
-    /// Tells if all items would take the value of an edit that ended like this. Nothing is written. Of a check
-    /// box alone the text is "TRUE" or "FALSE". Without a handler any value is expected to be taken.
+    /// Tells if all items would take the value of an edit that ended like this. Nothing is written. Of a
+    /// check box alone the text is "TRUE" or "FALSE". Without a handler any value is expected to be taken.
     EventHandlerContainer<Window, bool, LabelEditEndParams const&> onWouldTakeLabelEdit;
     /// Tells if the user may hide and show a column.
     EventHandlerContainer<Window, bool, std::size_t> onQueryColumn;

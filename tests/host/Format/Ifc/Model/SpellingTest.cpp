@@ -15,7 +15,10 @@ StepValue numbers(std::vector<double> const& values)
     return StepValue::list(std::move(items));
 }
 
-TEST(Spelling, AnUnchangedValueKeepsItsText) { EXPECT_EQ(respelled("1.50E0", StepValue::real(1.5)), "1.50E0"); }
+TEST(Spelling, AnUnchangedValueKeepsItsText)
+{
+    EXPECT_EQ(respelled("1.50E0", StepValue::real(1.5)), "1.50E0");
+}
 
 TEST(Spelling, AChangedValueIsWrittenShort) { EXPECT_EQ(respelled("1.50E0", StepValue::real(2.5)), "2.5"); }
 

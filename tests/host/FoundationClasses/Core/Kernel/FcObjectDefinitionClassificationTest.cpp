@@ -97,7 +97,10 @@ class PublishedSystem final : public classification::ClassificationInterface
 public:
     [[nodiscard]] std::string getKey() const override { return "Published"; }
     [[nodiscard]] std::string getDescription() const override { return {}; }
-    [[nodiscard]] std::string getTitle(std::string_view code) const override { return "Title of " + std::string(code); }
+    [[nodiscard]] std::string getTitle(std::string_view code) const override
+    {
+        return "Title of " + std::string(code);
+    }
     [[nodiscard]] std::string getSource() const override { return "Institute"; }
     [[nodiscard]] std::string getEdition() const override { return "2"; }
 };

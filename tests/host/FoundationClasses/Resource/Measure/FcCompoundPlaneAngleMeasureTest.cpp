@@ -46,8 +46,7 @@ TEST(CompoundAngle, IsTakenApartIntoComponentsOfOneSign)
 
 TEST(CompoundAngle, RoundsUpThroughAllComponents)
 {
-    EXPECT_THAT(FcCompoundPlaneAngleMeasure(std::nextafter(2.0, 0.0)).components(),
-                ElementsAre(2, 0, 0, 0));
+    EXPECT_THAT(FcCompoundPlaneAngleMeasure(std::nextafter(2.0, 0.0)).components(), ElementsAre(2, 0, 0, 0));
 }
 
 TEST(CompoundAngle, ComesBackFromDegrees)
