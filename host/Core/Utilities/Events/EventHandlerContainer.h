@@ -43,10 +43,11 @@ struct EventHandlerFunction<void, Result, Args...>
 
 } // namespace details
 
-/// What both flavours of `EventHandlerContainer` share: adding and removing handlers by id.
+/// What both flavours of `EventHandlerContainer` share: adding and removing handlers by id. \p Derived is the
+/// container itself.
 ///
 /// A container is not copied or moved: attachments refer to it. Use from the toolkit's thread.
-template <class Owner, class Result, class... Args>
+template <class Derived, class Owner, class Result, class... Args>
 class EventHandlerContainerCommon
 {
 public:
@@ -106,10 +107,12 @@ private:
 /// Handlers that receive the running event: the last added one runs, and decides by
 /// `pEventHandlerFromInd` whether the one before it runs too.
 template <class Owner, class Result, class... Args>
-class EventHandlerContainer final : public EventHandlerContainerCommon<Owner, Result, Args...>
+class EventHandlerContainer final
+    : public EventHandlerContainerCommon<EventHandlerContainer<Owner, Result, Args...>, Owner, Result,
+                                         Args...>
 {
 public:
-    using typename EventHandlerContainerCommon<Owner, Result, Args...>::Function;
+    using typename EventHandlerContainerCommon<EventHandlerContainer, Owner, Result, Args...>::Function;
 
     /// The next handler of \p event, or null when none is left.
     ///
@@ -134,7 +137,7 @@ public:
 /// added to the last; none may be removed during the walk.
 template <class Result, class... Args>
 class EventHandlerContainer<void, Result, Args...> final
-    : public EventHandlerContainerCommon<void, Result, Args...>
+    : public EventHandlerContainerCommon<EventHandlerContainer<void, Result, Args...>, void, Result, Args...>
 {
 };
 
