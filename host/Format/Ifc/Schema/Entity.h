@@ -18,8 +18,6 @@ public:
 
     /// Null for a root.
     [[nodiscard]] Entity const* supertype() const { return m_supertype; }
-    /// The direct subclasses by character code of their names.
-    [[nodiscard]] std::vector<Entity const*> const& subtypes() const { return m_subtypes; }
     [[nodiscard]] bool isAbstract() const { return m_isAbstract; }
     /// True when this is \p other or a subclass of it.
     [[nodiscard]] bool isA(Entity const& other) const;

@@ -26,7 +26,6 @@ public:
         return m_chunks[index >> chunkBits][index & (chunkSize - 1)];
     }
     [[nodiscard]] std::size_t size() const { return m_size; }
-    [[nodiscard]] std::size_t memory() const { return m_chunks.size() * chunkSize * sizeof(Element); }
 
 private:
     std::vector<std::unique_ptr<Element[]>> m_chunks;

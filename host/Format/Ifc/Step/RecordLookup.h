@@ -27,7 +27,6 @@ public:
                                                 std::span<InstanceId const> wanted) const;
     [[nodiscard]] bool isBuilt() const { return m_kind != Kind::None; }
     [[nodiscard]] InstanceId highestId() const { return m_highest; }
-    [[nodiscard]] std::size_t memory() const { return m_table.capacity() * sizeof(RecordIndex); }
 
 private:
     enum class Kind : std::uint8_t

@@ -355,13 +355,4 @@ void StepFile::noteSaved(std::filesystem::path const& path, platform::FileStamp 
     m_private->stamp = stamp;
 }
 
-std::size_t StepFile::indexBytes() const
-{
-    Private const& inside = *m_private;
-    return inside.columns.positions.memory() + inside.columns.ids.memory() + inside.columns.classes.memory() +
-           inside.idLookup.memory() +
-           (inside.classOrder.capacity() + inside.classStarts.capacity() + inside.classCounts.capacity()) *
-               sizeof(std::uint32_t);
-}
-
 } // namespace qev::step

@@ -134,9 +134,6 @@ public:
     /// Says that \p path now has the state \p stamp through our own doing.
     void noteSaved(std::filesystem::path const& path, platform::FileStamp const& stamp);
 
-    /// Bytes held besides the content of the file.
-    [[nodiscard]] std::size_t indexBytes() const;
-
 private:
     struct Private;
 
