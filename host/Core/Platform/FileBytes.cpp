@@ -1,12 +1,12 @@
 #include "Core/Platform/FileBytes.h"
 
+#include "Core/Platform/HelperThread.h"
 #include "Core/String/Utf8.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstring>
-#include <future>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -112,7 +112,9 @@ public:
     /// False when reading failed or \p progress, called on the caller's thread, answered so.
     bool run(FileBytes::Progress const& progress)
     {
-        std::future<void> const helper = m_size > readStep ? startHelper() : std::future<void>();
+        std::future<void> helper;
+        if (m_size > readStep)
+            helper = startHelper([this] { readRemainingSteps(); });
         while (readNextStep()) {
             if (progress && !progress(m_done, m_size)) {
                 m_cancelled = true;
@@ -131,16 +133,9 @@ public:
     }
 
 private:
-    std::future<void> startHelper()
+    void readRemainingSteps()
     {
-        try {
-            return std::async(std::launch::async, [this] {
-                while (readNextStep()) {
-                }
-            });
-        } catch (std::system_error const&) {
-            // A machine without a thread to spare reads alone.
-            return {};
+        while (readNextStep()) {
         }
     }
 

@@ -1,9 +1,9 @@
 #include "Core/Platform/PageRelease.h"
 
 #if defined(__linux__)
+#include "Core/Platform/HelperThread.h"
+
 #include <cstdint>
-#include <future>
-#include <system_error>
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -34,12 +34,8 @@ void releasePages(char const* data, std::size_t size)
     auto const begin = (reinterpret_cast<std::uintptr_t>(data) + page - 1) / page * page;
     auto const end = (reinterpret_cast<std::uintptr_t>(data) + size) / page * page;
     auto const middle = (begin + (end - begin) / 2) / page * page;
-    std::future<void> helper;
-    try {
-        helper = std::async(std::launch::async, release, middle, end);
-    } catch (std::system_error const&) {
-        // Without a thread to spare, freeing the block gives the other half back.
-    }
+    // Without a thread to spare, freeing the block gives the other half back.
+    auto const helper = startHelper([middle, end] { release(middle, end); });
     release(begin, middle);
 }
 
