@@ -134,7 +134,12 @@ void ArgumentReader::readItems(std::vector<StepValue>& values, unsigned int dept
         ++m_position;
         return;
     }
+    // A list that has become this long may have thousands: room for all of them spares moving them again and
+    // again. Counting costs short lists more than it saves.
+    constexpr std::size_t longList = 64;
     while (true) {
+        if (values.size() == longList)
+            values.reserve(longList + itemsAhead());
         values.push_back(readValue(depth));
         skipBlanks();
         if (m_position < m_end && *m_position != ',' && *m_position != ')') {
@@ -151,6 +156,13 @@ void ArgumentReader::readItems(std::vector<StepValue>& values, unsigned int dept
             fail(m_position, "\",\" or \")\"");
         return;
     }
+}
+
+std::size_t ArgumentReader::itemsAhead() const
+{
+    constexpr std::string_view ends = "()'";
+    char const* const end = std::find_first_of(m_position, m_end, ends.begin(), ends.end());
+    return static_cast<std::size_t>(std::count(m_position, end, ',')) + 1;
 }
 
 StepValue ArgumentReader::readValue(unsigned int depth)

@@ -54,6 +54,8 @@ public:
     [[nodiscard]] std::optional<Error> const& error() const { return m_error; }
 
 private:
+    /// How many items of a list there are up to the next parenthesis or text.
+    [[nodiscard]] std::size_t itemsAhead() const;
     void readItems(std::vector<StepValue>& values, unsigned int depth);
     StepValue readValue(unsigned int depth);
     StepValue readText();

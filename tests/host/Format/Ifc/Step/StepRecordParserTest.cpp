@@ -50,6 +50,21 @@ TEST(StepRecordParser, ReadsEveryKindOfValue)
                              StepValue::list({})})));
 }
 
+TEST(StepRecordParser, ReadsLongLists)
+{
+    std::string items;
+    std::vector<StepValue> expected;
+    for (std::int64_t i = 0; i < 200; ++i) {
+        items += std::to_string(i) + ",('a,b','c'),'d,e',";
+        expected.push_back(StepValue::integer(i));
+        expected.push_back(StepValue::list({StepValue::text("a,b"), StepValue::text("c")}));
+        expected.push_back(StepValue::text("d,e"));
+    }
+    expected.push_back(StepValue());
+    EXPECT_THAT(valuesOf("(" + items + "$),7"),
+                ElementsAre(StepValue::list(std::move(expected)), StepValue::integer(7)));
+}
+
 TEST(StepRecordParser, ReadsNoArguments) { EXPECT_THAT(valuesOf(" /* none */ "), IsEmpty()); }
 
 TEST(StepRecordParser, ReadsNumbersInEverySpelling)
