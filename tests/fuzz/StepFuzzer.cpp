@@ -1,5 +1,6 @@
 // Feeds arbitrary bytes to the STEP reader, and checks what must hold whatever they are.
 
+#include "Format/Ifc/Step/RecordSearch.h"
 #include "Format/Ifc/Step/StepPatch.h"
 #include "Format/Ifc/Step/StepRecordParser.h"
 #include "Format/Ifc/Step/StepText.h"
@@ -58,6 +59,9 @@ void checkRecord(StepFile const& file, RecordIndex record)
     std::size_t references = 0;
     parser.forEachReference(record, [&references](InstanceId) { ++references; });
     require(references <= bytes.size(), "references are in the record");
+    parser.forEachReference(record, [&file, record](InstanceId id) {
+        require(RecordSearch::forReferencesTo(file, id).next({&record, 1}, 0) == 0, "a reference is found");
+    });
     if (good && !values.empty()) {
         std::vector<StepValue> again;
         require(parseArguments(StepWriter::arguments(values) + ")", again) && again == values,
