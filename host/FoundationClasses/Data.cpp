@@ -4,7 +4,8 @@
 #include "FoundationClasses/EntityClass.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
+#include <span>
 
 namespace qev::fc {
 
@@ -166,6 +167,7 @@ void Data::entityAdd(std::shared_ptr<FcBase> entity, bool)
 void Data::adopt(std::shared_ptr<FcBase> const& first)
 {
     std::vector<std::shared_ptr<FcBase>> waiting{first};
+    std::vector<std::shared_ptr<FcBase>> adopted;
     while (!waiting.empty()) {
         auto const entity = std::move(waiting.back());
         waiting.pop_back();
@@ -184,8 +186,6 @@ void Data::adopt(std::shared_ptr<FcBase> const& first)
             entity->m_data = this;
             entity->m_index = index;
             m_createdByClass[number].push_back(index);
-            for (unsigned int slot = 0; slot < entity->getEntityClass().attributes.size(); ++slot)
-                indexReferences(*entity, slot, true);
         } else {
             continue;
         }
@@ -194,7 +194,11 @@ void Data::adopt(std::shared_ptr<FcBase> const& first)
             if (!referred->getData())
                 waiting.push_back(referred);
         });
+        adopted.push_back(entity);
     }
+    // Only now do all that they refer to have their places.
+    for (auto const& entity : adopted)
+        indexAllReferences(*entity, true);
 }
 
 bool Data::entityDelete(std::shared_ptr<FcBase> entity)
@@ -215,9 +219,8 @@ void Data::setState(EntityIndex index, State state)
     // What refers from a deleted entity does not count, so the indexes are brought up to date while it is
     // present.
     m_deleted[index] = false;
-    FcBase const* const object = existingObject(index);
-    for (unsigned int slot = 0; object && slot < object->getEntityClass().attributes.size(); ++slot)
-        indexReferences(*object, slot, !isDeletion);
+    if (FcBase const* const object = existingObject(index))
+        indexAllReferences(*object, !isDeletion);
     m_deleted[index] = isDeletion;
 }
 
@@ -284,28 +287,58 @@ std::optional<std::string> Data::attributeText(EntityIndex index, unsigned int s
     return descriptor.operations->text(object->attribute(slot), descriptor);
 }
 
-InverseIndex& Data::inverseIndex(unsigned int relationFirst, unsigned int relationLast,
-                                 unsigned int slot) const
+std::size_t Data::objectsFirst(std::vector<EntityIndex>& entities) const
 {
-    InverseKey const key{relationFirst, relationLast, slot};
-    if (auto const found = m_inverseIndexes.find(key); found != m_inverseIndexes.end())
-        return found->second;
+    auto const records = std::stable_partition(entities.begin(), entities.end(),
+                                               [this](EntityIndex entity) { return existingObject(entity); });
+    return static_cast<std::size_t>(records - entities.begin());
+}
+
+std::vector<std::pair<EntityIndex, EntityIndex>> Data::allReferences(std::vector<EntityIndex> relations,
+                                                                     unsigned int slot) const
+{
     std::vector<std::pair<EntityIndex, EntityIndex>> references;
-    std::vector<EntityIndex> relations = indicesFromId(relationFirst, relationLast);
-    auto const records = std::partition(relations.begin(), relations.end(),
-                                        [this](EntityIndex relation) { return existingObject(relation); });
-    for (auto relation = relations.begin(); relation != records; ++relation)
-        visitReferences(*relation, slot,
-                        [&](EntityIndex target) { references.emplace_back(target, *relation); });
+    std::size_t const objects = objectsFirst(relations);
+    for (EntityIndex const relation : std::span(relations).first(objects))
+        visitReferences(relation, slot,
+                        [&](EntityIndex target) { references.emplace_back(target, relation); });
     if (m_source)
-        m_source->appendReferences({records, relations.end()}, slot, references);
-    return m_inverseIndexes.emplace(key, InverseIndex(std::move(references))).first->second;
+        m_source->appendReferences(std::span(relations).subspan(objects), slot, references);
+    return references;
+}
+
+std::vector<EntityIndex> Data::referring(EntityIndex target, std::vector<EntityIndex> relations,
+                                         unsigned int slot) const
+{
+    std::vector<EntityIndex> found;
+    std::size_t const objects = objectsFirst(relations);
+    for (EntityIndex const relation : std::span(relations).first(objects)) {
+        bool refers = false;
+        visitReferences(relation, slot, [&](EntityIndex other) { refers = refers || other == target; });
+        if (refers)
+            found.push_back(relation);
+    }
+    // No record refers to what was created later.
+    if (target < m_sourceCount)
+        m_source->appendReferring(std::span(relations).subspan(objects), slot, target, found);
+    return found;
 }
 
 std::vector<EntityIndex> const& Data::relating(EntityIndex target, unsigned int relationFirst,
                                                unsigned int relationLast, unsigned int slot) const
 {
-    return inverseIndex(relationFirst, relationLast, slot).relating(target);
+    InverseIndex& index = m_inverseIndexes[{relationFirst, relationLast, slot}];
+    if (auto const* const known = index.find(target))
+        return *known;
+    // To look for one target takes about a fifth of what an index of all takes, so who wants to know of a
+    // single object does not wait for one, and who asks for all loses little.
+    constexpr std::size_t searchesBeforeAll = 3;
+    auto relations = indicesFromId(relationFirst, relationLast);
+    if (index.knownTargets() >= searchesBeforeAll)
+        index.learnAll(allReferences(std::move(relations), slot));
+    else
+        index.learn(target, referring(target, std::move(relations), slot));
+    return *index.find(target);
 }
 
 bool Data::isReferenced(EntityIndex target) const
@@ -327,24 +360,44 @@ bool Data::deleteIfUnreferenced(std::shared_ptr<FcBase> const& entity)
 
 void Data::clearInverseIndexes() { m_inverseIndexes.clear(); }
 
-void Data::indexReferences(FcBase const& entity, unsigned int slot, bool add) const
+std::vector<EntityIndex> Data::targetsOf(FcBase const& entity, unsigned int slot)
 {
-    if (m_deleted[entity.m_index])
+    std::vector<EntityIndex> targets;
+    auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
+    operations.visitReferences(entity.attribute(slot), [&targets](ReferenceBase const& reference) {
+        if (reference.index() != noEntity)
+            targets.push_back(reference.index());
+    });
+    return targets;
+}
+
+void Data::indexTargets(FcBase const& entity, unsigned int slot, std::vector<EntityIndex> const& targets,
+                        bool add) const
+{
+    if (m_deleted[entity.m_index] || targets.empty())
         return;
     unsigned int const number = entity.getIdFirst();
     for (auto& [key, index] : m_inverseIndexes) {
         if (key.slot != slot || number < key.relationFirst || number > key.relationLast)
             continue;
-        auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
-        operations.visitReferences(entity.attribute(slot), [&](ReferenceBase const& reference) {
-            if (reference.index() == noEntity)
-                return;
+        for (EntityIndex const target : targets) {
             if (add)
-                index.add(reference.index(), entity.m_index);
+                index.add(target, entity.m_index);
             else
-                index.remove(reference.index(), entity.m_index);
-        });
+                index.remove(target, entity.m_index);
+        }
     }
+}
+
+void Data::indexReferences(FcBase const& entity, unsigned int slot, bool add) const
+{
+    indexTargets(entity, slot, targetsOf(entity, slot), add);
+}
+
+void Data::indexAllReferences(FcBase const& entity, bool add) const
+{
+    for (unsigned int slot = 0; slot < entity.getEntityClass().attributes.size(); ++slot)
+        indexReferences(entity, slot, add);
 }
 
 void Data::attributeWillChange(FcBase& entity, unsigned int slot)
@@ -352,14 +405,14 @@ void Data::attributeWillChange(FcBase& entity, unsigned int slot)
     m_changes.begin("Change");
     auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
     bool const wasChanged = (entity.m_changedSlots >> slot & 1) != 0;
-    m_pending.push_back({ChangeLog::Kind::Attribute, entity.shared_from_this(), slot,
-                         operations.snapshot(entity.attribute(slot)), wasChanged});
-    indexReferences(entity, slot, false);
+    m_pending.push_back({{ChangeLog::Kind::Attribute, entity.shared_from_this(), slot,
+                          operations.snapshot(entity.attribute(slot)), wasChanged},
+                         targetsOf(entity, slot)});
 }
 
 void Data::attributeDidChange(FcBase& entity, unsigned int slot)
 {
-    ChangeLog::Change change = std::move(m_pending.back());
+    auto [change, targets] = std::move(m_pending.back());
     m_pending.pop_back();
     auto const& operations = *entity.getEntityClass().attributes[slot]->operations;
     if (!operations.equals(entity.attribute(slot), change.value.get())) {
@@ -367,6 +420,8 @@ void Data::attributeDidChange(FcBase& entity, unsigned int slot)
         m_changes.record(std::move(change));
         adoptReferences(entity, entity.attribute(slot));
     }
+    // Both at the end: who asked meanwhile may have learnt of the former targets or of the new ones.
+    indexTargets(entity, slot, targets, false);
     indexReferences(entity, slot, true);
     m_changes.end();
 }

@@ -85,7 +85,7 @@ public:
     [[nodiscard]] std::optional<std::string> attributeText(EntityIndex index, unsigned int slot) const;
 
     /// The places of the entities of \p relationFirst to \p relationLast whose attribute at \p slot refers to
-    /// \p target, ascending.
+    /// \p target, ascending. Valid until a relation of \p target changes.
     [[nodiscard]] std::vector<EntityIndex> const& relating(EntityIndex target, unsigned int relationFirst,
                                                            unsigned int relationLast,
                                                            unsigned int slot) const;
@@ -133,6 +133,13 @@ private:
         Deleted
     };
 
+    struct PendingChange
+    {
+        ChangeLog::Change change;
+        /// What the attribute referred to before.
+        std::vector<EntityIndex> targets;
+    };
+
     explicit Data(std::unique_ptr<EntitySource> source);
 
     void adopt(std::shared_ptr<FcBase> const& entity);
@@ -142,9 +149,20 @@ private:
     void attributeWillChange(FcBase& entity, unsigned int slot);
     void attributeDidChange(FcBase& entity, unsigned int slot);
     void notify(std::vector<EntityIndex> const& entities);
-    [[nodiscard]] InverseIndex& inverseIndex(unsigned int relationFirst, unsigned int relationLast,
-                                             unsigned int slot) const;
+    /// Moves those of \p entities that are objects by now to the front. \returns how many these are.
+    [[nodiscard]] std::size_t objectsFirst(std::vector<EntityIndex>& entities) const;
+    [[nodiscard]] std::vector<std::pair<EntityIndex, EntityIndex>>
+    allReferences(std::vector<EntityIndex> relations, unsigned int slot) const;
+    [[nodiscard]] std::vector<EntityIndex> referring(EntityIndex target, std::vector<EntityIndex> relations,
+                                                     unsigned int slot) const;
+    /// What an attribute refers to now.
+    [[nodiscard]] static std::vector<EntityIndex> targetsOf(FcBase const& entity, unsigned int slot);
+    /// Tells the inverse indexes that an attribute refers to \p targets, or does so no more.
+    void indexTargets(FcBase const& entity, unsigned int slot, std::vector<EntityIndex> const& targets,
+                      bool add) const;
+    /// The same for what the attribute refers to now, and for all attributes.
     void indexReferences(FcBase const& entity, unsigned int slot, bool add) const;
+    void indexAllReferences(FcBase const& entity, bool add) const;
 
     std::unique_ptr<EntitySource> m_source;
     std::size_t m_sourceCount = 0;
@@ -157,7 +175,7 @@ private:
     mutable std::map<InverseKey, InverseIndex> m_inverseIndexes;
     ChangeLog m_changes;
     /// Changes that have begun and not yet ended, innermost last.
-    std::vector<ChangeLog::Change> m_pending;
+    std::vector<PendingChange> m_pending;
 };
 
 } // namespace qev::fc

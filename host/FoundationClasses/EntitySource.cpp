@@ -23,6 +23,17 @@ void EntitySource::appendReferences(std::span<EntityIndex const> records, unsign
         forEachReference(record, slot, [&](EntityIndex target) { references.emplace_back(target, record); });
 }
 
+void EntitySource::appendReferring(std::span<EntityIndex const> records, unsigned int slot,
+                                   EntityIndex target, std::vector<EntityIndex>& referring) const
+{
+    for (EntityIndex const record : records) {
+        bool refers = false;
+        forEachReference(record, slot, [&](EntityIndex found) { refers = refers || found == target; });
+        if (refers)
+            referring.push_back(record);
+    }
+}
+
 bool EntitySource::readText(EntityIndex, unsigned int, std::optional<std::string>&) const { return false; }
 
 AttributeReader::~AttributeReader() = default;

@@ -40,6 +40,10 @@ public:
     /// better than asking for one record after the other does better.
     virtual void appendReferences(std::span<EntityIndex const> records, unsigned int slot,
                                   std::vector<std::pair<EntityIndex, EntityIndex>>& references) const;
+    /// Appends those of \p records whose attribute refers to the record \p target, in their order. A source
+    /// that knows better than asking each record does better.
+    virtual void appendReferring(std::span<EntityIndex const> records, unsigned int slot, EntityIndex target,
+                                 std::vector<EntityIndex>& referring) const;
     /// Takes the text of an attribute from the record, without making an object. No value for an unset one.
     /// \returns false when only the object tells; here always.
     virtual bool readText(EntityIndex index, unsigned int slot, std::optional<std::string>& text) const;

@@ -26,52 +26,66 @@ void sortReferences(std::vector<Reference>& references)
 
 } // namespace
 
-InverseIndex::InverseIndex(std::vector<std::pair<EntityIndex, EntityIndex>> references)
-    : m_references(std::move(references))
+void InverseIndex::learn(EntityIndex target, std::vector<EntityIndex> relations)
 {
-    if (!std::is_sorted(m_references.begin(), m_references.end()))
-        sortReferences(m_references);
-    m_references.erase(std::unique(m_references.begin(), m_references.end()), m_references.end());
+    std::sort(relations.begin(), relations.end());
+    m_lists.try_emplace(target, std::move(relations));
 }
 
-std::vector<EntityIndex>& InverseIndex::changeable(EntityIndex target) const
+void InverseIndex::learnAll(std::vector<std::pair<EntityIndex, EntityIndex>> references)
 {
-    auto const [position, isNew] = m_lists.try_emplace(target);
-    std::vector<EntityIndex>& list = position->second;
-    if (isNew) {
-        auto reference =
-            std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
-        for (; reference != m_references.end() && reference->first == target; ++reference)
-            list.push_back(reference->second);
-    }
-    return list;
+    if (!std::is_sorted(references.begin(), references.end()))
+        sortReferences(references);
+    references.erase(std::unique(references.begin(), references.end()), references.end());
+    m_references = std::move(references);
+    m_knowsAll = true;
 }
 
-std::vector<EntityIndex> const& InverseIndex::relating(EntityIndex target) const
+std::vector<EntityIndex>* InverseIndex::changeableList(EntityIndex target) const
+{
+    if (auto const known = m_lists.find(target); known != m_lists.end())
+        return &known->second;
+    if (!m_knowsAll)
+        return nullptr;
+    std::vector<EntityIndex>& list = m_lists[target];
+    auto reference =
+        std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
+    for (; reference != m_references.end() && reference->first == target; ++reference)
+        list.push_back(reference->second);
+    return &list;
+}
+
+std::vector<EntityIndex> const* InverseIndex::find(EntityIndex target) const
 {
     static std::vector<EntityIndex> const none;
     if (auto const known = m_lists.find(target); known != m_lists.end())
-        return known->second;
+        return &known->second;
+    if (!m_knowsAll)
+        return nullptr;
     // Most entities have no relation of most kinds, and need no list to say so.
     auto const reference =
         std::lower_bound(m_references.begin(), m_references.end(), std::pair(target, EntityIndex{0}));
-    return reference == m_references.end() || reference->first != target ? none : changeable(target);
+    return reference == m_references.end() || reference->first != target ? &none : changeableList(target);
 }
 
 void InverseIndex::add(EntityIndex target, EntityIndex relation)
 {
-    std::vector<EntityIndex>& list = changeable(target);
-    auto const place = std::lower_bound(list.begin(), list.end(), relation);
-    if (place == list.end() || *place != relation)
-        list.insert(place, relation);
+    std::vector<EntityIndex>* const list = changeableList(target);
+    if (!list)
+        return;
+    auto const place = std::lower_bound(list->begin(), list->end(), relation);
+    if (place == list->end() || *place != relation)
+        list->insert(place, relation);
 }
 
 void InverseIndex::remove(EntityIndex target, EntityIndex relation)
 {
-    std::vector<EntityIndex>& list = changeable(target);
-    auto const place = std::lower_bound(list.begin(), list.end(), relation);
-    if (place != list.end() && *place == relation)
-        list.erase(place);
+    std::vector<EntityIndex>* const list = changeableList(target);
+    if (!list)
+        return;
+    auto const place = std::lower_bound(list->begin(), list->end(), relation);
+    if (place != list->end() && *place == relation)
+        list->erase(place);
 }
 
 } // namespace qev::fc

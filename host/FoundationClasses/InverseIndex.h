@@ -4,6 +4,7 @@
 #include "HostFoundationClassesExport.h"
 
 #include <compare>
+#include <cstddef>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -22,23 +23,34 @@ struct InverseKey
 
 /// For each entity, the entities that refer to it by one attribute.
 ///
-/// Built at once from all references, as one sorted list; what changes later stands beside it.
+/// Knows the relations of some targets at first. Those of all others come at once, as one sorted list; what
+/// changes later stands beside it.
 class HOSTFOUNDATIONCLASSES_EXPORT InverseIndex
 {
 public:
-    /// Takes pairs of target and relation.
-    explicit InverseIndex(std::vector<std::pair<EntityIndex, EntityIndex>> references);
+    /// The relations that refer to \p target, ascending; null when they are not known yet. Valid until
+    /// relations of this target are added or removed; what is learnt of others does not matter.
+    [[nodiscard]] std::vector<EntityIndex> const* find(EntityIndex target) const;
+    /// How many targets are known one by one, while not all are.
+    [[nodiscard]] std::size_t knownTargets() const { return m_lists.size(); }
 
-    /// The relations that refer to \p target, ascending. Valid until the index changes.
-    [[nodiscard]] std::vector<EntityIndex> const& relating(EntityIndex target) const;
+    /// Takes all relations of a target that is not known yet.
+    void learn(EntityIndex target, std::vector<EntityIndex> relations);
+    /// Takes all references there are, as pairs of target and relation. From then on every target is known.
+    void learnAll(std::vector<std::pair<EntityIndex, EntityIndex>> references);
+
+    /// A change. Of no concern for a target that is not known yet: who finds its relations later finds the
+    /// change with them.
     void add(EntityIndex target, EntityIndex relation);
     void remove(EntityIndex target, EntityIndex relation);
 
 private:
-    std::vector<EntityIndex>& changeable(EntityIndex target) const;
+    /// Null for a target that is not known yet.
+    std::vector<EntityIndex>* changeableList(EntityIndex target) const;
 
+    bool m_knowsAll = false;
     std::vector<std::pair<EntityIndex, EntityIndex>> m_references;
-    /// The lists that were asked for or changed. They take the place of those in `m_references`.
+    /// The lists that were learnt, asked for or changed. They take the place of those in `m_references`.
     mutable std::unordered_map<EntityIndex, std::vector<EntityIndex>> m_lists;
 };
 

@@ -117,6 +117,138 @@ TEST_F(ReadModel, FindsRelationsWithoutMakingObjectsOfAll)
     EXPECT_EQ(data->objectCount(), 0u);
 }
 
+/// More targets than are looked for one by one: each of twelve walls has a relation of its own to the same
+/// set.
+struct ManyRelations : testing::Test
+{
+    static constexpr EntityIndex wallCount = 12;
+    std::shared_ptr<Data> data;
+
+    ManyRelations()
+    {
+        std::vector<FakeSource::Record> records;
+        for (EntityIndex i = 0; i < wallCount; ++i)
+            records.push_back({FcWall::idFirst, {}});
+        records.push_back({FcPropertySet::idFirst, {{"Name", text("Pset_X")}}});
+        for (EntityIndex i = 0; i < wallCount; ++i)
+            records.push_back({FcRelDefinesByProperties::idFirst,
+                               {{"RelatedObjects", references({i + 1})},
+                                {"RelatingPropertyDefinition", StepValue::reference(wallCount + 1)}}});
+        data = Data::create(std::make_unique<FakeSource>(std::move(records)));
+    }
+
+    static EntityIndex relationOf(EntityIndex wall) { return wallCount + 1 + wall; }
+
+    std::vector<EntityIndex> relating(EntityIndex wall) const
+    {
+        return data->relating(
+            wall, FcRelDefinesByProperties::idFirst, FcRelDefinesByProperties::idLast,
+            fc::slotFromName(FcRelDefinesByProperties::staticEntityClass(), "RelatedObjects"));
+    }
+
+    std::shared_ptr<FcRelDefinesByProperties> relation(EntityIndex wall) const
+    {
+        return fc::entityCast<FcRelDefinesByProperties>(data->entity(relationOf(wall)));
+    }
+
+    void relateAlso(EntityIndex wall, EntityIndex other) const
+    {
+        relation(wall)->RelatedObjects.edit(
+            [&](auto& objects) { objects.push_back(fc::entityCast<FcWall>(data->entity(other))); });
+    }
+};
+
+TEST_F(ManyRelations, AreFoundForTheFirstTargetAndForAll)
+{
+    for (EntityIndex wall = 0; wall < wallCount; ++wall)
+        EXPECT_THAT(relating(wall), ElementsAre(relationOf(wall)));
+    EXPECT_EQ(data->objectCount(), 0u);
+}
+
+TEST_F(ManyRelations, FollowEditsOfWhatIsKnownAndOfWhatIsNot)
+{
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
+    relateAlso(9, 7);
+    relateAlso(9, 8);
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7), relationOf(9)));
+    EXPECT_THAT(relating(8), ElementsAre(relationOf(8), relationOf(9)));
+
+    data->changes().undo();
+    data->changes().undo();
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
+    EXPECT_THAT(relating(8), ElementsAre(relationOf(8)));
+
+    for (EntityIndex wall = 0; wall < wallCount; ++wall)
+        static_cast<void>(relating(wall));
+    data->changes().redo();
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7), relationOf(9)));
+}
+
+TEST_F(ManyRelations, FollowDeletionsAndAdditions)
+{
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
+    data->entityDelete(relation(7));
+    data->entityDelete(relation(8));
+    EXPECT_THAT(relating(7), IsEmpty());
+    EXPECT_THAT(relating(8), IsEmpty());
+
+    auto const created = std::make_shared<FcRelDefinesByProperties>();
+    created->RelatedObjects.edit(
+        [this](auto& objects) { objects.push_back(fc::entityCast<FcWall>(data->entity(9))); });
+    data->entityAdd(created, false);
+    EXPECT_THAT(relating(9), ElementsAre(relationOf(9), created->getIndex()));
+
+    auto const wall = std::make_shared<FcWall>();
+    data->entityAdd(wall, false);
+    EXPECT_THAT(relating(wall->getIndex()), IsEmpty());
+}
+
+/// Asks for the relations of some walls, so that fewer or more of them are known before something changes.
+struct ManyRelationsAfterQuestions : ManyRelations, testing::WithParamInterface<EntityIndex>
+{
+    ManyRelationsAfterQuestions()
+    {
+        for (EntityIndex wall = 0; wall < GetParam(); ++wall)
+            static_cast<void>(relating(wall));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Questions, ManyRelationsAfterQuestions, testing::Values(0, 1, 6));
+
+TEST_P(ManyRelationsAfterQuestions, IncludeThoseThatComeTogetherWithTheirTargets)
+{
+    auto const wall = std::make_shared<FcWall>();
+    auto const created = std::make_shared<FcRelDefinesByProperties>();
+    created->RelatedObjects.edit([&wall](auto& objects) { objects.push_back(wall); });
+    data->entityAdd(created, false);
+    EXPECT_THAT(relating(wall->getIndex()), ElementsAre(created->getIndex()));
+    EXPECT_TRUE(data->isReferenced(wall->getIndex()));
+}
+
+TEST_P(ManyRelationsAfterQuestions, AreRightAfterQuestionsDuringAnEdit)
+{
+    relation(9)->RelatedObjects.edit([this](auto& objects) {
+        static_cast<void>(relating(9));
+        static_cast<void>(relating(8));
+        objects.erase(fc::entityCast<FcWall>(data->entity(9)));
+        objects.push_back(fc::entityCast<FcWall>(data->entity(8)));
+        static_cast<void>(relating(8));
+    });
+    EXPECT_THAT(relating(9), IsEmpty());
+    EXPECT_THAT(relating(8), ElementsAre(relationOf(8), relationOf(9)));
+}
+
+TEST_F(ManyRelations, AreFoundAgainAfterObjectsWereLetGo)
+{
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
+    relateAlso(9, 7);
+    static_cast<void>(relation(8));
+    data->releaseUnused();
+    data->clearInverseIndexes();
+    EXPECT_THAT(relating(7), ElementsAre(relationOf(7), relationOf(9)));
+    EXPECT_THAT(relating(8), ElementsAre(relationOf(8)));
+}
+
 unsigned int nameSlot() { return fc::slotFromName(FcPropertySet::staticEntityClass(), "Name"); }
 
 std::vector<EntityIndex> relatedObjects(Data const& data)

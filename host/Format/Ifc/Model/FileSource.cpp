@@ -1,7 +1,9 @@
 #include "Format/Ifc/Model/FileSource.h"
 
+#include "Core/Platform/HelperThread.h"
 #include "Format/Ifc/Model/OwnUnits.h"
 #include "Format/Ifc/Model/ValueConversion.h"
+#include "Format/Ifc/Step/RecordSearch.h"
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeReader.h"
 #include "FoundationClasses/Data.h"
@@ -10,8 +12,6 @@
 #include "FoundationClasses/Resource/Quantity/FcPhysicalComplexQuantity.h"
 
 #include <algorithm>
-#include <future>
-#include <system_error>
 #include <utility>
 
 namespace qev::ifc {
@@ -295,12 +295,7 @@ void FileSource::appendReferences(std::span<fc::EntityIndex const> records, unsi
     m_file->prepareReading();
     auto const half = records.subspan(records.size() / 2);
     References further;
-    std::future<void> helper;
-    try {
-        helper = std::async(std::launch::async, [&] { readReferences(half, slot, further); });
-    } catch (std::system_error const&) {
-        // Without a thread to spare, this one reads the rest as well.
-    }
+    auto helper = platform::startHelper([&] { readReferences(half, slot, further); });
     readReferences(records.first(records.size() / 2), slot, references);
     if (helper.valid())
         helper.get();
@@ -328,6 +323,26 @@ void FileSource::readReferences(std::span<fc::EntityIndex const> records, unsign
     for (std::size_t i = 0; i < targets.size(); ++i) {
         if (targets[i] != step::StepFile::noRecord)
             references.emplace_back(targets[i], referring[i]);
+    }
+}
+
+void FileSource::appendReferring(std::span<fc::EntityIndex const> records, unsigned int slot,
+                                 fc::EntityIndex target, std::vector<fc::EntityIndex>& referring) const
+{
+    // References lead to the first record of an id.
+    if (m_file->isDuplicate(target))
+        return;
+    step::InstanceId const id = m_file->idOf(target);
+    auto const search = step::RecordSearch::forReferencesTo(*m_file, id);
+    for (std::size_t i = search.next(records, 0); i < records.size(); i = search.next(records, i + 1)) {
+        int const fileSlot = fileSlotOf(records[i], slot);
+        if (fileSlot < 0)
+            continue;
+        bool refers = false;
+        m_parser.forEachReference(records[i], static_cast<std::size_t>(fileSlot),
+                                  [&](step::InstanceId found) { refers = refers || found == id; });
+        if (refers)
+            referring.push_back(records[i]);
     }
 }
 

@@ -45,6 +45,8 @@ public:
                           std::function<void(fc::EntityIndex)> const& visit) const override;
     void appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
                           References& references) const override;
+    void appendReferring(std::span<fc::EntityIndex const> records, unsigned int slot, fc::EntityIndex target,
+                         std::vector<fc::EntityIndex>& referring) const override;
     bool readText(fc::EntityIndex index, unsigned int slot, std::optional<std::string>& text) const override;
     void appendRecordsOfClass(std::uint16_t number, std::vector<fc::EntityIndex>& records) const override;
 
