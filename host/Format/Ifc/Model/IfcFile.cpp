@@ -5,6 +5,7 @@
 #include "Format/Ifc/Model/Spelling.h"
 #include "Format/Ifc/Model/ValueConversion.h"
 #include "Format/Ifc/Schema/Entity.h"
+#include "Format/Ifc/Step/RecordSearch.h"
 #include "Format/Ifc/Step/StepWriter.h"
 #include "FoundationClasses/AttributeOperations.h"
 #include "FoundationClasses/AttributeWriter.h"
@@ -288,27 +289,51 @@ std::optional<fc::EntityIndex> IfcFile::placeOfGlobalId(std::string_view globalI
 {
     if (auto const found = m_globalIds.find(globalId); found != m_globalIds.end())
         return found->second;
-    // Mostly it is an object that is asked for, and sets and relations, which come last, are many.
-    if (!m_rooted)
+    if (!m_rooted) {
         m_rooted = m_data->indicesFromId(FcRoot::idFirst, FcRoot::idLast);
-    step::StepRecordParser const parser(m_source.file());
-    std::vector<fc::EntityIndex> const& places = *m_rooted;
-    while (m_nextRooted < places.size()) {
-        m_source.file().expectNext(places, m_nextRooted);
-        fc::EntityIndex const index = places[m_nextRooted++];
-        if (index >= m_source.count())
+        std::erase_if(*m_rooted, [this](fc::EntityIndex index) { return m_data->isCreated(index); });
+    }
+    // Who asks for one object or two does not wait until the global ids of others are taken from their
+    // records.
+    constexpr unsigned int searchesBeforeReading = 3;
+    if (m_globalIdSearches < searchesBeforeReading && !globalId.empty()) {
+        ++m_globalIdSearches;
+        return searchGlobalId(globalId);
+    }
+    // Mostly it is an object that is asked for, and sets and relations, which come last, are many.
+    std::vector<fc::EntityIndex> const& records = *m_rooted;
+    while (m_nextRooted < records.size()) {
+        m_source.file().expectNext(records, m_nextRooted);
+        fc::EntityIndex const record = records[m_nextRooted++];
+        auto const found = globalIdAt(record);
+        if (!found)
             continue;
-        int const slot = m_source.mappingOf(index)->fileSlot(0);
-        auto const span =
-            slot >= 0 ? parser.argumentSpan(index, static_cast<std::size_t>(slot)) : std::nullopt;
-        if (!span || span->size() < 2)
-            continue;
-        std::string_view const found = span->substr(1, span->size() - 2);
-        m_globalIds.emplace(found, index);
-        if (found == globalId)
-            return index;
+        m_globalIds.emplace(*found, record);
+        if (*found == globalId)
+            return record;
     }
     return std::nullopt;
+}
+
+std::optional<fc::EntityIndex> IfcFile::searchGlobalId(std::string_view globalId) const
+{
+    std::vector<fc::EntityIndex> const& records = *m_rooted;
+    auto const search = step::RecordSearch::forBytes(m_source.file(), globalId);
+    for (std::size_t i = search.next(records, 0); i < records.size(); i = search.next(records, i + 1)) {
+        if (globalIdAt(records[i]) == globalId)
+            return records[i];
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string_view> IfcFile::globalIdAt(fc::EntityIndex index) const
+{
+    int const slot = m_source.mappingOf(index)->fileSlot(0);
+    if (slot < 0)
+        return std::nullopt;
+    auto const span =
+        step::StepRecordParser(m_source.file()).argumentSpan(index, static_cast<std::size_t>(slot));
+    return span && span->size() >= 2 ? std::optional(span->substr(1, span->size() - 2)) : std::nullopt;
 }
 
 std::string IfcFile::nameOf(fc::FcBase const& entity, unsigned int slot) const

@@ -57,7 +57,8 @@ struct SaveResult
 class HOSTIFCMODEL_EXPORT IfcFile
 {
 public:
-    /// Told how many bytes of how many are done; false asks to stop.
+    /// Told how many bytes of how many are done, at first as they are read and then, anew, as their records
+    /// are found; false asks to stop.
     using Progress = std::function<bool(std::uint64_t done, std::uint64_t total)>;
 
     /// Opens a file. What can be read of a broken one is opened, with messages; only a file without
@@ -92,7 +93,8 @@ public:
     /// The id of an entity's record, also of one that will be new in the file.
     [[nodiscard]] step::InstanceId idOf(fc::EntityIndex index) const;
     [[nodiscard]] std::shared_ptr<fc::FcBase> entityFromId(step::InstanceId id) const;
-    /// The entity with this global id; the first, when several have it.
+    /// The entity with this global id; when several have it, the first one of the class with the lowest
+    /// number.
     [[nodiscard]] std::shared_ptr<fc::FcBase> entityFromGlobalId(std::string_view globalId) const;
 
     /// Saves to \p target, which may be the file itself.
@@ -116,8 +118,12 @@ private:
     /// "IfcWall #12.Name", for messages.
     [[nodiscard]] std::string nameOf(fc::FcBase const& entity, unsigned int slot) const;
     void giveIds();
-    /// The record with this global id as it stands in the file; the first, when several have it.
+    /// The record with this global id as it stands in the file.
     [[nodiscard]] std::optional<fc::EntityIndex> placeOfGlobalId(std::string_view globalId) const;
+    /// The same without taking the global ids of other records.
+    [[nodiscard]] std::optional<fc::EntityIndex> searchGlobalId(std::string_view globalId) const;
+    /// The global id of a record as it stands in the bytes of the file; nothing when there is none.
+    [[nodiscard]] std::optional<std::string_view> globalIdAt(fc::EntityIndex index) const;
 
     std::shared_ptr<fc::Data> m_data;
     FileSource& m_source;
@@ -127,10 +133,11 @@ private:
     /// Ids of entities that were created since the file was read. Once given, an id stays.
     std::map<fc::EntityIndex, step::InstanceId> m_newIds;
     step::InstanceId m_nextId = 0;
-    /// The places of all entities with a global id, once somebody asked for one, and the first of them that
+    /// The records of all entities with a global id, once somebody asked for one, and the first of them that
     /// is not in `m_globalIds` yet: reading ends with the one that was asked for.
     mutable std::optional<std::vector<fc::EntityIndex>> m_rooted;
     mutable std::size_t m_nextRooted = 0;
+    mutable unsigned int m_globalIdSearches = 0;
     /// Places by global id as it stands in the bytes of the file.
     mutable std::unordered_map<std::string_view, fc::EntityIndex> m_globalIds;
 };

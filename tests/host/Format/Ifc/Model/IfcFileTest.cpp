@@ -3,6 +3,7 @@
 #include "FoundationClasses/Core/Kernel/FcObject.h"
 #include "FoundationClasses/Core/Kernel/FcProject.h"
 #include "FoundationClasses/Core/Kernel/FcPropertySet.h"
+#include "FoundationClasses/Core/Kernel/FcRelAssignsToGroup.h"
 #include "FoundationClasses/Core/Kernel/FcRelAssociatesClassification.h"
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
 #include "FoundationClasses/Core/ProductExtension/FcElementQuantity.h"
@@ -27,7 +28,9 @@ using fc::core::kernel::FcPropertySet;
 using fc::core::kernel::FcRelAssociatesClassification;
 using fc::resource::property::FcPropertySingleValue;
 using fc::shared::sharedbldgelements::FcWall;
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 
 std::string const wallWithSet =
@@ -172,6 +175,100 @@ TEST(IfcFile, FindsAnObjectByItsGlobalId)
     EXPECT_EQ(file->entityFromGlobalId("unknown"), nullptr);
     EXPECT_EQ(file->entityFromGlobalId("0YvctVUKr0kugbFTf53O9L"), file->entityFromId(1));
     EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), file->entityFromId(5));
+}
+
+TEST(IfcFile, FindsAGlobalIdInItsOwnPlaceOnly)
+{
+    auto const file = open("#1=IFCWALL('1YvctVUKr0kugbFTf53O9L',$,'2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$);\n"
+                           "#2=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
+                           "#3=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
+                           "#4=IFCWALL($,$,'4YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$);\n"
+                           "#5=IFCWINDOW('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$,$,$,$,$);\n");
+    // A global id is looked for at first, and read with those of all objects later.
+    for (int time = 0; time < 5; ++time) {
+        EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), file->entityFromId(2));
+        EXPECT_EQ(file->entityFromGlobalId("4YvctVUKr0kugbFTf53O9L"), nullptr);
+        EXPECT_EQ(file->entityFromGlobalId(""), nullptr);
+    }
+}
+
+TEST(IfcFile, TellsProgressOfReadingAndThenOfFindingRecords)
+{
+    test::TemporaryFolder const folder;
+    std::string records;
+    for (int i = 1; i <= 40'000; ++i)
+        records += "#" + std::to_string(i) + "=IFCCARTESIANPOINT((0.,0.));\n";
+    auto const path = folder.write("many.ifc", test::ifcText("IFC4", records));
+    std::vector<std::uint64_t> beginnings;
+    std::uint64_t last = ~std::uint64_t{0};
+    auto const opened = ifc::IfcFile::open(path, [&](std::uint64_t done, std::uint64_t total) {
+        EXPECT_LE(done, total);
+        if (done < last)
+            beginnings.push_back(done);
+        last = done;
+        return true;
+    });
+    EXPECT_EQ(beginnings.size(), 2u);
+}
+
+/// Walls 5 and 6 and a group 7, relations \p assigned, and many further ones of the second wall.
+std::string wallsInGroups(std::string const& assigned)
+{
+    constexpr int further = 300;
+    std::string records = "#5=IFCWALL('1YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
+                          "#6=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
+                          "#7=IFCGROUP('3YvctVUKr0kugbFTf53O9L',$,$,$,$);\n" +
+                          assigned;
+    for (int i = 0; i < further; ++i)
+        records += "#" + std::to_string(1000 + i) + "=IFCRELASSIGNSTOGROUP('x',$,$,$,(#6),$,#7);\n";
+    return records;
+}
+
+std::vector<step::InstanceId> assignmentsOf(ifc::IfcFile const& file, step::InstanceId object)
+{
+    using fc::core::kernel::FcRelAssigns;
+    using fc::core::kernel::FcRelAssignsToGroup;
+    std::vector<step::InstanceId> ids;
+    auto const slot = fc::slotFromName(FcRelAssigns::staticEntityClass(), "RelatedObjects");
+    for (fc::EntityIndex const relation :
+         file.data()->relating(file.entityFromId(object)->getIndex(), FcRelAssignsToGroup::idFirst,
+                               FcRelAssignsToGroup::idLast, slot))
+        ids.push_back(file.idOf(relation));
+    return ids;
+}
+
+TEST(IfcFile, FindsTheRelationsOfOneObjectAmongMany)
+{
+    auto const file = open(wallsInGroups("#10=IFCRELASSIGNSTOGROUP('#5',$,'#5',$,(#6),$,#5);\n"
+                                         "#11=IFCRELASSIGNSTOGROUP('a',$,$,$,(#6,#5),$,#7);\n"
+                                         "#12=IFCRELASSIGNSTOGROUP('b',$,$,$,( /* #6 */ #005),$,#7);\n"
+                                         "#13=IFCRELASSIGNSTOGROUP('c',$,$,$,(#55,#50),$,#7);\n"));
+    // They are looked for at first, and come from an index of all later.
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_THAT(assignmentsOf(*file, 5), ElementsAre(11u, 12u));
+        EXPECT_EQ(assignmentsOf(*file, 6).size(), 302u);
+        EXPECT_THAT(assignmentsOf(*file, 7), IsEmpty());
+        for (step::InstanceId relation = 1000; relation < 1005; ++relation)
+            EXPECT_THAT(assignmentsOf(*file, relation), IsEmpty());
+        file->data()->clearInverseIndexes();
+        for (step::InstanceId relation = 1000; relation < 1005; ++relation)
+            EXPECT_THAT(assignmentsOf(*file, relation), IsEmpty());
+    }
+}
+
+TEST(IfcFile, FindsNoRelationsOfARecordWhoseIdIsTakenAlready)
+{
+    auto const file = open(wallsInGroups("#5=IFCWALL('4YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
+                                         "#11=IFCRELASSIGNSTOGROUP('a',$,$,$,(#5),$,#7);\n"));
+    auto const second = file->entityFromGlobalId("4YvctVUKr0kugbFTf53O9L");
+    ASSERT_TRUE(second);
+    using fc::core::kernel::FcRelAssigns;
+    using fc::core::kernel::FcRelAssignsToGroup;
+    auto const slot = fc::slotFromName(FcRelAssigns::staticEntityClass(), "RelatedObjects");
+    EXPECT_THAT(file->data()->relating(second->getIndex(), FcRelAssignsToGroup::idFirst,
+                                       FcRelAssignsToGroup::idLast, slot),
+                IsEmpty());
+    EXPECT_THAT(assignmentsOf(*file, 5), ElementsAre(11u));
 }
 
 TEST(IfcFile, WithoutAnEditTheTextIsTheSame)
