@@ -77,7 +77,7 @@ void printAsJson(ObjectLabel const& label, std::vector<HeadlessEditorRow> const&
 
 ExitCode runButtons(ButtonsOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     auto const object = findObject(*file, options.globalId);

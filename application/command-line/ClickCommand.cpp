@@ -66,7 +66,7 @@ void tellWhatHappened(HeadlessEditor const& editor, ClickAnswers const& answers)
 
 ExitCode runClick(ClickOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     auto const object = findObject(*file, options.globalId);

@@ -189,7 +189,7 @@ ExitCode runEntity(EntityOptions const& options)
         std::cerr << "qev-ifc: --set and --output belong together, and to one entity\n";
         return ExitCode::BadUsage;
     }
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     if (options.all)

@@ -85,7 +85,7 @@ void print(std::vector<std::shared_ptr<fc::FcBase>> const& objects, std::vector<
 
 ExitCode runGrid(GridOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     auto const places = findObjects(*file, options.objects);

@@ -74,7 +74,7 @@ void printRefusals(ImportResult const& result)
 
 ExitCode runImport(ImportOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     auto const text = readText(options.table);
     if (!text)
         std::cerr << "qev-ifc: cannot read " << str::utf8FromPath(options.table) << '\n';

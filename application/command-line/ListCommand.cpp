@@ -139,7 +139,7 @@ private:
 
 ExitCode runList(ListOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     std::vector<std::shared_ptr<fc::FcBase>> objects;

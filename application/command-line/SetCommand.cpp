@@ -64,7 +64,7 @@ void setIn(std::shared_ptr<fc::FcBase> const& object, HeadlessGrid& grid, SetOpt
 
 ExitCode runSet(SetOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     auto const places = findObjects(*file, options.objects);

@@ -38,7 +38,7 @@ std::string kindOf(fc::ui::PropertySetDefinition const& set)
 
 ExitCode runSets(SetsOptions const& options)
 {
-    auto const file = openFile(options.file);
+    auto const file = openFileAndSchemas(options.file);
     if (!file)
         return ExitCode::UnreadableFile;
     std::vector<std::shared_ptr<fc::FcBase>> objects;

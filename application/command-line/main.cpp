@@ -4,12 +4,10 @@
 #include "Core/Locale/Locale.h"
 #include "Definitions.h"
 #include "DisplaySettings.h"
-#include "Format/Ifc/Schema/SchemaLoader.h"
 
 #include <CLI/CLI.hpp>
 
 #include <functional>
-#include <future>
 #include <iostream>
 
 namespace {
@@ -210,15 +208,6 @@ void CommandLine::addEditor(CLI::App& app)
     command->callback([this] { run = [this] { return runClick(click); }; });
 }
 
-/// Reads the schemas that every grid needs while the file is read.
-std::future<void> readSchemasAhead()
-{
-    return std::async(std::launch::async, [] {
-        qev::ifc::SchemaLoader::curr().pSchemaFromName(qev::ifc::SchemaLoader::modelVersion);
-        qev::ifc::SchemaLoader::curr().pSchemaFromName("IFC4X1");
-    });
-}
-
 void print(std::vector<std::string> const& messages)
 {
     for (auto const& message : messages)
@@ -251,7 +240,6 @@ int main(int argc, char** argv)
     // Properties of kinds that have no row yet are reported as not implemented; that is of use to developers
     // only.
     qev::assert::Assert::setEnabled(commandLine.showReports);
-    std::future<void> const schemas = readSchemasAhead();
     print(commandLine.display.apply(qev::locale::Locale()));
     if (!addAllDefinitions(commandLine.definitions))
         return static_cast<int>(ExitCode::UnreadableFile);
