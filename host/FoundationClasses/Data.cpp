@@ -330,10 +330,12 @@ std::vector<EntityIndex> const& Data::relating(EntityIndex target, unsigned int 
     InverseIndex& index = m_inverseIndexes[{relationFirst, relationLast, slot}];
     if (auto const* const known = index.find(target))
         return *known;
-    // To look for one target takes about a fifth of what an index of all takes, so who wants to know of a
-    // single object does not wait for one, and who asks for all loses little.
-    constexpr std::size_t searchesBeforeAll = 3;
+    // Who wants to know of a single object does not wait for an index of all. Among many relations, looking
+    // for a target takes about a fourth of what the index takes; among few, which may refer to thousands, far
+    // less.
+    constexpr std::size_t many = 1000;
     auto relations = indicesFromId(relationFirst, relationLast);
+    std::size_t const searchesBeforeAll = relations.size() < many ? 16 : 1;
     if (index.knownTargets() >= searchesBeforeAll)
         index.learnAll(allReferences(std::move(relations), slot));
     else

@@ -117,11 +117,11 @@ TEST_F(ReadModel, FindsRelationsWithoutMakingObjectsOfAll)
     EXPECT_EQ(data->objectCount(), 0u);
 }
 
-/// More targets than are looked for one by one: each of twelve walls has a relation of its own to the same
+/// More targets than are looked for one by one: each of forty walls has a relation of its own to the same
 /// set.
 struct ManyRelations : testing::Test
 {
-    static constexpr EntityIndex wallCount = 12;
+    static constexpr EntityIndex wallCount = 40;
     std::shared_ptr<Data> data;
 
     ManyRelations()
@@ -213,7 +213,7 @@ struct ManyRelationsAfterQuestions : ManyRelations, testing::WithParamInterface<
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Questions, ManyRelationsAfterQuestions, testing::Values(0, 1, 6));
+INSTANTIATE_TEST_SUITE_P(Questions, ManyRelationsAfterQuestions, testing::Values(0, 1, 20));
 
 TEST_P(ManyRelationsAfterQuestions, IncludeThoseThatComeTogetherWithTheirTargets)
 {

@@ -214,7 +214,7 @@ TEST(IfcFile, TellsProgressOfReadingAndThenOfFindingRecords)
 /// Walls 5 and 6 and a group 7, relations \p assigned, and many further ones of the second wall.
 std::string wallsInGroups(std::string const& assigned)
 {
-    constexpr int further = 300;
+    constexpr int further = 1200;
     std::string records = "#5=IFCWALL('1YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
                           "#6=IFCWALL('2YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$,$);\n"
                           "#7=IFCGROUP('3YvctVUKr0kugbFTf53O9L',$,$,$,$);\n" +
@@ -246,12 +246,12 @@ TEST(IfcFile, FindsTheRelationsOfOneObjectAmongMany)
     // They are looked for at first, and come from an index of all later.
     for (int time = 0; time < 2; ++time) {
         EXPECT_THAT(assignmentsOf(*file, 5), ElementsAre(11u, 12u));
-        EXPECT_EQ(assignmentsOf(*file, 6).size(), 302u);
+        EXPECT_EQ(assignmentsOf(*file, 6).size(), 1202u);
         EXPECT_THAT(assignmentsOf(*file, 7), IsEmpty());
-        for (step::InstanceId relation = 1000; relation < 1005; ++relation)
+        for (step::InstanceId relation = 1000; relation < 1020; ++relation)
             EXPECT_THAT(assignmentsOf(*file, relation), IsEmpty());
         file->data()->clearInverseIndexes();
-        for (step::InstanceId relation = 1000; relation < 1005; ++relation)
+        for (step::InstanceId relation = 1000; relation < 1020; ++relation)
             EXPECT_THAT(assignmentsOf(*file, relation), IsEmpty());
     }
 }
