@@ -310,6 +310,17 @@ TEST_F(CommandLine, AnOutputThatCannotBeWrittenGivesSix)
     EXPECT_EQ(run("save " + sample("office-IFC4.ifc") + " --output " + nowhere).exitCode, 6);
 }
 
+TEST_F(CommandLine, OutputThatFindsNoRoomIsTold)
+{
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "the system has no file that is always full";
+    auto const errors = folder.path() / "errors.txt";
+    std::string const command = quoted(QEV_IFC_PROGRAM) + " objects " + sample("office-IFC4.ifc") +
+                                " >/dev/full 2>" + quoted(errors.string());
+    EXPECT_EQ(std::system(command.c_str()) >> 8, 6);
+    EXPECT_EQ(readFile(errors), "qev-ifc: the output could not be written\n");
+}
+
 TEST_F(CommandLine, ListsGoOutAsTablesAndComeBack)
 {
     auto const file = sample("office-IFC4X3.ifc");
