@@ -376,7 +376,7 @@ std::vector<EntityIndex> Data::targetsOf(FcBase const& entity, unsigned int slot
 void Data::indexTargets(FcBase const& entity, unsigned int slot, std::vector<EntityIndex> const& targets,
                         bool add) const
 {
-    if (m_deleted[entity.m_index] || targets.empty())
+    if (targets.empty() || (add && m_deleted[entity.m_index]))
         return;
     unsigned int const number = entity.getIdFirst();
     for (auto& [key, index] : m_inverseIndexes) {
@@ -414,6 +414,14 @@ void Data::attributeWillChange(FcBase& entity, unsigned int slot)
 
 void Data::attributeDidChange(FcBase& entity, unsigned int slot)
 {
+    bool const hasBegun = !m_pending.empty() && m_pending.back().change.entity.get() == &entity &&
+                          m_pending.back().change.slot == slot;
+    if (!hasBegun) {
+        // The entity came into the model meanwhile, and there is nothing to go back to.
+        adoptReferences(entity, entity.attribute(slot));
+        indexReferences(entity, slot, true);
+        return;
+    }
     auto [change, targets] = std::move(m_pending.back());
     m_pending.pop_back();
     auto const& operations = *entity.getEntityClass().attributes[slot]->operations;

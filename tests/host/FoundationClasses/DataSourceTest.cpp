@@ -165,7 +165,19 @@ TEST_F(ManyRelations, AreFoundForTheFirstTargetAndForAll)
     EXPECT_EQ(data->objectCount(), 0u);
 }
 
-TEST_F(ManyRelations, FollowEditsOfWhatIsKnownAndOfWhatIsNot)
+/// Asks for the relations of some walls, so that fewer or more of them are known before something changes.
+struct ManyRelationsAfterQuestions : ManyRelations, testing::WithParamInterface<EntityIndex>
+{
+    ManyRelationsAfterQuestions()
+    {
+        for (EntityIndex wall = 0; wall < GetParam(); ++wall)
+            static_cast<void>(relating(wall));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Questions, ManyRelationsAfterQuestions, testing::Values(0, 1, 20));
+
+TEST_P(ManyRelationsAfterQuestions, FollowEditsOfWhatIsKnownAndOfWhatIsNot)
 {
     EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
     relateAlso(9, 7);
@@ -178,18 +190,20 @@ TEST_F(ManyRelations, FollowEditsOfWhatIsKnownAndOfWhatIsNot)
     EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
     EXPECT_THAT(relating(8), ElementsAre(relationOf(8)));
 
-    for (EntityIndex wall = 0; wall < wallCount; ++wall)
-        static_cast<void>(relating(wall));
     data->changes().redo();
     EXPECT_THAT(relating(7), ElementsAre(relationOf(7), relationOf(9)));
 }
 
-TEST_F(ManyRelations, FollowDeletionsAndAdditions)
+TEST_P(ManyRelationsAfterQuestions, FollowDeletionsAndAdditions)
 {
     EXPECT_THAT(relating(7), ElementsAre(relationOf(7)));
     data->entityDelete(relation(7));
     data->entityDelete(relation(8));
     EXPECT_THAT(relating(7), IsEmpty());
+    EXPECT_THAT(relating(8), IsEmpty());
+    data->changes().undo();
+    EXPECT_THAT(relating(8), ElementsAre(relationOf(8)));
+    data->changes().redo();
     EXPECT_THAT(relating(8), IsEmpty());
 
     auto const created = std::make_shared<FcRelDefinesByProperties>();
@@ -198,22 +212,15 @@ TEST_F(ManyRelations, FollowDeletionsAndAdditions)
     data->entityAdd(created, false);
     EXPECT_THAT(relating(9), ElementsAre(relationOf(9), created->getIndex()));
 
+    data->changes().undo();
+    EXPECT_THAT(relating(9), ElementsAre(relationOf(9)));
+    data->entityAdd(created, false);
+    EXPECT_THAT(relating(9), ElementsAre(relationOf(9), created->getIndex()));
+
     auto const wall = std::make_shared<FcWall>();
     data->entityAdd(wall, false);
     EXPECT_THAT(relating(wall->getIndex()), IsEmpty());
 }
-
-/// Asks for the relations of some walls, so that fewer or more of them are known before something changes.
-struct ManyRelationsAfterQuestions : ManyRelations, testing::WithParamInterface<EntityIndex>
-{
-    ManyRelationsAfterQuestions()
-    {
-        for (EntityIndex wall = 0; wall < GetParam(); ++wall)
-            static_cast<void>(relating(wall));
-    }
-};
-
-INSTANTIATE_TEST_SUITE_P(Questions, ManyRelationsAfterQuestions, testing::Values(0, 1, 20));
 
 TEST_P(ManyRelationsAfterQuestions, IncludeThoseThatComeTogetherWithTheirTargets)
 {
@@ -236,6 +243,27 @@ TEST_P(ManyRelationsAfterQuestions, AreRightAfterQuestionsDuringAnEdit)
     });
     EXPECT_THAT(relating(9), IsEmpty());
     EXPECT_THAT(relating(8), ElementsAre(relationOf(8), relationOf(9)));
+}
+
+TEST_P(ManyRelationsAfterQuestions, AreGoneWhenTheyAreDeletedDuringAnEdit)
+{
+    EXPECT_THAT(relating(9), ElementsAre(relationOf(9)));
+    auto const deleted = relation(9);
+    deleted->RelatedObjects.edit([&](auto& objects) {
+        objects.erase(fc::entityCast<FcWall>(data->entity(9)));
+        data->entityDelete(deleted);
+    });
+    EXPECT_THAT(relating(9), IsEmpty());
+}
+
+TEST_P(ManyRelationsAfterQuestions, AreThereWhenTheyAreAddedDuringAnEdit)
+{
+    auto const created = std::make_shared<FcRelDefinesByProperties>();
+    created->RelatedObjects.edit([&](auto& objects) {
+        data->entityAdd(created, false);
+        objects.push_back(fc::entityCast<FcWall>(data->entity(9)));
+    });
+    EXPECT_THAT(relating(9), ElementsAre(relationOf(9), created->getIndex()));
 }
 
 TEST_F(ManyRelations, AreFoundAgainAfterObjectsWereLetGo)
