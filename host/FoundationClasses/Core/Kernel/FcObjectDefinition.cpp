@@ -65,6 +65,15 @@ bool visitSets(FcRelDefinesByProperties const& relation, SetVisitor const& visit
     return true;
 }
 
+/// Files may list an object twice.
+void eraseAll(FcRelDefinesByProperties& relation, std::shared_ptr<FcObjectDefinition> const& object)
+{
+    relation.RelatedObjects.edit([&object](auto& objects) {
+        while (objects.erase(object)) {
+        }
+    });
+}
+
 /// Takes one object from a relation to several sets, so that it keeps all of them but \p set.
 void leaveOutSet(FcRelDefinesByProperties& relation, std::shared_ptr<FcPropertySetDefinition> const& set,
                  std::shared_ptr<FcObjectDefinition> const& object)
@@ -80,7 +89,7 @@ void leaveOutSet(FcRelDefinesByProperties& relation, std::shared_ptr<FcPropertyS
         relation.RelatingPropertyDefinition = definition;
         return;
     }
-    relation.RelatedObjects.edit([&object](auto& objects) { objects.erase(object); });
+    eraseAll(relation, object);
     auto const own = std::make_shared<FcRelDefinesByProperties>();
     own->setGuid(Guid::generate());
     own->OwnerHistory = relation.OwnerHistory.get();
@@ -220,7 +229,7 @@ void FcObjectDefinition::detachFromRelations(std::shared_ptr<FcPropertySetDefini
         if (setCount > 1)
             leaveOutSet(*relation, set, self);
         else if (relation->RelatedObjects->get().size() > 1)
-            relation->RelatedObjects.edit([&self](auto& objects) { objects.erase(self); });
+            eraseAll(*relation, self);
         else
             getData()->entityDelete(relation);
     }

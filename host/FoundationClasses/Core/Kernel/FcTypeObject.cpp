@@ -9,8 +9,7 @@ void FcTypeObject::eraseHasPropertySets(std::shared_ptr<FcPropertySetDefinition>
     if (!HasPropertySets.get())
         return;
     HasPropertySets.edit([&set](auto& sets) {
-        sets->erase(set);
-        if (sets->get().empty())
+        if (sets->erase(set) && sets->get().empty())
             sets.reset();
     });
 }

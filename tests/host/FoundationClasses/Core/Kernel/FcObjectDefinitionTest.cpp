@@ -382,6 +382,28 @@ TEST(DeleteObjectSet, LeavesTheOtherObjectsOfARelationToSeveralSetsAsTheyAre)
     EXPECT_FALSE(model.data()->isDeleted(a->getIndex()));
 }
 
+TEST(DeleteObjectSet, TakesTheSetFromAnObjectThatARelationListsTwice)
+{
+    Model model;
+    auto const wall = model.wall("W1");
+    auto const other = model.wall("W2");
+    auto const set = model.add<FcPropertySet>("Pset_X");
+    attachSets(model, {wall, other, wall}, {set});
+    EXPECT_TRUE(wall->deletePropertySetDefinition("Pset_X"));
+    EXPECT_THAT(setNames(*wall), IsEmpty());
+    EXPECT_THAT(setNames(*other), ElementsAre("Pset_X"));
+}
+
+TEST(EraseSetOfType, ChangesNothingForASetThatTheTypeDoesNotHave)
+{
+    Model model;
+    auto const type = model.add<fc::shared::sharedbldgelements::FcWallType>("T");
+    auto const set = model.add<FcPropertySet>("Pset_X");
+    type->HasPropertySets = fc::ReferenceList<FcPropertySetDefinition>();
+    type->eraseHasPropertySets(set);
+    EXPECT_TRUE(type->HasPropertySets.get());
+}
+
 TEST(DeleteObjectSet, IsTakenBackByOneUndo)
 {
     Model model;
