@@ -275,8 +275,12 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromId(step::InstanceId id) const
 
 std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalId) const
 {
-    if (auto const place = placeOfGlobalId(globalId))
-        return m_data->entity(*place);
+    if (auto const place = placeOfGlobalId(globalId)) {
+        constexpr std::uint64_t globalIdSlot = 1;
+        auto entity = m_data->entity(*place);
+        if (entity && (entity->changedSlots() & globalIdSlot) == 0)
+            return entity;
+    }
     for (fc::EntityIndex const index : m_data->touchedEntities()) {
         auto entity = m_data->entity(index);
         if (auto const root = fc::entityCast<FcRoot>(entity); root && root->GlobalId.get() == globalId)
@@ -290,8 +294,9 @@ std::optional<fc::EntityIndex> IfcFile::placeOfGlobalId(std::string_view globalI
     if (auto const found = m_globalIds.find(globalId); found != m_globalIds.end())
         return found->second;
     if (!m_rooted) {
-        m_rooted = m_data->indicesFromId(FcRoot::idFirst, FcRoot::idLast);
-        std::erase_if(*m_rooted, [this](fc::EntityIndex index) { return m_data->isCreated(index); });
+        m_rooted.emplace();
+        for (unsigned int number = FcRoot::idFirst; number <= FcRoot::idLast; ++number)
+            m_source.appendRecordsOfClass(static_cast<std::uint16_t>(number), *m_rooted);
     }
     // Who asks for one object or two does not wait until the global ids of others are taken from their
     // records.

@@ -192,6 +192,28 @@ TEST(IfcFile, FindsAGlobalIdInItsOwnPlaceOnly)
     }
 }
 
+TEST(IfcFile, FindsWhatWasDeletedAndCameBackByItsGlobalId)
+{
+    auto const file = open(wallWithSet);
+    auto const wall = file->entityFromId(5);
+    file->data()->entityDelete(wall);
+    EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), nullptr);
+    file->data()->changes().undo();
+    EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), wall);
+}
+
+TEST(IfcFile, FindsAnObjectByTheGlobalIdThatItHasNow)
+{
+    auto const file = open(wallWithSet);
+    auto const wall = fc::entityCast<FcWall>(file->entityFromId(5));
+    wall->GlobalId = std::string("9YvctVUKr0kugbFTf53O9L");
+    EXPECT_EQ(file->entityFromGlobalId("9YvctVUKr0kugbFTf53O9L"), wall);
+    EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), nullptr);
+    file->data()->changes().undo();
+    EXPECT_EQ(file->entityFromGlobalId("2YvctVUKr0kugbFTf53O9L"), wall);
+    EXPECT_EQ(file->entityFromGlobalId("9YvctVUKr0kugbFTf53O9L"), nullptr);
+}
+
 TEST(IfcFile, TellsProgressOfReadingAndThenOfFindingRecords)
 {
     test::TemporaryFolder const folder;
