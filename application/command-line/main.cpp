@@ -7,7 +7,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <cstdlib>
 #include <functional>
 #include <iostream>
 
@@ -249,8 +248,8 @@ int main(int argc, char** argv)
     ExitCode code = commandLine.run();
     if (!std::cout.flush()) {
         print({"the output could not be written"});
-        code = ExitCode::NotSaved;
+        if (code == ExitCode::Success)
+            code = ExitCode::NotSaved;
     }
-    // The process ends without taking the schemas to pieces first, which takes longer than most commands do.
-    std::_Exit(static_cast<int>(code));
+    return static_cast<int>(code);
 }

@@ -319,6 +319,12 @@ TEST_F(CommandLine, OutputThatFindsNoRoomIsTold)
                                 " >/dev/full 2>" + quoted(errors.string());
     EXPECT_EQ(std::system(command.c_str()) >> 8, 6);
     EXPECT_EQ(readFile(errors), "qev-ifc: the output could not be written\n");
+
+    std::string const refused = quoted(QEV_IFC_PROGRAM) + " set " + sample("office-IFC4.ifc") +
+                                " --class IfcWall --property Pset_WallCommon.ThermalTransmittance" +
+                                " --value \"not a number\" --output " + target() + " >/dev/full 2>" +
+                                quoted(errors.string());
+    EXPECT_EQ(std::system(refused.c_str()) >> 8, 5) << "what the command has to say comes first";
 }
 
 TEST_F(CommandLine, ListsGoOutAsTablesAndComeBack)

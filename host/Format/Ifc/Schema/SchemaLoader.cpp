@@ -43,12 +43,12 @@ void SchemaLoader::Version::addSets()
 {
     if (hasSets || !setsText)
         return;
-    hasSets = true;
     def::SetsTextResult result = def::parseSets(setsText());
     for (def::TextError const& error : result.errors)
         assert::report("Line " + std::to_string(error.line) + ": " + error.message,
                        "qev::ifc::SchemaLoader::pSchemaFromName", "Format/Ifc/Schema/SchemaLoader");
     schema->addDefinitions(result.context, std::move(result.definitions));
+    hasSets = true;
 }
 
 SchemaLoader::SchemaLoader()
@@ -69,7 +69,8 @@ SchemaLoader::~SchemaLoader() = default;
 
 SchemaLoader& SchemaLoader::curr()
 {
-    static SchemaLoader instance;
+    // Never taken to pieces: at the end of a program that takes longer than most of its work.
+    static SchemaLoader& instance = *new SchemaLoader;
     return instance;
 }
 
