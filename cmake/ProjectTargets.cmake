@@ -1,7 +1,12 @@
 # The few kinds of target this project has.
 
+include(CheckLinkerFlag)
 include(GenerateExportHeader)
 include(GoogleTest OPTIONAL)
+
+# A library then finds its own functions by itself, as it does on systems without this option: the tables of 872
+# classes take long to fill otherwise, whenever a program starts.
+check_linker_flag(CXX LINKER:-Bsymbolic-functions QEV_LINKER_BINDS_OWN_FUNCTIONS)
 
 # qev_add_library(NAME ROOT <include root> SOURCES ... [PUBLIC ...] [PRIVATE ...])
 #
@@ -18,9 +23,7 @@ function(qev_add_library name)
         VISIBILITY_INLINES_HIDDEN ON
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
-    if(UNIX AND NOT APPLE)
-        # A library that finds its own functions by itself, as they do elsewhere: the tables of 872 classes take
-        # long to fill otherwise, whenever a program starts.
+    if(QEV_LINKER_BINDS_OWN_FUNCTIONS)
         target_link_options(${name} PRIVATE LINKER:-Bsymbolic-functions)
     endif()
 endfunction()

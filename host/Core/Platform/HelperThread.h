@@ -6,7 +6,7 @@
 
 namespace qev::platform {
 
-/// Runs \p task on a thread of its own. The future ends with the task: its destructor waits for it.
+/// Runs \p task on another thread. The destructor of the future waits for its end.
 ///
 /// The future is not valid when the system has no thread to spare: then nothing runs, and the caller does
 /// without help.
