@@ -274,11 +274,42 @@ void FileSource::forEachReference(fc::EntityIndex index, unsigned int slot,
     int const fileSlot = fileSlotOf(index, slot);
     if (fileSlot < 0)
         return;
-    m_parser.forEachReference(index, static_cast<std::size_t>(fileSlot), [this, &visit](step::InstanceId id) {
+    auto const slotOfRecord = static_cast<std::size_t>(fileSlot);
+    if (!isLong(index)) {
+        visitReferencesOf(index, slotOfRecord, visit);
+        return;
+    }
+    auto known = m_longRecords.find({index, slotOfRecord});
+    if (known == m_longRecords.end()) {
+        constexpr std::size_t few = 16;
+        std::vector<fc::EntityIndex> references;
+        visitReferencesOf(index, slotOfRecord,
+                          [&references](fc::EntityIndex found) { references.push_back(found); });
+        if (references.size() > few) {
+            std::for_each(references.begin(), references.end(), visit);
+            return;
+        }
+        known = m_longRecords.emplace(std::pair(index, slotOfRecord), std::move(references)).first;
+    }
+    std::for_each(known->second.begin(), known->second.end(), visit);
+}
+
+void FileSource::visitReferencesOf(fc::EntityIndex index, std::size_t fileSlot,
+                                   std::function<void(fc::EntityIndex)> const& visit) const
+{
+    m_parser.forEachReference(index, fileSlot, [this, &visit](step::InstanceId id) {
         step::RecordIndex const record = m_file->indexOf(id);
         if (record != step::StepFile::noRecord)
             visit(record);
     });
+}
+
+bool FileSource::isLong(fc::EntityIndex index) const
+{
+    constexpr std::size_t longRecord = 4096;
+    bool const isLast = index + 1 == m_file->recordCount();
+    std::size_t const end = isLast ? m_file->bytes().size() : m_file->positionOf(index + 1);
+    return end - m_file->positionOf(index) > longRecord;
 }
 
 void FileSource::appendReferences(std::span<fc::EntityIndex const> records, unsigned int slot,

@@ -9,10 +9,12 @@
 #include "HostIfcModelExport.h"
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qev::ifc {
@@ -79,6 +81,9 @@ private:
     void readRecord(fc::EntityIndex index, fc::Data& data, fc::FcBase& entity);
     /// The slot of the file that a slot of the model is read from; negative when the file has none.
     [[nodiscard]] int fileSlotOf(fc::EntityIndex index, unsigned int slot) const;
+    void visitReferencesOf(fc::EntityIndex index, std::size_t fileSlot,
+                           std::function<void(fc::EntityIndex)> const& visit) const;
+    [[nodiscard]] bool isLong(fc::EntityIndex index) const;
     /// Several threads may do so at a time once the file is prepared for it.
     void readReferences(std::span<fc::EntityIndex const> records, unsigned int slot,
                         References& references) const;
@@ -99,6 +104,9 @@ private:
     std::vector<std::optional<ClassReading>> m_readings;
     /// By class of the model: the numbers of its keywords.
     std::vector<std::vector<std::uint16_t>> m_keywordNumbers;
+    /// Of long records, by record and slot of the file: what an argument with few references refers to. Who
+    /// asks one object after the other comes back to the same relation of thousands of them.
+    mutable std::map<std::pair<fc::EntityIndex, std::size_t>, std::vector<fc::EntityIndex>> m_longRecords;
     /// Records whose messages are known already: one that is let go and read again has no new ones.
     std::vector<bool> m_told;
     std::set<fc::EntityIndex> m_toldCycles;

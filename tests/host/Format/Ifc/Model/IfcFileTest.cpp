@@ -6,6 +6,8 @@
 #include "FoundationClasses/Core/Kernel/FcRelAssignsToGroup.h"
 #include "FoundationClasses/Core/Kernel/FcRelAssociatesClassification.h"
 #include "FoundationClasses/Core/Kernel/FcRelDefinesByProperties.h"
+#include "FoundationClasses/Core/Kernel/FcRelDefinesByType.h"
+#include "FoundationClasses/Core/Kernel/FcTypeObject.h"
 #include "FoundationClasses/Core/ProductExtension/FcElementQuantity.h"
 #include "FoundationClasses/Resource/Property/FcPropertySingleValue.h"
 #include "FoundationClasses/Resource/Utility/FcOwnerHistory.h"
@@ -276,6 +278,30 @@ TEST(IfcFile, FindsTheRelationsOfOneObjectAmongMany)
         for (step::InstanceId relation = 1000; relation < 1020; ++relation)
             EXPECT_THAT(assignmentsOf(*file, relation), IsEmpty());
     }
+}
+
+TEST(IfcFile, FindsTheTypeOfEachOfThousandsOfObjects)
+{
+    constexpr int walls = 2000;
+    std::string records = "#1=IFCWALLTYPE('0YvctVUKr0kugbFTf53O9L',$,'T',$,$,$,$,$,$,.SOLIDWALL.);\n"
+                          "#2=IFCRELDEFINESBYTYPE('1YvctVUKr0kugbFTf53O9L',$,$,$,(#10";
+    for (int i = 1; i < walls; ++i)
+        records += ",#" + std::to_string(10 + i);
+    records += "),#1);\n";
+    for (int i = 0; i < walls; ++i)
+        records += "#" + std::to_string(10 + i) + "=IFCWALL('x',$,$,$,$,$,$,$,$);\n";
+    auto const file = open(records);
+    auto const typeOf = [&file](step::InstanceId id) {
+        return fc::entityCast<fc::core::kernel::FcObject>(file->entityFromId(id))->getTypeObject();
+    };
+    for (step::InstanceId id = 10; id < 10 + walls; ++id)
+        ASSERT_EQ(typeOf(id), file->entityFromId(1));
+
+    auto const relation = fc::entityCast<fc::core::kernel::FcRelDefinesByType>(file->entityFromId(2));
+    relation->RelatingType = nullptr;
+    EXPECT_EQ(typeOf(10), nullptr);
+    file->data()->changes().undo();
+    EXPECT_EQ(typeOf(10), file->entityFromId(1));
 }
 
 TEST(IfcFile, FindsNoRelationsOfARecordWhoseIdIsTakenAlready)
