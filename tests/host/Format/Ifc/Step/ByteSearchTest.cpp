@@ -21,7 +21,9 @@ TEST(ByteSearch, FindsAtEveryPlaceAndOfEveryLength)
 
 TEST(ByteSearch, FindsNothingThatOnlyBeginsAndEndsAlike)
 {
-    std::string const bytes = "#1001 #1201 #1301 #1401 #1501 #1601 #1701 #1801 #1901" + std::string(64, '\0');
+    std::string const padded =
+        "#1001 #1201 #1301 #1401 #1501 #1601 #1701 #1801 #1901" + std::string(64, '\0');
+    std::string_view const bytes = std::string_view(padded).substr(0, padded.size() - 64);
     EXPECT_EQ(findBytes(bytes, "#1101"), std::string_view::npos);
     EXPECT_EQ(findBytes(bytes, "#1901"), 48u);
 }
