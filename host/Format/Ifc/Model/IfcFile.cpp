@@ -276,9 +276,9 @@ std::shared_ptr<fc::FcBase> IfcFile::entityFromId(step::InstanceId id) const
 std::shared_ptr<fc::FcBase> IfcFile::entityFromGlobalId(std::string_view globalId) const
 {
     if (auto const place = placeOfGlobalId(globalId)) {
-        constexpr std::uint64_t globalIdSlot = 1;
+        constexpr std::uint64_t globalIdBit = 1; // that of slot 0
         auto entity = m_data->entity(*place);
-        if (entity && (entity->changedSlots() & globalIdSlot) == 0)
+        if (entity && (entity->changedSlots() & globalIdBit) == 0)
             return entity;
     }
     for (fc::EntityIndex const index : m_data->touchedEntities()) {
